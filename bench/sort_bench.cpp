@@ -1,0 +1,87 @@
+// sort_bench SOURCE FOLDER N...: measures the sort run on master files of N films, made in that folder from those of
+// the source, beside a plain read, GNU sort and SQLite, and prints times, ratios and peak memory. The run itself is
+// measured in its process; GNU sort with its start, which is a good part of it where the films are few.
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <stdexcept>
+
+#include "bench/film_generator.h"
+#include "bench/sort_contestants.h"
+#include "runtime/failure.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int FewRunsFrom = 2'000'000;
+
+void Print(const char* what, const bench::Measured& measured, double read_seconds) {
+  std::printf("  %-34s %10.6f s  %7.2f x read  %6.1f MiB\n", what, measured.Seconds(),
+              measured.Seconds() / read_seconds, static_cast<double>(measured.PeakBytes) / (1024 * 1024));
+}
+
+void PrintParts(const bench::Measured& sorted, double films) {
+  std::printf("  pass by pass, ns a film:          ");
+  for (double part : sorted.Parts) std::printf(" %8.1f", part / films * 1e9);
+  std::printf("\n");
+}
+
+void Measure(const std::string& source, const std::string& folder, std::int64_t films) {
+  int runs = films >= FewRunsFrom ? 2 : 7;
+  bench::GenerateFilms(source, folder + "/Recpra.Dat", films);
+  std::printf("%lld films\n", static_cast<long long>(films));
+  bench::Measured read = bench::Best(runs, [&] { return bench::ReadMaster(folder); });
+  Print("(a) plain read of the master file", read, read.Seconds());
+  bench::Measured sorted = bench::Best(runs, [&] { return bench::SortPasses(folder, false); });
+  Print("sort run, four passes", sorted, read.Seconds());
+  PrintParts(sorted, static_cast<double>(films));
+  Print("the same with its syncs", bench::Best(2, [&] { return bench::SortPasses(folder, true); }), read.Seconds());
+  if (films < FewRunsFrom) {
+    bench::PrepareLines(folder);
+    bench::Measured lines = bench::Best(runs, [&] { return bench::SortLines(folder); });
+    Print("(b) GNU sort, one pass", lines, read.Seconds());
+    std::printf("  (b) / sort run: %.2f\n", lines.Seconds() / sorted.Seconds());
+#ifdef REELORA_SQLITE
+    bench::PrepareTable(folder);
+    bench::Measured indexes = bench::Best(2, [&] { return bench::MakeIndexes(folder); });
+    Print("(c) SQLite, four indexes", indexes, read.Seconds());
+    std::printf("  (c) / sort run: %.2f\n", indexes.Seconds() / sorted.Seconds());
+#endif
+  }
+  std::fflush(stdout);
+}
+
+std::int64_t Number(const char* text) {
+  std::int64_t number = 0;
+  const char* end = text + std::strlen(text);
+  auto [stop, error] = std::from_chars(text, end, number);
+  if (error != std::errc() || stop != end || number < 1) throw std::invalid_argument("not a number of films");
+  return number;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 4) {
+    std::cerr << "usage: sort_bench SOURCE FOLDER N...\n";
+    return 2;
+  }
+  try {
+    fs::path folder = fs::path(argv[2]) / "sort_bench";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    fs::copy(fs::path(REELORA_DELIVERED) / "UPPER.ALT", folder);
+    for (int argument = 3; argument < argc; ++argument) Measure(argv[1], folder.string(), Number(argv[argument]));
+    fs::remove_all(folder);
+    return 0;
+  } catch (const runtime::Failure& failure) {
+    std::cerr << failure.Name << ": " << failure.File << "\n";
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << "\n";
+  }
+  return 1;
+}

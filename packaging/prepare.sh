@@ -1,0 +1,31 @@
+# Sourced by ./run and ./test: installs what is missing and builds, out of tree.
+
+needs=(g++ cmake ninja-build qt6-base-dev libqt6svg6 qt6-svg-dev libgl-dev libgtest-dev libbenchmark-dev libsqlite3-dev
+  fonts-liberation poppler-utils)
+
+# Installs the packages that are missing; says what is missing where it may not.
+install_needs() {
+  local missing=() package
+  for package in "${needs[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Please install these packages first: ${missing[*]}" >&2; return 1; }
+    as_root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build_tree FOLDER TARGET... [-- CMAKE_OPTION...]
+build_tree() {
+  local folder=$1 targets=()
+  shift
+  while [ $# -gt 0 ] && [ "$1" != -- ]; do targets+=("$1"); shift; done
+  [ $# -gt 0 ] && shift
+  cmake -S . -B "$folder" -G Ninja "$@" >"$folder.log" 2>&1 || { cat "$folder.log" >&2; return 1; }
+  cmake --build "$folder" --target "${targets[@]}" >>"$folder.log" 2>&1 || { tail -n 60 "$folder.log" >&2; return 1; }
+}
