@@ -1,0 +1,29 @@
+// What the operating system's error numbers are called in the failure report.
+#include "runtime/failure.h"
+
+#include <cerrno>
+
+namespace runtime {
+
+std::string_view NameOfSystemError(int system_error) {
+  switch (system_error) {
+    case ENOENT:
+      return FileNotFound;
+    case ENOSPC:
+    case EDQUOT:
+      return DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case ENOTDIR:
+    case ELOOP:
+    case ENAMETOOLONG:
+    case ETXTBSY:
+      return PathError;
+    default:
+      return DeviceError;
+  }
+}
+
+}  // namespace runtime

@@ -1,0 +1,31 @@
+// The one failure type: thrown where a failure stops the program, caught only at the top and in the few guarded places.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace runtime {
+
+// The names under which the failure report knows them.
+inline constexpr std::string_view Overflow = "Overflow";
+inline constexpr std::string_view FileNotFound = "File not found";
+inline constexpr std::string_view InputPastEnd = "Input past end of file";
+inline constexpr std::string_view BadRecordNumber = "Bad record number";
+inline constexpr std::string_view BadFileNumber = "Bad file name or number";
+inline constexpr std::string_view FileAlreadyOpen = "File already open";
+inline constexpr std::string_view TypeMismatch = "Type mismatch";
+inline constexpr std::string_view DiskFull = "Disk full";
+inline constexpr std::string_view DeviceError = "Device I/O error";
+inline constexpr std::string_view PathError = "Path/File access error";
+inline constexpr std::string_view PrinterError = "Printer error";
+
+// Name: one of the names above. File: the file concerned, "" where there is none.
+struct Failure {
+  std::string_view Name;
+  std::string File;
+};
+
+// The name for an error number of the operating system.
+std::string_view NameOfSystemError(int system_error);
+
+}  // namespace runtime

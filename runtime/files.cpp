@@ -1,0 +1,162 @@
+// Files by number over the disk: random files through a block of records read ahead, text files in memory until they
+// are closed.
+#include "runtime/files.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "runtime/text.h"
+#include "runtime/whole_io.h"
+
+namespace runtime {
+namespace {
+
+constexpr std::size_t ReadAheadBytes = 256 * 1024;
+
+}  // namespace
+
+// Text: the content of an input file from Position on, or what has been written to an output file so far.
+struct Files::OpenFile {
+  enum class Use { Random, Input, Output } As;
+  std::string Name;
+  int RecordLength = 0;
+  std::optional<Opened> Handle;
+  std::string Text;
+  std::size_t Position = 0;
+  // What was read ahead of a random file, and where it begins.
+  std::string Ahead;
+  std::int64_t AheadFrom = 0;
+
+  void Forget() { Ahead.clear(); }
+  // The bytes at that offset, up to the record length; fewer where the file ends.
+  std::string_view Fetch(std::int64_t offset);
+};
+
+std::string_view Files::OpenFile::Fetch(std::int64_t offset) {
+  auto length = static_cast<std::size_t>(RecordLength);
+  std::int64_t ahead_end = AheadFrom + static_cast<std::int64_t>(Ahead.size());
+  if (Ahead.empty() || offset < AheadFrom || offset + RecordLength > ahead_end) {
+    bool in_sequence = !Ahead.empty() && offset >= AheadFrom && offset <= ahead_end;
+    Forget();  // a read that fails leaves nothing behind
+    std::string block(in_sequence ? std::max(length, ReadAheadBytes / length * length) : length, '\0');
+    block.resize(Handle->Read(block.data(), block.size(), offset));
+    Ahead = std::move(block);
+    AheadFrom = offset;
+  }
+  return std::string_view(Ahead).substr(static_cast<std::size_t>(offset - AheadFrom)).substr(0, length);
+}
+
+Files::Files(runtime::Disk& disk) : disk_(disk), journal_(disk) {}
+Files::~Files() = default;
+
+Files::OpenFile& Files::At(int number) {
+  if (!IsOpen(number)) throw Failure{BadFileNumber, ""};
+  return *files_[number - 1];
+}
+
+std::unique_ptr<Files::OpenFile>& Files::Free(int number, std::string_view name) {
+  if (number < 1 || number > static_cast<int>(files_.size())) throw Failure{BadFileNumber, std::string(name)};
+  if (files_[number - 1]) throw Failure{FileAlreadyOpen, std::string(name)};
+  return files_[number - 1];
+}
+
+bool Files::IsOpen(int number) const {
+  return number >= 1 && number <= static_cast<int>(files_.size()) && files_[number - 1] != nullptr;
+}
+
+void Files::OpenRandom(int number, std::string_view name, int record_length) {
+  auto& slot = Free(number, name);
+  auto file = std::make_unique<OpenFile>();
+  file->As = OpenFile::Use::Random;
+  file->Name = name;
+  file->RecordLength = record_length;
+  file->Handle.emplace(disk_, file->Name, Disk::Mode::Create);
+  journal_.Recover(*file->Handle, record_length);
+  slot = std::move(file);
+}
+
+void Files::OpenInput(int number, std::string_view name) {
+  auto& slot = Free(number, name);
+  auto file = std::make_unique<OpenFile>();
+  file->As = OpenFile::Use::Input;
+  file->Name = name;
+  Opened handle(disk_, file->Name, Disk::Mode::Read);
+  file->Text.resize(static_cast<std::size_t>(handle.Length()));
+  file->Text.resize(handle.Read(file->Text.data(), file->Text.size(), 0));
+  slot = std::move(file);
+}
+
+void Files::OpenOutput(int number, std::string_view name) {
+  auto& slot = Free(number, name);
+  slot = std::make_unique<OpenFile>();
+  slot->As = OpenFile::Use::Output;
+  slot->Name = name;
+}
+
+void Files::Close(int number) {
+  if (!IsOpen(number)) return;
+  std::unique_ptr<OpenFile> file = std::move(files_[number - 1]);
+  if (file->As != OpenFile::Use::Output) return;
+  ReplaceFile(disk_, file->Name, file->Text);
+  Replaced(file->Name);
+}
+
+void Files::CloseAll() {
+  for (int number = 1; number <= static_cast<int>(files_.size()); ++number) Close(number);
+}
+
+bool Files::Get(int number, std::int64_t record, char* target) {
+  OpenFile& file = At(number);
+  if (file.As != OpenFile::Use::Random) throw Failure{BadFileNumber, file.Name};
+  if (record < 1) throw Failure{BadRecordNumber, file.Name};
+  std::string_view bytes = file.Fetch((record - 1) * file.RecordLength);
+  if (bytes.empty()) return false;
+  bytes.copy(target, bytes.size());
+  std::memset(target + bytes.size(), ' ', file.RecordLength - bytes.size());
+  return true;
+}
+
+void Files::Put(int number, std::int64_t record, const char* source) {
+  OpenFile& file = At(number);
+  if (file.As != OpenFile::Use::Random) throw Failure{BadFileNumber, file.Name};
+  if (record < 1) throw Failure{BadRecordNumber, file.Name};
+  file.Forget();
+  journal_.Write(*file.Handle, record, {source, static_cast<std::size_t>(file.RecordLength)});
+}
+
+std::string Files::ReadItem(int number) {
+  OpenFile& file = At(number);
+  if (file.As != OpenFile::Use::Input) throw Failure{BadFileNumber, file.Name};
+  if (file.Position >= file.Text.size()) throw Failure{InputPastEnd, file.Name};
+  std::string_view rest = std::string_view(file.Text).substr(file.Position);
+  std::string_view line = rest.substr(0, rest.find('\n'));
+  file.Position += line.size() + 1;
+  if (line.size() < rest.size() && line.ends_with('\r')) line.remove_suffix(1);
+  return std::string(TrimFront(line));
+}
+
+void Files::WriteLine(int number, std::string_view line) {
+  OpenFile& file = At(number);
+  if (file.As != OpenFile::Use::Output) throw Failure{BadFileNumber, file.Name};
+  file.Text.append(line).append("\r\n");
+}
+
+std::int64_t Files::Length(int number) {
+  OpenFile& file = At(number);
+  return file.Handle ? file.Handle->Length() : static_cast<std::int64_t>(file.Text.size());
+}
+
+std::int64_t Files::Length(std::string_view name) {
+  return Opened(disk_, std::string(name), Disk::Mode::Read).Length();
+}
+
+void Files::Replaced(std::string_view name) {
+  for (auto& file : files_) {
+    if (!file || file->As != OpenFile::Use::Random || file->Name != name) continue;
+    Opened fresh(disk_, file->Name, Disk::Mode::Create);
+    file->Handle.emplace(std::move(fresh));
+    file->Forget();
+  }
+}
+
+}  // namespace runtime

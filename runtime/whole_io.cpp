@@ -1,0 +1,88 @@
+// Whole reads and writes, and the replacement of whole files.
+#include "runtime/whole_io.h"
+
+namespace runtime {
+
+std::string InSafetyFolder(std::string_view name) { return std::string(SafetyFolder) + "/" + std::string(name); }
+
+std::int64_t Checked(std::int64_t result, std::string_view file) {
+  if (result < 0) throw Failure{NameOfSystemError(static_cast<int>(-result)), std::string(file)};
+  return result;
+}
+
+Opened::Opened(Disk& disk, std::string name, Disk::Mode mode) : disk_(&disk), name_(std::move(name)) {
+  handle_ = static_cast<int>(Called(name_, [&] { return disk.Open(name_, mode); }));
+}
+
+Opened::Opened(Opened&& other) noexcept
+    : disk_(other.disk_), name_(std::move(other.name_)), handle_(std::exchange(other.handle_, -1)) {}
+
+Opened::~Opened() {
+  if (handle_ >= 0) disk_->Close(handle_);
+}
+
+std::int64_t Opened::Length() const {
+  return Called(name_, [&] { return disk_->Length(handle_); });
+}
+
+std::size_t Opened::Read(char* target, std::size_t count, std::int64_t offset) const {
+  std::size_t done = 0;
+  while (done < count) {
+    std::int64_t from = offset + static_cast<std::int64_t>(done);
+    std::int64_t part = Called(name_, [&] { return disk_->ReadAt(handle_, target + done, count - done, from); });
+    if (part == 0) break;
+    done += static_cast<std::size_t>(part);
+  }
+  return done;
+}
+
+void Opened::Write(std::string_view bytes, std::int64_t offset) const {
+  while (!bytes.empty()) {
+    std::int64_t part = Called(name_, [&] { return disk_->WriteAt(handle_, bytes.data(), bytes.size(), offset); });
+    if (part == 0) throw Failure{DeviceError, name_};
+    bytes.remove_prefix(static_cast<std::size_t>(part));
+    offset += part;
+  }
+}
+
+void Opened::Truncate(std::int64_t length) const {
+  Called(name_, [&] { return disk_->Truncate(handle_, length); });
+}
+
+void Opened::Sync() const {
+  Called(name_, [&] { return disk_->Sync(handle_); });
+}
+
+void MakeSafetyFolder(Disk& disk) {
+  Called(SafetyFolder, [&] { return disk.MakeFolder(std::string(SafetyFolder)); });
+}
+
+void SyncFolders(Disk& disk, std::string_view file) {
+  Called(file, [&] { return disk.SyncFolder(std::string(SafetyFolder)); });
+  Called(file, [&] { return disk.SyncFolder(""); });
+}
+
+void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
+  MakeSafetyFolder(disk);
+  std::string aside = InSafetyFolder(std::string(name) + std::string(AsideEnding));
+  {
+    Opened file(disk, aside, Disk::Mode::Create);
+    file.Truncate(0);
+    file.Write(content, 0);
+    file.Sync();
+  }
+  TakePlace(disk, aside, name);
+}
+
+void TakePlace(Disk& disk, std::string_view aside, std::string_view name) {
+  Called(name, [&] { return disk.Rename(std::string(aside), std::string(name)); });
+  SyncFolders(disk, name);
+}
+
+void RemoveLeftovers(Disk& disk) {
+  for (const std::string& name : disk.List(std::string(SafetyFolder))) {
+    if (name.ends_with(AsideEnding)) disk.Remove(InSafetyFolder(name));
+  }
+}
+
+}  // namespace runtime
