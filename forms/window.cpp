@@ -1,0 +1,97 @@
+// The window's focus: who holds it, who gets it next.
+#include "forms/window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/screen.h"
+
+namespace forms {
+
+Window::Window(Screen& screen, std::string name, std::string_view caption, int width, int height)
+    : Name(std::move(name)), Width(width), Height(height), screen_(&screen), caption_(caption) {
+  screen.Enlist(*this);
+}
+
+void Window::Show() {
+  if (!std::exchange(loaded_, true)) Run(Load);
+  screen_->BringToFront(*this);
+  visible_ = true;
+  if (std::exchange(seen_, true)) return;
+  if (Control* first = NextStop(NoTab, 1)) MoveFocus(*first);
+}
+
+// Of a pair of option buttons only the selected one is a stop.
+bool Window::IsStop(const Control& control) const {
+  if (!control.CanHoldFocus() || !control.Visible() || !control.Enabled() || control.Keys.Tab == NoTab) return false;
+  return control.Kind != Kind::OptionButton || static_cast<const OptionButton&>(control).Value();
+}
+
+// The stop after (step 1) or before (step -1) a tab position, in a circle; nullptr when there is none.
+Control* Window::NextStop(int tab, int step) const {
+  Control* nearest = nullptr;
+  Control* outermost = nullptr;
+  for (Control* control : controls_) {
+    if (!IsStop(*control)) continue;
+    auto nearer = [&](const Control* other) { return !other || (other->Keys.Tab - control->Keys.Tab) * step > 0; };
+    if ((control->Keys.Tab - tab) * step > 0 && nearer(nearest)) nearest = control;
+    if (nearer(outermost)) outermost = control;
+  }
+  return nearest ? nearest : outermost;
+}
+
+void Window::MoveFocus(Control& target) {
+  if (!visible_ || &target == focus_ || !target.Visible() || !target.Enabled() || !target.CanHoldFocus()) return;
+  unsigned moves = ++focus_moves_;
+  if (Control* holder = std::exchange(focus_, nullptr)) Run(holder->LostFocus);
+  if (moves != focus_moves_) return;
+  if (target.Visible() && target.Enabled()) {
+    GiveFocus(target);
+  } else if (Control* next = NextStop(target.Keys.Tab, 1)) {
+    GiveFocus(*next);
+  }
+}
+
+// A field's topic, or else the control's help id, counts as set before the handlers have their say.
+void Window::GiveFocus(Control& control) {
+  focus_ = &control;
+  if (int topic = control.Keys.TopicId ? control.Keys.TopicId : control.Keys.HelpId) HelpContext = topic;
+  Run(control.GotFocus);
+}
+
+void Window::PassFocusOn(Control& control) {
+  if (focus_ != &control) return;
+  if (Control* next = NextStop(control.Keys.Tab, 1)) {
+    MoveFocus(*next);
+  } else {
+    ++focus_moves_;
+    focus_ = nullptr;
+    Run(control.LostFocus);
+  }
+}
+
+// Moves the focus as a click or a hot key does; false where the doing ends there.
+bool Window::FocusByUser(Control& control) {
+  if (!control.CanHoldFocus() || focus_ == &control) return true;
+  unsigned boxes = screen_->Desk.BoxesShown();
+  MoveFocus(control);
+  return boxes == screen_->Desk.BoxesShown() && focus_ == &control;
+}
+
+Control* Window::ByHotKey(char letter) const {
+  int from = focus_ ? focus_->Keys.Tab : NoTab;
+  Control* nearest = nullptr;
+  Control* first = nullptr;
+  for (Control* control : controls_) {
+    bool option = control->Kind == Kind::OptionButton;
+    if (control->Kind != Kind::Button && !option && control->Kind != Kind::CheckBox) continue;
+    if (!control->Visible() || !control->Enabled() || HotKey(static_cast<Captioned*>(control)->Caption()) != letter)
+      continue;
+    if (option && static_cast<OptionButton*>(control)->Value()) continue;
+    if (control->Keys.Tab > from && (!nearest || control->Keys.Tab < nearest->Keys.Tab)) nearest = control;
+    if (!first || control->Keys.Tab < first->Keys.Tab) first = control;
+  }
+  return nearest ? nearest : first;
+}
+
+}  // namespace forms

@@ -1,0 +1,91 @@
+// A window: its controls, who of them holds the focus, its help context, and what the user's key and mouse events do to
+// them.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/controls.h"
+#include "forms/desk.h"
+
+namespace forms {
+
+class Screen;
+
+// The keys that mean something beside the characters.
+enum class Key { Tab, ShiftTab, Enter, Esc, Space, Up, Down, Home, End, F1 };
+
+class Window {
+ public:
+  Window(Screen& screen, std::string name, std::string_view caption, int width, int height);
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  const std::string Name;
+  // Of the client area, in twips.
+  const int Width, Height;
+  Handler Load, Unload, MouseMove;
+  // The button that Esc presses; nullptr for none.
+  Button* CancelButton = nullptr;
+  // The help topic that was set last; 0 for none.
+  int HelpContext = 0;
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string_view caption) { caption_ = caption; }
+  Colour BackColor() const { return back_; }
+  void SetBackColor(Colour colour) { back_ = colour; }
+
+  bool Visible() const { return visible_; }
+  // Runs Load the first time in the window's life, brings the window to the front, and makes it visible; the first time
+  // the first tab stop gets the focus.
+  void Show();
+  void Hide() { visible_ = false; }
+
+  Control* Focus() const { return focus_; }
+  const std::vector<Control*>& Controls() const { return controls_; }
+  Screen& Owner() const { return *screen_; }
+
+  // The user's doings. Where a control is hidden or disabled, or the window is not visible, nothing happens.
+  void UserClick(Control& control);
+  void UserDblClick(Control& control);
+  // The pointer is over the control; nullptr: over the bare window.
+  void UserMove(Control* control);
+  // A press on the item at that position of the list, from 0.
+  void UserPick(ListBox& list, int index);
+  void UserKey(Key key);
+  // The menu that opens, where no control has the letter; nullptr for none.
+  MenuItem* UserAlt(char letter);
+  // A character goes to the focus holder; a text box takes it at the end of its text.
+  void UserType(char character);
+  // The two halves of that for a box whose text is edited natively: KeyPress, which tells whether the box keeps the
+  // focus and takes the character, and the text as it stands after the edit.
+  bool UserKeyPress(TextBox& box);
+  void UserEdit(TextBox& box, std::string_view text);
+  // The close box: Unload runs, and the window goes.
+  void UserClose();
+
+ private:
+  friend class Control;
+  void Enlist(Control& control) { controls_.push_back(&control); }
+  void MoveFocus(Control& target);
+  void PassFocusOn(Control& control);
+  void GiveFocus(Control& control);
+  bool FocusByUser(Control& control);
+  Control* NextStop(int tab, int step) const;
+  bool IsStop(const Control& control) const;
+  void KeyInList(ListBox& list, Key key);
+  Control* ByHotKey(char letter) const;
+
+  Screen* screen_;
+  std::string caption_;
+  Colour back_ = Blue;
+  bool visible_ = false;
+  bool loaded_ = false;
+  bool seen_ = false;
+  std::vector<Control*> controls_;
+  Control* focus_ = nullptr;
+  unsigned focus_moves_ = 0;
+};
+
+}  // namespace forms
