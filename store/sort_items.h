@@ -1,0 +1,39 @@
+// The order of entries in memory: by the first window of each, and among equal ones by the further windows.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "store/sort_layout.h"
+
+namespace store {
+
+// An entry by its place in the table of entries, with a window of what is compared.
+struct SortItem {
+  std::uint64_t Window;
+  std::uint32_t Entry;
+};
+
+class ItemSorter {
+ public:
+  // Entries: the table of entries, one after the other.
+  ItemSorter(const SortLayout& layout, const char* entries) : layout_(layout), entries_(entries) {}
+
+  // Items hold their first window and stand in the order of their entries, which equal ones keep; the other windows are
+  // overwritten. Scratch is as long as items.
+  void Sort(std::span<SortItem> items, std::span<SortItem> scratch) { SortFrom(items, scratch, 0); }
+
+ private:
+  void SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t window);
+  void ByWindow(std::span<SortItem> items, std::span<SortItem> scratch);
+  void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch);
+  void LoadWindow(std::span<SortItem> items, std::size_t window) const;
+
+  const SortLayout& layout_;
+  const char* entries_;
+  // How often each value of each byte of a window stands in the items; here and not on the stack, which is deep.
+  std::array<std::array<std::uint32_t, 256>, 8> counts_{};
+};
+
+}  // namespace store
