@@ -1,0 +1,40 @@
+// Delete: the slot of the film on the screen is overwritten with blanks and is free from then on.
+#include "screen/frmPage1.h"
+#include "screen/record_boxes.h"
+#include "store/master_file.h"
+
+using store::FilmField;
+
+void frmPage1::cmdDelete_Click() {
+  HelpContext = cmdDelete.Keys.HelpId;
+  if (ListState == 1 || ListState == 2) return;
+  cmdEdit_Click();
+  if (Ask("Are you sure you want to DELETE this record? This file will be removed permanently!!") !=
+      forms::Answer::Yes) {
+    ViewKind = "";
+    cmdSave_Click();
+    Show();
+    ShowRecord();
+    return;
+  }
+  BlankFilm();
+  ScanRecNo = CurrentRecNo;
+  store::WriteRecord(Files, static_cast<int>(MasterFileNo), CurrentRecNo, store::FilmRecord());
+  SaveRecord();  // writes the same slot once more, now with its line end
+  for (forms::TextBox* box : {&txtLetter, &txtFormat, &txtCLV1, &txtRating}) box->SetText("");
+  lblSorting.SetCaption(
+      "               This Record Has Been Deleted!                         To Write a New Record Click The New Button "
+      "or Alt W ");
+  EditMode = 0;
+  NewMode = 0;
+  ClearOnShow = 0;
+}
+
+// Empties the boxes. The record's disc mode goes first, or the rule of its box would bring it back.
+void frmPage1::BlankFilm() {
+  CurrentFilm.Set(FilmField::CLV1, "");
+  for (const screen::RecordBox& row : screen::ClearingOrder) {
+    (this->*row.Box).SetText("");
+    if (row.Field == FilmField::Genre) txtGenreList.SetText("");
+  }
+}

@@ -1,0 +1,101 @@
+// Entering the fields: a film in view refuses on the way in, an open one is typed into, and the focus is steered by the
+// format.
+#include "screen/auto_texts.h"
+#include "screen/entry_fields.h"
+#include "screen/frmPage1.h"
+#include "store/film_codes.h"
+
+using screen::EntryField;
+using store::FilmField;
+
+namespace {
+constexpr std::string_view RefusalText = "Hit edit to change.";
+}
+
+// What the GotFocus of every field does; those of some fields do more.
+void frmPage1::EnterField(const EntryField& field) {
+  bool in_view = EditMode == 0 && (field.Refuse == screen::Guard::InView || NewMode == 0);
+  if (field.Refuse != screen::Guard::None && in_view) Refuse(field.Title);
+  bool edit = EditMode == 1 && (field.Left == screen::LeftWhen::Edit || field.Left == screen::LeftWhen::EditOrNew);
+  bool fresh = NewMode == 1 && (field.Left == screen::LeftWhen::New || field.Left == screen::LeftWhen::EditOrNew);
+  if (edit || fresh) (this->*field.Box).SetAlignment(forms::Align::Left);
+}
+
+void frmPage1::EnterField(forms::TextBox screen::Page1Controls::*box) { EnterField(screen::EntryOf(box)); }
+
+void frmPage1::Refuse(std::string_view title) {
+  Desk.MessageBox(forms::Icon::Warning, title, RefusalText);
+  cmdSave.SetFocus();
+}
+
+// The refusal on a click, after which the focus stays.
+void frmPage1::RefuseClick(std::string_view title) {
+  if (EditMode == 0) Desk.MessageBox(forms::Icon::Warning, title, RefusalText);
+}
+
+bool frmPage1::InEdit() const { return EditMode == 1 && NewMode == 0; }
+
+void frmPage1::ShowSaveReminder() {
+  lblSorting.Show();
+  lblSorting.SetCaption("Save Work When Finished!");
+}
+
+void frmPage1::txtTitle_Click() {
+  if (EditMode == 0) Refuse("Title");
+}
+
+void frmPage1::txtTitle_MouseUp() { HelpContext = 260; }
+
+void frmPage1::txtLabel_GotFocus() {
+  EnterField(&frmPage1::txtLabel);
+  txtFormat.Enable();
+}
+
+void frmPage1::txtNumReel_Click() {
+  if (EditMode == 1) txtNumReel.SetAlignment(forms::Align::Left);
+}
+
+void frmPage1::txtGenreList_LostFocus() {
+  if (NewMode == 1) txtTime.SetFocus();
+}
+
+void frmPage1::txtYear_GotFocus() {
+  EnterField(&frmPage1::txtYear);
+  txtLetter.Enable();
+}
+
+void frmPage1::txtYear_Change() {
+  for (forms::ListBox* list : {&List4, &List5, &List6}) list->Hide();
+}
+
+// The fork of a new film: a tape asks for its number, discs go straight to the aspect.
+void frmPage1::txtYear_LostFocus() {
+  if (NewMode == 1) {
+    if (txtFormat.Text() == "VHS") txtCassNo.SetFocus();
+    if (txtFormat.Text() == "DVD" || txtFormat.Text() == "Laser") txtLetter_Click();
+  }
+  if (EditMode == 1) List4.Hide();
+}
+
+void frmPage1::txtProducer_GotFocus() {
+  EnterField(&frmPage1::txtProducer);
+  if (NewMode == 1) {
+    lblSorting.Show();
+    if (txtAutoSave.Text() == screen::AutoSaveOn && txtAutoSort.Text() == screen::AutoSortOn) {
+      lblSorting.SetFontSize(14);
+      lblSorting.SetCaption(screen::AutoSaveNote);
+    }
+    if (txtAutoSave.Text() == screen::AutoSaveOff) lblSorting.SetCaption(screen::AutoSaveOffNote);
+    lblEnter.Hide();
+  }
+  optnoteson.Select();
+  for (forms::ListBox* list : {&List3, &List6, &List2}) list->Hide();
+}
+
+void frmPage1::txtSound_LostFocus() {
+  if (NewMode == 1) txtRating.SetFocus();
+}
+
+void frmPage1::txtAwards_Click() {
+  if (EditMode == 1 || NewMode == 1) txtAwards.SetAlignment(forms::Align::Left);
+}

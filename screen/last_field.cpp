@@ -1,0 +1,33 @@
+// The end of a film's entry: leaving the last field saves and sorts by itself. The settings decide less than their
+// names say: Auto Save off stops it for a new film alone, and Auto Sort only steers what the screen shows afterwards.
+#include "screen/auto_texts.h"
+#include "screen/entry_fields.h"
+#include "screen/frmPage1.h"
+
+void frmPage1::txtRatings_LostFocus() {
+  BeginSort();
+  bool save_on = txtAutoSave.Text() == screen::AutoSaveOn;
+  bool sort_on = txtAutoSort.Text() == screen::AutoSortOn;
+  if (save_on && sort_on && NewMode == 1) lblSorting.SetCaption(screen::AutoSaveNote);
+  if (txtAutoSave.Text() == screen::AutoSaveOff && NewMode == 1) {
+    lblSorting.SetCaption(screen::AutoSaveOffNote);
+    return;
+  }
+  for (forms::ListBox* list : {&List4, &List5, &List6}) list->Hide();
+  SaveRecord();
+  cmdPrevious.Enable();
+  if (NewMode == 1) EditMode = 0;
+  MakePasses();
+  if (sort_on && save_on && NewMode == 1) {
+    cmdSave.SetFocus();
+    cmdSave_Click();
+    optNotesoff_Click();
+  }
+  if (AutoSaveSetting == "NO" && AutoSortSetting == "NO" && NewMode == 1) {
+    lblSorting.SetCaption(std::string(60, ' ') + "You Must Save And Sort Your Work!");
+  }
+  Files.OpenOutput(CountFileNo, "Last");
+  Files.WriteLine(CountFileNo, runtime::S(CurrentRecNo) + " ");
+  Files.Close(CountFileNo);
+  LastEntryRecNo = std::to_string(CurrentRecNo);
+}

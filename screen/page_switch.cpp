@@ -1,0 +1,42 @@
+// The switch between page 1 and page 2: it shows and hides, and neither reads nor writes the record.
+#include "screen/frmPage1.h"
+#include "screen/record_boxes.h"
+
+void frmPage1::optNotesoff_Click() {
+  PageFlag = 0;
+  lblPage.SetCaption("PAGE 1");
+  txtGenre.Show();
+  txtGenreList.Show();
+  lblSorting.SetCaption("");
+  lblHead.Show();
+  lblSorting.Hide();
+  SetPageVisible(screen::PageTwo, false);
+  lblNotes1.Hide();
+  lblSave.Show();
+  SetPageVisible(screen::PageOne, true);
+  lblNumrec.Show();
+  lblRetcode.Show();
+  lblSave.Hide();
+}
+
+void frmPage1::optnoteson_Click() {
+  PageFlag = 1;
+  lblPage.SetCaption("PAGE 2");
+  SetPageVisible(screen::PageOne, false);
+  List6.Hide();
+  lblNumrec.Hide();
+  lblRetcode.Hide();
+  SetPageVisible(std::span(screen::PageTwo).first<screen::CreditPairs>(), true);
+  if (NewMode == 1) txtRating.SetText("");
+  SetPageVisible(std::span(screen::PageTwo).subspan<screen::CreditPairs>(), true);
+  if (EditMode == 0) cmdSave.SetFocus();
+  if (NewMode == 1) txtProducer.SetFocus();
+  if (EditMode == 1) txtAwards.SetAlignment(forms::Align::Left);
+}
+
+void frmPage1::SetPageVisible(std::span<const screen::PagePair> pairs, bool visible) {
+  for (const screen::PagePair& pair : pairs) {
+    (this->*pair.Box).SetVisible(visible);
+    (this->*pair.Tag).SetVisible(visible);
+  }
+}

@@ -1,0 +1,141 @@
+// Saving: what stands in the boxes goes into the record and onto the disk, and the screen comes back to rest.
+#include "runtime/text.h"
+#include "screen/frmPage1.h"
+#include "screen/record_boxes.h"
+#include "store/master_file.h"
+
+using store::FilmField;
+
+namespace {
+
+// The leading articles, tried one after the other; one that has fired does not stop the later ones.
+struct ArticleRow {
+  std::string_view Article;  // with its blank
+  std::string_view Suffix;
+};
+// clang-format off
+constexpr ArticleRow Articles[] = {
+  { "The ", ", The" },
+  { "An ",  ", An" },
+  { "A ",   ", A" },
+  { "THE ", ", THE" },
+  { "AN ",  ", AN" },
+  { "A ",   ", A" },  // once more: it catches a second article that the two tests before it have left in front
+};
+
+// Everything behind the title, in file order but for Rating, which is taken before Awards.
+constexpr screen::RecordBox SavingOrder[] = {
+  { FilmField::Director,        &screen::Page1Controls::txtDirector },
+  { FilmField::Star1,           &screen::Page1Controls::txtStar1 },
+  { FilmField::Star2,           &screen::Page1Controls::txtStar2 },
+  { FilmField::Star3,           &screen::Page1Controls::txtStar3 },
+  { FilmField::Star4,           &screen::Page1Controls::txtStar4 },
+  { FilmField::Star5,           &screen::Page1Controls::txtStar5 },
+  { FilmField::Star6,           &screen::Page1Controls::txtStar6 },
+  { FilmField::Label,           &screen::Page1Controls::txtLabel },
+  { FilmField::Format,          &screen::Page1Controls::txtFormat },
+  { FilmField::NumReel,         &screen::Page1Controls::txtNumReel },
+  { FilmField::Genre,           &screen::Page1Controls::txtGenre },
+  { FilmField::Time,            &screen::Page1Controls::txtTime },
+  { FilmField::Year,            &screen::Page1Controls::txtYear },
+  { FilmField::CassNo,          &screen::Page1Controls::txtCassNo },
+  { FilmField::Letter,          &screen::Page1Controls::txtLetter },
+  { FilmField::CLV1,            &screen::Page1Controls::txtCLV1 },
+  { FilmField::Color1,          &screen::Page1Controls::txtColor1 },
+  { FilmField::Producer,        &screen::Page1Controls::txtProducer },
+  { FilmField::Cinematographer, &screen::Page1Controls::txtCinematographer },
+  { FilmField::Written,         &screen::Page1Controls::txtWritten },
+  { FilmField::Music,           &screen::Page1Controls::txtMusic },
+  { FilmField::Choreography,    &screen::Page1Controls::txtChoreography },
+  { FilmField::SetDirection,    &screen::Page1Controls::txtSetDirection },
+  { FilmField::Costume,         &screen::Page1Controls::txtCostume },
+  { FilmField::Sound,           &screen::Page1Controls::txtSound },
+  { FilmField::Rating,          &screen::Page1Controls::txtRating },
+  { FilmField::Awards,          &screen::Page1Controls::txtAwards },
+  { FilmField::Package,         &screen::Page1Controls::txtPackage },
+  { FilmField::Purchase,        &screen::Page1Controls::txtPurchase },
+  { FilmField::Cost,            &screen::Page1Controls::txtCost },
+  { FilmField::Ratings,         &screen::Page1Controls::txtRatings },
+};
+
+// The boxes that a save centres again; txtCassNo, txtGenre and txtGenreList keep the alignment that they have.
+constexpr forms::TextBox screen::Page1Controls::*CentredBoxes[] = {
+  &screen::Page1Controls::txtTitle,        &screen::Page1Controls::txtColor1,          &screen::Page1Controls::txtLetter,
+  &screen::Page1Controls::txtCLV1,         &screen::Page1Controls::txtFormat,          &screen::Page1Controls::txtDirector,
+  &screen::Page1Controls::txtStar1,        &screen::Page1Controls::txtStar2,           &screen::Page1Controls::txtStar3,
+  &screen::Page1Controls::txtStar4,        &screen::Page1Controls::txtStar5,           &screen::Page1Controls::txtStar6,
+  &screen::Page1Controls::txtLabel,        &screen::Page1Controls::txtNumReel,         &screen::Page1Controls::txtTime,
+  &screen::Page1Controls::txtYear,         &screen::Page1Controls::txtProducer,        &screen::Page1Controls::txtCinematographer,
+  &screen::Page1Controls::txtChoreography, &screen::Page1Controls::txtMusic,           &screen::Page1Controls::txtSetDirection,
+  &screen::Page1Controls::txtAwards,       &screen::Page1Controls::txtWritten,         &screen::Page1Controls::txtCostume,
+  &screen::Page1Controls::txtSound,        &screen::Page1Controls::txtPackage,         &screen::Page1Controls::txtPurchase,
+  &screen::Page1Controls::txtCost,         &screen::Page1Controls::txtRating,          &screen::Page1Controls::txtRatings,
+};
+// clang-format on
+
+}  // namespace
+
+void frmPage1::SaveRecord() {
+  CurrentFilm.Set(FilmField::Title, txtTitle.Text());
+  TitleEnd = static_cast<std::int64_t>(runtime::Position(CurrentFilm.Get(FilmField::Title), "  "));
+  MoveArticle();
+  for (const screen::RecordBox& row : SavingOrder) CurrentFilm.Set(row.Field, (this->*row.Box).Text());
+  CurrentFilm.Set(FilmField::Tail, "\r\n");
+  if (CurrentRecNo == 0) CurrentRecNo = 1;
+  store::WriteRecord(Files, static_cast<int>(MasterFileNo), CurrentRecNo, CurrentFilm);
+  if (RecordCount == 1) {
+    RecordCount = 2;
+    FirstRecordAdjust = 1;
+    Desk.Repaint();
+  }
+  if (CurrentRecNo == 2) {
+    FirstRecordAdjust = 0;
+    Desk.Repaint();
+  }
+}
+
+// The rest of a title is always taken from the box, not from the field that an earlier test has changed.
+void frmPage1::MoveArticle() {
+  for (const ArticleRow& row : Articles) {
+    if (!CurrentFilm.Get(FilmField::Title).starts_with(row.Article)) continue;
+    std::string_view text = txtTitle.Text();
+    std::string_view rest = text.substr(std::min(row.Article.size(), text.size()), static_cast<std::size_t>(TitleEnd));
+    CurrentFilm.Set(FilmField::Title, std::string(rest).append(row.Suffix));
+  }
+}
+
+void frmPage1::cmdSave_Click() {
+  HelpContext = cmdSave.Keys.HelpId;
+  for (forms::ListBox* list : {&List4, &List5, &List6}) list->Hide();
+  cmdPrevious.Enable();
+  if (EditMode == 1) lblSave.Show();
+  if (PageFlag == 1) {
+    for (forms::TextBox* box : {&txtGenre, &txtGenreList, &txtCLV1}) box->Hide();
+  }
+  if (NewMode == 1) {
+    lblSorting.SetCaption("\n\rThank You ! Your work has been saved.\n\rYou are being returned to page 1.");
+  }
+  if (EditMode == 1) SaveRecord();
+  if (NewMode == 1) {
+    optNotesoff.Enable();
+    PageFlag = 0;
+    optNotesoff_Click();
+  }
+  NavFlag2 = 0;
+  CountRollback = 0;
+  NewMode = 0;
+  EditMode = 0;
+  ClearOnShow = 0;
+  for (auto box : CentredBoxes) (this->*box).SetAlignment(forms::Align::Centre);
+  lblSorting.Hide();
+  optnoteson.Enable();
+  optNotesoff.Enable();
+  lblNotes1.Enable();
+  txtGenreList.Enable();
+  ShowRecord();
+  for (forms::Button* button : {&cmdNext, &cmdPrevious, &cmdDelete, &cmdNew, &cmdMatch}) button->Enable();
+  lblHead.Show();
+  if (ViewState == 0) ShowNewHint();
+}
+
+void frmPage1::mnuSave_Click() { cmdSave_Click(); }

@@ -1,0 +1,100 @@
+// The sort run: four passes of the sort operation over the master file, each of which makes one key file and one count
+// file anew, with its label and its beep.
+#include "forms/desk.h"
+#include "screen/frmPage1.h"
+#include "store/master_file.h"
+#include "store/sort_operation.h"
+
+namespace screen {
+
+// Everything in which the four passes differ; what is not named here is the same in all.
+struct SortPass {
+  std::string_view KeyFile;
+  std::string_view CountFile;
+  std::string_view Doing;
+  std::string_view IncludeTest;  // of the statement, up to its constant
+  std::string_view IncludeValue;
+  std::string_view Tail;      // of the statement, behind the closing quote
+  std::string_view LeftView;  // ViewKind afterwards, "": as it was
+  bool StaysOpen;             // the key file stays file 2, and no beep comes
+};
+
+}  // namespace screen
+
+namespace {
+
+// clang-format off
+constexpr screen::SortPass Passes[] = {
+  { "Titlepra.Dat", "Titlepra", "Sorting Titles", "1,40,C,GT,",  "000000", ") Record(649)",  "",       false },
+  { "DVDpra.Dat",   "DVDpra",   "Sorting DVD",    "266,1,C,EQ,", "D",      ") Record(649) ", "DVDpra", false },  // a view that there is not
+  { "Laserpra.Dat", "Laserpra", "Sorting Lasers", "266,1,C,EQ,", "L",      ") Record(649) ", "",       false },
+  { "VHSpra.Dat",   "VHSpra",   "Sorting VHS",    "266,1,C,EQ,", "V",      ") Record(649) ", "",       true  },
+};
+// clang-format on
+
+constexpr std::string_view StatementHead = "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(";
+
+std::string StatementOf(const screen::SortPass& pass) {
+  std::string statement(StatementHead);
+  return statement.append(pass.IncludeTest).append("\"").append(pass.IncludeValue).append("\"").append(pass.Tail);
+}
+
+}  // namespace
+
+void frmPage1::WireSort() {
+  WIRE(cmdSort, Click);
+  WIRE(mnuSort, Click);
+}
+
+void frmPage1::cmdSort_Click() {
+  HelpContext = cmdSort.Keys.HelpId;
+  BeginSort();
+  MakePasses();
+  cmdReset.Show();
+  cmdReset_Click();
+}
+
+void frmPage1::mnuSort_Click() {
+  BeginSort();
+  MakePasses();
+}
+
+void frmPage1::BeginSort() {
+  SortStarted = 1;
+  Files.Close(KeyFileNo);
+  KeyFileLeftBySort = false;
+}
+
+void frmPage1::MakePasses() {
+  std::int32_t Numrec = 0;
+  std::int32_t Retcode = 0;
+  lblSorting.Show();
+  for (const screen::SortPass& pass : Passes) MakePass(pass, Numrec, Retcode);
+  lblNumrec.SetCaption(runtime::S(Numrec));
+  Desk.Beep();
+  ReadCounts();
+  for (forms::Label* label : {&lblSorting, &lblNumrec, &lblRetcode}) label->SetCaption("");
+  ShowSavedCounts("  -    No. DVDS  ", "  -    No.Laser discs  ", "  -    No.VHS  ");
+}
+
+// A pass that fails shows its status and leaves the old key file; its count file is written all the same.
+void frmPage1::MakePass(const screen::SortPass& pass, std::int32_t& Numrec, std::int32_t& Retcode) {
+  OpenKeyFile(pass.KeyFile);
+  lblSorting.SetCaption("\n\r" + std::string(pass.Doing));
+  Desk.RepaintNow();
+  SortIncludeValue = pass.IncludeValue;
+  SortStatement = StatementOf(pass);
+  store::Sort(Files.Disk(), store::MasterFileName, pass.KeyFile, SortStatement, Numrec, Retcode);
+  if (Retcode == store::SortDone) Files.Replaced(pass.KeyFile);
+  lblNumrec.SetCaption(runtime::S(Numrec));
+  lblRetcode.SetCaption(runtime::S(Retcode));
+  KeyFileLeftBySort = pass.StaysOpen;
+  if (!pass.StaysOpen) {
+    Files.Close(KeyFileNo);
+    Desk.Beep();
+  }
+  Files.OpenOutput(CountFileNo, pass.CountFile);
+  Files.WriteLine(CountFileNo, lblNumrec.Caption());
+  Files.Close(CountFileNo);
+  if (!pass.LeftView.empty()) ViewKind = pass.LeftView;
+}
