@@ -21,7 +21,7 @@ using runtime::Opened;
 
 Opened OpenEmpty(Disk& disk, const std::string& name) {
   Opened file(disk, name, Disk::Mode::Create);
-  file.Truncate(0);
+  if (file.Length() > 0) file.Truncate(0);
   return file;
 }
 

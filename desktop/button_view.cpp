@@ -1,0 +1,153 @@
+// Paints buttons, option buttons and check boxes.
+#include "desktop/button_view.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <algorithm>
+
+#include "desktop/artwork.h"
+#include "desktop/text.h"
+
+namespace desktop {
+namespace {
+
+constexpr int CaptionFlags = Qt::AlignCenter | Qt::TextShowMnemonic;
+
+// Letters go down a step at a time until the text fits the width.
+void FitFont(QPainter& painter, const QString& caption, int width) {
+  QFont font = painter.font();
+  while (font.pixelSize() > 6 && QFontMetrics(font).size(Qt::TextShowMnemonic, caption).width() > width)
+    font.setPixelSize(font.pixelSize() - 1);
+  painter.setFont(font);
+}
+
+void PaintFace(QPainter& painter, const QWidget& button, const QColor& ground, bool down) {
+  QRectF face = QRectF(button.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  QLinearGradient shade(face.topLeft(), face.bottomLeft());
+  shade.setColorAt(down ? 1 : 0, ground.lighter(118));
+  shade.setColorAt(down ? 0 : 1, ground.darker(104));
+  double corner = std::max(2.0, face.height() / 14);
+  painter.setPen(QPen(ground.darker(170), 1));
+  painter.setBrush(shade);
+  painter.drawRoundedRect(face, corner, corner);
+  if (!button.hasFocus()) return;
+  painter.setPen(QPen(QColor(0x00, 0x40, 0xC0), 2));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(face.adjusted(1.5, 1.5, -1.5, -1.5), corner, corner);
+}
+
+// A ring or a square with its mark, as high as the letters, and the caption to its right.
+void PaintOption(QWidget& option, const forms::Captioned& control, bool round, bool marked, bool down) {
+  QPainter painter(&option);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QColor fore = ToColour(control.Look().Fore);
+  if (!option.isEnabled()) fore.setAlphaF(0.5F);
+  double size = option.font().pixelSize() * 1.05;
+  QRectF ring(2, (option.height() - size) / 2, size, size);
+  painter.setPen(QPen(Qt::black, std::max(1.0, size / 14)));
+  painter.setBrush(down ? QColor(0xD0, 0xD0, 0xD0) : QColor(Qt::white));
+  round ? painter.drawEllipse(ring) : painter.drawRect(ring);
+  if (marked && round) {
+    painter.setBrush(Qt::black);
+    double inset = size * 0.27;
+    painter.drawEllipse(ring.adjusted(inset, inset, -inset, -inset));
+  } else if (marked) {
+    painter.setPen(QPen(Qt::black, size / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({ring.topLeft() + QPointF(size * 0.22, size * 0.52),
+                                    ring.topLeft() + QPointF(size * 0.42, size * 0.74),
+                                    ring.topLeft() + QPointF(size * 0.8, size * 0.26)}));
+  }
+  QRect words = option.rect().adjusted(static_cast<int>(size * 1.45) + 2, 0, 0, 0);
+  QString caption = Shown(control.Caption());
+  painter.setPen(fore);
+  painter.setFont(option.font());
+  FitFont(painter, caption, words.width());
+  int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
+  painter.drawText(words, flags, caption);
+  if (!option.hasFocus()) return;
+  painter.setPen(QPen(fore, 1, Qt::DotLine));
+  painter.drawRect(painter.boundingRect(words, flags, caption).adjusted(-2, -1, 2, 1));
+}
+
+// The option's own ground, so that it can be told from what lies below.
+void DressOption(QWidget& option, const forms::Look& look, const Grid& grid) {
+  option.setFont(grid.Font(look));
+  QPalette colours = option.palette();
+  colours.setColor(QPalette::Window, ToColour(look.Back));
+  option.setPalette(colours);
+  option.setBackgroundRole(QPalette::Window);
+  option.setAutoFillBackground(!look.Transparent);
+}
+
+}  // namespace
+
+ButtonView::ButtonView(forms::Button& button, QWidget& parent)
+    : QPushButton(&parent), ControlView(button), button_(button) {
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void ButtonView::Dress(const Grid& grid) {
+  setFont(grid.Font(button_.Look()));
+  update();
+}
+
+void ButtonView::Fill() {
+  setAccessibleName(AccessibleName(button_));
+  update();
+}
+
+void ButtonView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  PaintFace(painter, *this, ToColour(button_.Look().Back), isDown());
+  if (isDown()) painter.translate(1, 1);
+  QString caption = Shown(button_.Caption());
+  QRect words = rect().adjusted(3, 2, -3, -2);
+  if (!button_.Icon.empty()) {
+    int letters = caption.isEmpty() ? 0 : QFontMetrics(font()).height();
+    int side = std::min(words.width(), words.height() - letters - 2);
+    QRect area(words.left() + (words.width() - side) / 2, words.top() + 1, side, side);
+    painter.setOpacity(isEnabled() ? 1 : 0.35);
+    painter.drawPixmap(area, Artwork(button_.Icon, area.size(), devicePixelRatioF()));
+    painter.setOpacity(1);
+    words.setTop(words.bottom() - letters + 1);
+  }
+  painter.setFont(font());
+  FitFont(painter, caption, words.width());
+  QColor fore = ToColour(button_.Look().Fore);
+  if (!isEnabled()) fore.setAlphaF(0.4F);
+  painter.setPen(fore);
+  painter.drawText(words, CaptionFlags, caption);
+}
+
+OptionView::OptionView(forms::OptionButton& option, QWidget& parent)
+    : QRadioButton(&parent), ControlView(option), option_(option) {
+  setFocusPolicy(Qt::TabFocus);
+  setAutoExclusive(false);
+}
+
+void OptionView::Dress(const Grid& grid) { DressOption(*this, option_.Look(), grid); }
+
+void OptionView::Fill() {
+  setAccessibleName(AccessibleName(option_));
+  setChecked(option_.Value());
+  update();
+}
+
+void OptionView::paintEvent(QPaintEvent*) { PaintOption(*this, option_, true, option_.Value(), isDown()); }
+
+CheckView::CheckView(forms::CheckBox& check, QWidget& parent) : QCheckBox(&parent), ControlView(check), check_(check) {
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void CheckView::Dress(const Grid& grid) { DressOption(*this, check_.Look(), grid); }
+
+void CheckView::Fill() {
+  setAccessibleName(AccessibleName(check_));
+  setChecked(check_.Value());
+  update();
+}
+
+void CheckView::paintEvent(QPaintEvent*) { PaintOption(*this, check_, false, check_.Value(), isDown()); }
+
+}  // namespace desktop

@@ -1,0 +1,55 @@
+// Buttons with a picture above their caption, option buttons and check boxes. All are painted to the scale of the
+// window; a click reaches the form, and only the form changes what they show.
+#pragma once
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "desktop/control_view.h"
+
+namespace desktop {
+
+class ButtonView final : public QPushButton, public ControlView {
+ public:
+  ButtonView(forms::Button& button, QWidget& parent);
+  QWidget& Widget() override { return *this; }
+
+ protected:
+  void Dress(const Grid& grid) override;
+  void Fill() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  forms::Button& button_;
+};
+
+class OptionView final : public QRadioButton, public ControlView {
+ public:
+  OptionView(forms::OptionButton& option, QWidget& parent);
+  QWidget& Widget() override { return *this; }
+
+ protected:
+  void Dress(const Grid& grid) override;
+  void Fill() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  forms::OptionButton& option_;
+};
+
+class CheckView final : public QCheckBox, public ControlView {
+ public:
+  CheckView(forms::CheckBox& check, QWidget& parent);
+  QWidget& Widget() override { return *this; }
+
+ protected:
+  void Dress(const Grid& grid) override;
+  void Fill() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  forms::CheckBox& check_;
+};
+
+}  // namespace desktop

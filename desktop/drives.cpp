@@ -1,0 +1,35 @@
+// Looks through the mounted disks.
+#include "desktop/drives.h"
+
+#include <QFile>
+#include <QStorageInfo>
+#include <algorithm>
+#include <vector>
+
+namespace desktop {
+namespace {
+
+// Below the folders where desktops mount removable disks, in the order of their names.
+std::vector<std::string> RemovableDisks() {
+  std::vector<std::string> disks;
+  for (const QStorageInfo& disk : QStorageInfo::mountedVolumes()) {
+    std::string place = QFile::encodeName(disk.rootPath()).toStdString();
+    if (disk.isReady() && (place.starts_with("/media/") || place.starts_with("/run/media/"))) disks.push_back(place);
+  }
+  std::sort(disks.begin(), disks.end());
+  return disks;
+}
+
+}  // namespace
+
+std::string DriveLetters() { return RemovableDisks().size() > 1 ? "abc" : "ac"; }
+
+std::optional<std::string> DriveFolder(char letter, const std::string& folder) {
+  if (letter == 'c') return QFile::encodeName(QStorageInfo(QFile::decodeName(folder.c_str())).rootPath()).toStdString();
+  std::vector<std::string> disks = RemovableDisks();
+  auto number = static_cast<std::size_t>(letter - 'a');
+  if (letter < 'a' || number >= std::min<std::size_t>(disks.size(), 2)) return std::nullopt;
+  return disks[number];
+}
+
+}  // namespace desktop

@@ -1,0 +1,94 @@
+// Sets the line edit to the box's text, alignment and colours.
+#include "desktop/field_view.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include "desktop/text.h"
+#include "forms/screen.h"
+#include "forms/window.h"
+
+namespace desktop {
+namespace {
+
+constexpr double SmallestPart = 0.65;  // of the letters' full size
+constexpr int TextMargin = 4;          // pixels, with the caret's room
+
+QColor Between(const QColor& fore, const QColor& back) {
+  auto mixed = [](int one, int other) { return (3 * one + 2 * other) / 5; };
+  return {mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue())};
+}
+
+}  // namespace
+
+FieldView::FieldView(forms::TextBox& box, QWidget& parent)
+    : QLineEdit(&parent), ControlView(box), box_(box), validator_([this] { return Refuses(); }) {
+  setFrame(false);
+  setFocusPolicy(Qt::TabFocus);
+  setAccessibleName(AccessibleName(box));
+  setValidator(&validator_);
+}
+
+FieldView::~FieldView() { setValidator(nullptr); }
+
+// What the form itself shows is never refused.
+bool FieldView::Refuses() const {
+  if (mirroring_) return false;
+  box_.Owner().Owner().Desk.Beep();
+  return true;
+}
+
+void FieldView::Entered() {
+  if (!text().isEmpty() && text().trimmed().isEmpty()) {
+    selectAll();
+  } else if (!caret_by_mouse_) {
+    end(false);
+  }
+}
+
+void FieldView::Dress(const Grid& grid) {
+  const forms::Look& look = box_.Look();
+  full_size_ = grid.Font(look);
+  FitFont();
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, ToColour(look.Back));
+  colours.setColor(QPalette::Text, ToColour(look.Fore));
+  colours.setColor(QPalette::Disabled, QPalette::Text, Between(ToColour(look.Fore), ToColour(look.Back)));
+  colours.setColor(QPalette::Highlight, ToColour(look.Fore));
+  colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
+  setPalette(colours);
+}
+
+void FieldView::Fill() {
+  Qt::Alignment wanted_alignment =
+      (box_.Alignment() == forms::Align::Left ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter;
+  if (alignment() != wanted_alignment) setAlignment(wanted_alignment);
+  QString wanted_text = Shown(box_.Text());
+  if (wanted_text == text()) return;
+  mirroring_ = true;
+  setText(wanted_text);
+  mirroring_ = false;
+  FitFont();
+  // A long text is read from its beginning until somebody edits it.
+  if (!box_.HoldsFocus()) home(false);
+}
+
+// The longest texts of a field are shown whole in somewhat smaller letters.
+void FieldView::FitFont() {
+  QFont font = full_size_;
+  int smallest = static_cast<int>(full_size_.pixelSize() * SmallestPart);
+  int room = width() - 2 * TextMargin;
+  while (font.pixelSize() > smallest && QFontMetrics(font).horizontalAdvance(text()) > room)
+    font.setPixelSize(font.pixelSize() - 1);
+  if (font != this->font()) setFont(font);
+}
+
+void FieldView::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  double line = hasFocus() ? 2 : 1;
+  painter.setPen(QPen(hasFocus() ? QColor(0xF0, 0xA0, 0x00) : QColor(0x90, 0x90, 0xA8), line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
+}
+
+}  // namespace desktop

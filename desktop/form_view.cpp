@@ -1,0 +1,154 @@
+// Keeps the widgets of one window as its form says.
+#include "desktop/form_view.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <algorithm>
+#include <unordered_set>
+
+#include "desktop/artwork.h"
+#include "desktop/screen_view.h"
+#include "desktop/text.h"
+
+namespace desktop {
+namespace {
+
+constexpr double StartScale = 1.6;  // of the grid at 96 dots an inch
+constexpr double SmallestScale = 0.6;
+constexpr double RoomOnDisplay = 0.9;  // for title bar and frame on a small display
+
+QSize Scaled(const forms::Window& window, double scale) {
+  return QSizeF(window.Width * PixelsPerTwip * scale, window.Height * PixelsPerTwip * scale).toSize();
+}
+
+// The labels that name a field.
+std::unordered_set<const forms::Control*> TagsOf(const forms::Window& window) {
+  std::unordered_set<const forms::Control*> tags;
+  for (const forms::Control* control : window.Controls())
+    if (control->Kind == forms::Kind::TextBox)
+      if (const forms::Label* tag = static_cast<const forms::TextBox*>(control)->Tag) tags.insert(tag);
+  return tags;
+}
+
+}  // namespace
+
+FormView::FormView(forms::Window& window, ScreenView& all)
+    : window_(window),
+      screen_(all),
+      input_(*this, all),
+      surface_(this),
+      menu_(window, *this, [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.UserClick(item); }); }) {
+  auto tags = TagsOf(window);
+  for (forms::Control* control : window.Controls())
+    if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr});
+  surface_.setAutoFillBackground(true);
+  input_.Watch(*this);
+  input_.Watch(surface_);
+  menu_.Bar().setVisible(!menu_.Empty());
+  setMinimumSize(Scaled(window, SmallestScale));
+  resize(StartSize());
+  LayOut();
+  resize(width(), height() + surface_.y());
+  move(screen()->availableGeometry().center() - rect().center());
+}
+
+void FormView::Sync() {
+  if (!window_.Visible()) {
+    hide();
+    return;
+  }
+  SyncFrame();
+  menu_.Sync();
+  if (!isVisible()) LayOut();
+  MirrorControls();
+  SyncFocus();
+  for (ControlView* view : changed_) view->Withdraw();
+  show();
+}
+
+void FormView::MirrorControls() {
+  changed_.clear();
+  for (std::size_t index = 0; index < slots_.size(); ++index) {
+    Slot& slot = slots_[index];
+    if (!slot.View && !slot.Control->Visible()) continue;
+    if (!slot.View) MakeView(index);
+    if (slot.View->UpToDate()) continue;
+    slot.View->Mirror(grid_);
+    changed_.push_back(slot.View.get());
+  }
+}
+
+// Later controls lie over earlier ones, in whatever order they are first shown.
+void FormView::MakeView(std::size_t index) {
+  Slot& slot = slots_[index];
+  slot.View = desktop::MakeView(*slot.Control, surface_, slot.Tag);
+  auto above = std::find_if(slots_.begin() + static_cast<std::ptrdiff_t>(index) + 1, slots_.end(),
+                            [](const Slot& other) { return other.View != nullptr; });
+  if (above != slots_.end()) slot.View->Widget().stackUnder(&above->View->Widget());
+  input_.Watch(*slot.View);
+}
+
+ControlView* FormView::ViewOf(const forms::Control& control) const {
+  auto found = std::find_if(slots_.begin(), slots_.end(), [&](const Slot& slot) { return slot.Control == &control; });
+  return found == slots_.end() ? nullptr : found->View.get();
+}
+
+void FormView::SyncFrame() {
+  if (title_ != window_.Caption() || windowTitle().isNull()) {
+    title_ = window_.Caption();
+    setWindowTitle(Shown(title_));
+  }
+  QColor ground = ToColour(window_.BackColor());
+  if (surface_.palette().color(QPalette::Window) == ground) return;
+  QPalette colours = surface_.palette();
+  colours.setColor(QPalette::Window, ground);
+  surface_.setPalette(colours);
+}
+
+// While the user walks the menu bar with the keys, it keeps the toolkit's focus.
+void FormView::SyncFocus() {
+  if (menu_.Bar().hasFocus()) return;
+  forms::Control* holder = window_.Focus();
+  ControlView* view = holder ? ViewOf(*holder) : nullptr;
+  QWidget* wanted = view ? &view->Widget() : this;
+  if (focusWidget() != wanted) wanted->setFocus(Qt::OtherFocusReason);
+  if (focus_ == holder) return;
+  focus_ = holder;
+  if (view) view->Entered();
+}
+
+void FormView::LayOut() {
+  int bar_height = 0;
+  Grid grid = Grid::Of(size(), window_.Width, window_.Height);
+  if (!menu_.Empty()) {
+    menu_.Scale(grid);
+    bar_height = menu_.Bar().heightForWidth(width());
+    menu_.Bar().setGeometry(0, 0, width(), bar_height);
+  }
+  surface_.setGeometry(0, bar_height, width(), height() - bar_height);
+  grid = Grid::Of(surface_.size(), window_.Width, window_.Height);
+  if (grid == grid_) return;
+  grid_ = grid;
+  for (Slot& slot : slots_)
+    if (slot.View) slot.View->Forget();
+}
+
+QSize FormView::StartSize() const {
+  QSize room = screen()->availableSize() * RoomOnDisplay;
+  QSize wanted = Scaled(window_, StartScale);
+  return wanted.boundedTo(wanted.scaled(room, Qt::KeepAspectRatio));
+}
+
+void FormView::resizeEvent(QResizeEvent*) {
+  if (!window_.Visible() || !isVisible()) return;
+  LayOut();
+  MirrorControls();
+  for (ControlView* view : changed_) view->Withdraw();
+}
+
+void FormView::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  screen_.Deliver([this] { window_.UserClose(); });
+}
+
+}  // namespace desktop

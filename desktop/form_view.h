@@ -1,0 +1,60 @@
+// One window as drawn: its menu bar, and below it the surface that its controls lie on. A control gets its widget when
+// it is first shown.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "desktop/control_view.h"
+#include "desktop/menu_view.h"
+#include "desktop/user_input.h"
+#include "forms/window.h"
+
+namespace desktop {
+
+class ScreenView;
+
+class FormView final : public QWidget {
+ public:
+  FormView(forms::Window& window, ScreenView& all);
+
+  // Sets the widgets of all controls that have changed to what the form says, the focus included.
+  void Sync();
+  forms::Window& Window() const { return window_; }
+  MenuView& Menu() { return menu_; }
+  // The bare window between the controls.
+  QWidget& Surface() { return surface_; }
+  // nullptr where the control has not been shown yet.
+  ControlView* ViewOf(const forms::Control& control) const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  struct Slot {
+    forms::Control* Control;
+    bool Tag;
+    std::unique_ptr<ControlView> View;
+  };
+  void MirrorControls();
+  void MakeView(std::size_t index);
+  void SyncFrame();
+  void SyncFocus();
+  void LayOut();
+  QSize StartSize() const;
+
+  forms::Window& window_;
+  ScreenView& screen_;
+  UserInput input_;
+  QWidget surface_;
+  MenuView menu_;
+  std::vector<Slot> slots_;
+  std::vector<ControlView*> changed_;
+  Grid grid_;
+  std::string title_;
+  forms::Control* focus_ = nullptr;
+};
+
+}  // namespace desktop

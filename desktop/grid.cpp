@@ -1,0 +1,34 @@
+// Places and letter sizes in pixels.
+#include "desktop/grid.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <cmath>
+
+namespace desktop {
+
+Grid Grid::Of(QSize surface, int width, int height) {
+  return {static_cast<double>(surface.width()) / width, static_cast<double>(surface.height()) / height};
+}
+
+QRect Grid::Area(const forms::Place& place) const {
+  auto edge = [](double position) { return static_cast<int>(std::lround(position)); };
+  QPoint from(edge(place.Left * Across), edge(place.Top * Down));
+  QPoint to(edge((place.Left + place.Width) * Across), edge((place.Top + place.Height) * Down));
+  return {from, QSize(to.x() - from.x(), to.y() - from.y())};
+}
+
+int Grid::Pixels(double points) const {
+  return std::max(1, static_cast<int>(std::lround(points * TwipsPerPoint * std::min(Across, Down))));
+}
+
+// All of the forms' font names are one face here, that of Liberation Sans, which has the widths of Arial.
+QFont Grid::Font(const forms::Look& look) const {
+  QFont font;
+  font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
+  font.setPixelSize(Pixels(look.FontSize));
+  font.setBold(look.Bold);
+  return font;
+}
+
+}  // namespace desktop

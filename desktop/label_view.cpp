@@ -1,0 +1,94 @@
+// Sets captions, and finds the letter size at which a caption fits.
+#include "desktop/label_view.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QRegularExpression>
+
+#include "desktop/artwork.h"
+#include "desktop/text.h"
+
+namespace desktop {
+namespace {
+
+constexpr int SmallestLetters = 6;  // pixels
+
+// Short runs of blanks in a tag are folded; a long one was there to push what follows onto the next line.
+QString Unpadded(std::string_view caption) {
+  static const QRegularExpression LineBreak(QStringLiteral("   +"));
+  QStringList lines = Shown(caption).trimmed().split(LineBreak);
+  for (QString& line : lines) line = line.simplified();
+  return lines.join('\n');
+}
+
+}  // namespace
+
+LabelView::LabelView(forms::Label& label, QWidget& parent, bool tag)
+    : QLabel(&parent), ControlView(label), label_(label), tag_(tag) {
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setMargin(0);
+  bool left = label.Look().Lines == forms::Align::Left;
+  setAlignment((left ? Qt::AlignLeft : Qt::AlignHCenter) | (tag ? Qt::AlignTop : Qt::AlignVCenter));
+  if (label.Look().Border) setFrameStyle(QFrame::Box | QFrame::Plain);
+}
+
+void LabelView::Dress(const Grid& grid) {
+  const forms::Look& look = label_.Look();
+  full_size_ = grid.Font(look);
+  QPalette colours = palette();
+  colours.setColor(QPalette::WindowText, ToColour(look.Fore));
+  colours.setColor(QPalette::Window, ToColour(look.Back));
+  setPalette(colours);
+  setAutoFillBackground(!look.Transparent);
+  FitFont();
+}
+
+void LabelView::Fill() {
+  QString wanted = tag_ ? Unpadded(label_.Caption()) : Shown(label_.Caption()).remove('\r');
+  if (wanted == text()) return;
+  setText(wanted);
+  FitFont();
+}
+
+void LabelView::FitFont() {
+  QFont font = full_size_;
+  QRect place = contentsRect();
+  while (font.pixelSize() > SmallestLetters) {
+    QRect needed =
+        QFontMetrics(font).boundingRect(QRect(0, 0, place.width(), 0), Qt::TextWordWrap | Qt::AlignHCenter, text());
+    // The line height leaves room above capitals and below the last line, which a tight place may do without.
+    if (needed.height() - QFontMetrics(font).descent() / 2 <= place.height() && needed.width() <= place.width()) break;
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  if (font != this->font()) setFont(font);
+}
+
+StripView::StripView(forms::Control& strip, QWidget& parent) : QWidget(&parent), ControlView(strip) {
+  setAutoFillBackground(true);
+}
+
+void StripView::Dress(const Grid&) {
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, ToColour(Control().Look().Back));
+  setPalette(colours);
+}
+
+void StripView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  QColor ground = palette().color(QPalette::Window);
+  painter.fillRect(0, 0, width(), 1, ground.lighter(125));
+  painter.fillRect(0, height() - 1, width(), 1, ground.darker(160));
+}
+
+PictureView::PictureView(forms::Picture& picture, QWidget& parent)
+    : QWidget(&parent), ControlView(picture), picture_(picture) {}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  QSize size = ArtworkSize(picture_.Icon).scaled(this->size(), Qt::KeepAspectRatio);
+  QRect area(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
+  painter.drawPixmap(area, Artwork(picture_.Icon, size, devicePixelRatioF()));
+}
+
+}  // namespace desktop

@@ -1,0 +1,55 @@
+// Labels, the strip of the toolbar and pictures.
+#pragma once
+
+#include <QLabel>
+
+#include "desktop/control_view.h"
+
+namespace desktop {
+
+// A caption, centred and wrapped; where it does not fit its place the letters shrink.
+class LabelView final : public QLabel, public ControlView {
+ public:
+  // Tag: names a field; runs of blanks in it are only padding and are folded.
+  LabelView(forms::Label& label, QWidget& parent, bool tag);
+  QWidget& Widget() override { return *this; }
+
+ protected:
+  void Dress(const Grid& grid) override;
+  void Fill() override;
+
+ private:
+  void FitFont();
+  forms::Label& label_;
+  bool tag_;
+  QFont full_size_;
+};
+
+// A bare strip of colour.
+class StripView final : public QWidget, public ControlView {
+ public:
+  StripView(forms::Control& strip, QWidget& parent);
+  QWidget& Widget() override { return *this; }
+
+ protected:
+  void Dress(const Grid& grid) override;
+  void Fill() override {}
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// A picture in the middle of its place, as large as fits.
+class PictureView final : public QWidget, public ControlView {
+ public:
+  PictureView(forms::Picture& picture, QWidget& parent);
+  QWidget& Widget() override { return *this; }
+
+ protected:
+  void Dress(const Grid&) override {}
+  void Fill() override {}
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  forms::Picture& picture_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,45 @@
+// Sets the native list to the items and the selection of the list box.
+#include "desktop/list_view.h"
+
+#include <QApplication>
+#include <QScrollBar>
+
+#include "desktop/text.h"
+
+namespace desktop {
+
+ListView::ListView(forms::ListBox& list, QWidget& parent) : QListWidget(&parent), ControlView(list), list_(list) {
+  setFocusPolicy(Qt::TabFocus);
+  setUniformItemSizes(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setTextElideMode(Qt::ElideNone);
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setAccessibleName(AccessibleName(list));
+  viewport()->setMouseTracking(true);
+}
+
+void ListView::Dress(const Grid& grid) {
+  const forms::Look& look = list_.Look();
+  setFont(grid.Font(look));
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, ToColour(look.Back));
+  for (auto role : {QPalette::Text, QPalette::WindowText}) colours.setColor(role, ToColour(look.Fore));
+  colours.setColor(QPalette::Highlight, ToColour(look.Fore));
+  colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
+  setPalette(colours);
+  verticalScrollBar()->setPalette(QApplication::palette());
+}
+
+void ListView::Fill() {
+  mirroring_ = true;
+  if (shown_ != list_.Items()) {
+    shown_ = list_.Items();
+    clear();
+    for (const std::string& item : shown_) addItem(Shown(item));
+  }
+  if (currentRow() != list_.ListIndex()) setCurrentRow(list_.ListIndex());
+  if (currentItem()) scrollToItem(currentItem());
+  mirroring_ = false;
+}
+
+}  // namespace desktop

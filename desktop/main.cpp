@@ -1,0 +1,29 @@
+// The program on the desktop: holds the folder that it was started in, opens the first window and runs until the program ends.
+#include <QApplication>
+#include <QMessageBox>
+
+#include "desktop/application_look.h"
+#include "desktop/folder_lock.h"
+#include "desktop/qt_desk.h"
+#include "desktop/screen_view.h"
+#include "opening/program.h"
+#include "runtime/disk.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  desktop::SetUpLook();
+  desktop::FolderLock lock(".");
+  if (!lock.Held()) {
+    QMessageBox(QMessageBox::NoIcon, "Reelora Prima", "This collection is open already.", QMessageBox::Ok).exec();
+    return 1;
+  }
+  runtime::RealDisk disk(".");
+  desktop::QtDesk desk(".");
+  Program program(desk, disk);
+  desktop::ScreenView view(program.Screen, [&program](const std::function<void()>& event) { program.Deliver(event); });
+  desk.DrawOn(view);
+  program.StartRecordScreen();
+  view.Sync();
+  if (!program.Ended()) QApplication::exec();
+  return program.Stopped() ? 1 : 0;
+}

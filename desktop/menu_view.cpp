@@ -1,0 +1,71 @@
+// Builds the menus by the lines' levels and keeps them as the form says.
+#include "desktop/menu_view.h"
+
+#include <QMenu>
+#include <algorithm>
+
+#include "desktop/text.h"
+
+namespace desktop {
+namespace {
+
+constexpr double MenuPoints = 9;
+constexpr int SmallestLetters = 11;  // pixels
+
+}  // namespace
+
+MenuView::MenuView(forms::Window& window, QWidget& parent, std::function<void(forms::MenuItem&)> chosen)
+    : bar_(&parent) {
+  bar_.setNativeMenuBar(false);
+  std::vector<QAction*> above;  // the last line of each level
+  for (forms::Control* control : window.Controls()) {
+    if (control->Kind != forms::Kind::MenuItem) continue;
+    auto& item = static_cast<forms::MenuItem&>(*control);
+    auto level = static_cast<std::size_t>(item.Level);
+    above.resize(std::min(above.size(), level));
+    QWidget& place = above.empty() ? static_cast<QWidget&>(bar_) : MenuFor(*above.back());
+    QAction* action = place.addAction(Shown(item.Caption()));
+    QObject::connect(action, &QAction::triggered, &bar_, [&item, chosen] { chosen(item); });
+    lines_.push_back({&item, action, 0});
+    actions_.emplace(&item, action);
+    above.push_back(action);
+  }
+}
+
+QMenu& MenuView::MenuFor(QAction& action) {
+  if (!action.menu()) {
+    menus_.push_back(std::make_unique<QMenu>());
+    action.setMenu(menus_.back().get());
+  }
+  return *action.menu();
+}
+
+void MenuView::Sync() {
+  for (Line& line : lines_) {
+    if (line.Seen == line.Item->Version()) continue;
+    line.Seen = line.Item->Version();
+    line.Action->setText(Shown(line.Item->Caption()));
+    line.Action->setVisible(line.Item->Visible());
+    line.Action->setEnabled(line.Item->Enabled());
+  }
+}
+
+void MenuView::Scale(const Grid& grid) {
+  QFont font = bar_.font();
+  font.setPixelSize(std::max(grid.Pixels(MenuPoints), SmallestLetters));
+  if (font == bar_.font()) return;
+  bar_.setFont(font);
+  for (const auto& menu : menus_) menu->setFont(font);
+}
+
+void MenuView::Open(const forms::MenuItem& item) {
+  QAction* action = ActionOf(item);
+  if (action && action->menu() && bar_.isVisible()) bar_.setActiveAction(action);
+}
+
+QAction* MenuView::ActionOf(const forms::MenuItem& item) const {
+  auto found = actions_.find(&item);
+  return found == actions_.end() ? nullptr : found->second;
+}
+
+}  // namespace desktop

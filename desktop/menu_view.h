@@ -1,0 +1,44 @@
+// The menu bar of a window, made from its menu lines.
+#pragma once
+
+#include <QMenuBar>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "desktop/grid.h"
+#include "forms/window.h"
+
+namespace desktop {
+
+class MenuView {
+ public:
+  // Chosen gets the menu line that the user has chosen.
+  MenuView(forms::Window& window, QWidget& parent, std::function<void(forms::MenuItem&)> chosen);
+
+  QMenuBar& Bar() { return bar_; }
+  bool Empty() const { return actions_.empty(); }
+  // Captions, visible and enabled state as the form has them.
+  void Sync();
+  // Letters of the size that the window's scale gives them.
+  void Scale(const Grid& grid);
+  // As Alt and its letter do; nothing for a line without items.
+  void Open(const forms::MenuItem& item);
+  QAction* ActionOf(const forms::MenuItem& item) const;
+
+ private:
+  struct Line {
+    forms::MenuItem* Item;
+    QAction* Action;
+    unsigned Seen;
+  };
+  QMenu& MenuFor(QAction& action);
+
+  QMenuBar bar_;
+  std::vector<std::unique_ptr<QMenu>> menus_;
+  std::vector<Line> lines_;
+  std::unordered_map<const forms::MenuItem*, QAction*> actions_;
+};
+
+}  // namespace desktop

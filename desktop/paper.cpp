@@ -1,0 +1,88 @@
+// The queue, or the file; drawing is the page painter's.
+#include "desktop/paper.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLibrary>
+#include <QLocale>
+#include <QPdfWriter>
+#include <QStandardPaths>
+
+#include "desktop/page_painter.h"
+#include "desktop/text.h"
+#include "runtime/clock.h"
+#include "runtime/failure.h"
+
+namespace desktop {
+namespace {
+
+// What most printers can reach, so that a PDF can be put on paper later with nothing cut off.
+constexpr double PdfMargin = 0.25;  // inches
+
+[[noreturn]] void Fail() { throw runtime::Failure{runtime::PrinterError, ""}; }
+
+// The toolkit tells nobody when the queue refuses a job, but the library below it remembers. Statuses up to 7 are
+// successes.
+bool QueueTookJob() {
+  using LastError = int (*)();
+  auto last_error = reinterpret_cast<LastError>(QLibrary::resolve("cups", 2, "cupsLastError"));
+  return !last_error || last_error() <= 7;
+}
+
+void PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer) {
+  printer.setDocName(Shown(job.Title));
+  if (!PagePainter(job, printer).Paint() || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
+}
+
+// A file of that name that nobody else has, a number behind the name where it is taken.
+void OpenNew(QFile& file, const QString& folder, const QString& name) {
+  for (int number = 1;; ++number) {
+    QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
+    file.setFileName(QDir(folder).filePath(name + suffix + QStringLiteral(".pdf")));
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return;
+    if (!file.exists()) Fail();
+  }
+}
+
+void PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& size, QPageLayout::Orientation turned) {
+  QPdfWriter writer(&file);
+  writer.setTitle(Shown(job.Title));
+  writer.setCreator(QStringLiteral("Reelora Prima"));
+  writer.setPageLayout(QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
+  bool drawn = PagePainter(job, writer).Paint();
+  if (drawn && file.flush() && file.error() == QFileDevice::NoError) return;
+  file.remove();
+  Fail();
+}
+
+void PrintIntoDocuments(const runtime::PrintJob& job, std::chrono::local_seconds now) {
+  QString folder = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath("Reelora Prima");
+  if (!QDir().mkpath(folder)) Fail();
+  QString stamp = Shown(runtime::StampText(now)).replace(':', '-');
+  QFile file;
+  OpenNew(file, folder, Shown(job.Title) + ' ' + stamp);
+  bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+  PrintIntoFile(job, file, QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait);
+}
+
+void PrintIntoChosenFile(const runtime::PrintJob& job, const QPrinter& printer) {
+  QFileInfo chosen(printer.outputFileName());
+  QFile file;
+  OpenNew(file, chosen.path(), chosen.completeBaseName());
+  PrintIntoFile(job, file, printer.pageLayout().pageSize(), printer.pageLayout().orientation());
+}
+
+}  // namespace
+
+void PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chrono::local_seconds now) {
+  if (!printer.outputFileName().isEmpty()) {
+    PrintIntoChosenFile(job, printer);
+  } else if (printer.outputFormat() == QPrinter::PdfFormat) {
+    PrintIntoDocuments(job, now);
+  } else {
+    PrintOnQueue(job, printer);
+  }
+}
+
+}  // namespace desktop

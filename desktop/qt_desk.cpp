@@ -1,0 +1,119 @@
+// Boxes and dialogs over the window in front. What a handler has changed is drawn before one comes up.
+#include "desktop/qt_desk.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDateTime>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <utility>
+
+#include "desktop/control_view.h"
+#include "desktop/drives.h"
+#include "desktop/input_dialog.h"
+#include "desktop/screen_view.h"
+#include "desktop/text.h"
+#include "runtime/failure.h"
+#include "runtime/print_job.h"
+
+namespace desktop {
+namespace {
+
+constexpr std::string_view OwnTitle = "Reelora Prima";
+constexpr std::chrono::milliseconds DisplayFrame(16);
+
+QString TitleOf(std::string_view title) { return Shown(title.empty() ? OwnTitle : title); }
+
+QMessageBox::Icon IconOf(forms::Icon icon) {
+  switch (icon) {
+    case forms::Icon::Warning:
+      return QMessageBox::Warning;
+    case forms::Icon::Question:
+      return QMessageBox::Question;
+    case forms::Icon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+QtDesk::QtDesk(std::string folder) : folder_(std::move(folder)) {}
+
+QWidget* QtDesk::Below() {
+  if (!view_) return nullptr;
+  view_->Sync();
+  return view_->Front();
+}
+
+forms::Answer QtDesk::AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
+                                    forms::Buttons buttons) {
+  QMessageBox box(Below());
+  box.setWindowTitle(TitleOf(title));
+  box.setIcon(IconOf(icon));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Shown(text).remove('\r'));
+  bool ok = buttons == forms::Buttons::Ok;
+  box.setStandardButtons(ok ? QMessageBox::Ok : QMessageBox::Yes | QMessageBox::No);
+  int pressed = box.exec();
+  if (ok) return forms::Answer::Ok;
+  return pressed == QMessageBox::Yes ? forms::Answer::Yes : forms::Answer::No;
+}
+
+std::string QtDesk::InputBox(std::string_view title, std::string_view prompt) {
+  InputDialog dialog(TitleOf(title), Shown(prompt).remove('\r'), Below());
+  return dialog.exec() == QDialog::Accepted ? Stored(dialog.Answer()) : std::string();
+}
+
+void QtDesk::Beep() { QApplication::beep(); }
+
+std::optional<std::uint32_t> QtDesk::ColourDialog(std::uint32_t start) {
+  QColor colour = QColorDialog::getColor(ToColour(start), Below());
+  if (!colour.isValid()) return std::nullopt;
+  return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
+}
+
+QPrinter& QtDesk::Printer() {
+  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *printer_;
+}
+
+void QtDesk::PrinterDialog() { QPrintDialog(&Printer(), Below()).exec(); }
+
+void QtDesk::Print(const runtime::PrintJob&) { throw runtime::Failure{runtime::PrinterError, ""}; }
+
+void QtDesk::Help(int) {
+  if (!help_) help_ = std::make_unique<HelpViewer>(folder_);
+  help_->Open();
+}
+
+std::chrono::local_seconds QtDesk::Now() {
+  QDateTime now = QDateTime::currentDateTime();
+  return std::chrono::local_seconds(std::chrono::seconds(now.toSecsSinceEpoch() + now.offsetFromUtc()));
+}
+
+std::string QtDesk::DriveLetters() { return desktop::DriveLetters(); }
+
+std::optional<std::string> QtDesk::DriveFolder(char letter) { return desktop::DriveFolder(letter, folder_); }
+
+void QtDesk::Repaint() {
+  if (std::chrono::steady_clock::now() - painted_ >= DisplayFrame) RepaintNow();
+}
+
+void QtDesk::RepaintNow() {
+  if (view_) view_->Paint();
+  painted_ = std::chrono::steady_clock::now();
+}
+
+void QtDesk::Closed() { QApplication::quit(); }
+
+void QtDesk::FailureReport(std::string_view failure, std::string_view file) {
+  QString text = Shown(failure);
+  if (!file.empty()) text += QStringLiteral("\n\n%1").arg(Shown(file));
+  QMessageBox box(QMessageBox::Critical, Shown(OwnTitle), text, QMessageBox::Ok, Below());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+  QApplication::exit(1);
+}
+
+}  // namespace desktop

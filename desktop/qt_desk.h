@@ -1,0 +1,51 @@
+// The desk of the running program: boxes, dialogs, printer, help viewer, clock and drives of this machine.
+#pragma once
+
+#include <QPrinter>
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include "desktop/help_viewer.h"
+#include "forms/desk.h"
+
+namespace desktop {
+
+class ScreenView;
+
+class QtDesk final : public forms::Desk {
+ public:
+  // The folder of the collection.
+  explicit QtDesk(std::string folder);
+  // Where what the handlers change is drawn; boxes stand over its window in front.
+  void DrawOn(ScreenView& view) { view_ = &view; }
+
+  std::string InputBox(std::string_view title, std::string_view prompt) override;
+  void Beep() override;
+  std::optional<std::uint32_t> ColourDialog(std::uint32_t start) override;
+  void PrinterDialog() override;
+  void Print(const runtime::PrintJob& job) override;
+  void Help(int topic) override;
+  std::chrono::local_seconds Now() override;
+  std::string DriveLetters() override;
+  std::optional<std::string> DriveFolder(char letter) override;
+  void Repaint() override;
+  void RepaintNow() override;
+  void Closed() override;
+  void FailureReport(std::string_view failure, std::string_view file) override;
+
+ protected:
+  forms::Answer AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text, forms::Buttons buttons) override;
+
+ private:
+  QWidget* Below();
+  QPrinter& Printer();
+
+  std::string folder_;
+  ScreenView* view_ = nullptr;
+  std::unique_ptr<QPrinter> printer_;
+  std::unique_ptr<HelpViewer> help_;
+  std::chrono::steady_clock::time_point painted_;
+};
+
+}  // namespace desktop

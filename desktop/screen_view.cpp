@@ -1,0 +1,53 @@
+// Draws the windows of the screen, the one in front in front.
+#include "desktop/screen_view.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+#include "forms/window.h"
+
+namespace desktop {
+
+ScreenView::ScreenView(forms::Screen& screen, Delivery deliver) : screen_(screen), deliver_(std::move(deliver)) {}
+
+void ScreenView::Deliver(const std::function<void()>& event) {
+  if (delivering_) return;
+  delivering_ = true;
+  deliver_(event);
+  delivering_ = false;
+  Sync();
+}
+
+void ScreenView::Sync() {
+  for (forms::Window* window : screen_.Windows()) {
+    std::unique_ptr<FormView>* view = nullptr;
+    if (auto found = views_.find(window); found != views_.end()) {
+      view = &found->second;
+    } else if (window->Visible()) {
+      view = &views_.emplace(window, std::make_unique<FormView>(*window, *this)).first->second;
+    }
+    if (view) (*view)->Sync();
+  }
+  const forms::Window* front = screen_.Front();
+  if (std::exchange(front_, front) == front || !front) return;
+  FormView& view = *ViewOf(*front);
+  view.raise();
+  view.activateWindow();
+}
+
+void ScreenView::Paint() {
+  Sync();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+FormView* ScreenView::ViewOf(const forms::Window& window) const {
+  auto found = views_.find(&window);
+  return found == views_.end() ? nullptr : found->second.get();
+}
+
+FormView* ScreenView::Front() const {
+  const forms::Window* front = screen_.Front();
+  return front ? ViewOf(*front) : nullptr;
+}
+
+}  // namespace desktop

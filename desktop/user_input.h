@@ -1,0 +1,58 @@
+// What the user does to the widgets of one window, told to its form in the form's own terms. The widgets keep only
+// their native editing: caret, selection, clipboard, undo, input methods, scrolling.
+#pragma once
+
+#include <QObject>
+#include <unordered_map>
+
+#include "forms/window.h"
+
+class QContextMenuEvent;
+class QInputMethodEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QWidget;
+
+namespace desktop {
+
+class ControlView;
+class FieldView;
+class FormView;
+class ScreenView;
+
+class UserInput final : public QObject {
+ public:
+  UserInput(FormView& form, ScreenView& screen);
+  void Watch(ControlView& view);
+  // The window itself, or its bare surface.
+  void Watch(QWidget& bare);
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  forms::Window& Window() const;
+  // Sets the widget back to what the form says once the event has run.
+  void Deliver(ControlView& view, const std::function<void()>& event);
+  void WatchSignals(ControlView& view);
+
+  static bool KeepsFromHotKeys(QKeyEvent& key);
+  bool KeyPressed(QKeyEvent& key);
+  bool KeyInField(FieldView& field, QKeyEvent& key);
+  bool Composed(FieldView& field, QInputMethodEvent& event);
+  bool AskKeyPress(FieldView& field, const QString& characters);
+  void AltPressed(char letter);
+
+  bool MousePressed(ControlView* view, QMouseEvent& mouse);
+  bool MouseReleased(ControlView* view, QMouseEvent& mouse);
+  bool MouseMoved(ControlView* view, QMouseEvent& mouse);
+  bool MouseDoubled(ControlView* view, QMouseEvent& mouse);
+  bool ContextMenuAsked(ControlView* view);
+  void PickAt(ControlView& view, const QPoint& position);
+  void Click(ControlView& view);
+
+  FormView& form_;
+  ScreenView& screen_;
+  std::unordered_map<const QObject*, ControlView*> views_;
+  ControlView* pressed_ = nullptr;
+};
+
+}  // namespace desktop

@@ -1,0 +1,120 @@
+// The keys: what the form takes, and what a text box edits natively once the form has been asked.
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <optional>
+
+#include "desktop/field_view.h"
+#include "desktop/form_view.h"
+#include "desktop/screen_view.h"
+#include "desktop/text.h"
+#include "desktop/user_input.h"
+#include "forms/screen.h"
+
+namespace desktop {
+namespace {
+
+std::optional<forms::Key> NamedKey(const QKeyEvent& key) {
+  switch (key.key()) {
+    case Qt::Key_Tab:
+      return key.modifiers() & Qt::ShiftModifier ? forms::Key::ShiftTab : forms::Key::Tab;
+    case Qt::Key_Backtab:
+      return forms::Key::ShiftTab;
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+      return forms::Key::Enter;
+    case Qt::Key_Escape:
+      return forms::Key::Esc;
+    case Qt::Key_Space:
+      return forms::Key::Space;
+    case Qt::Key_Up:
+      return forms::Key::Up;
+    case Qt::Key_Down:
+      return forms::Key::Down;
+    case Qt::Key_Home:
+      return forms::Key::Home;
+    case Qt::Key_End:
+      return forms::Key::End;
+    case Qt::Key_F1:
+      return forms::Key::F1;
+    default:
+      return std::nullopt;
+  }
+}
+
+// Keys that a text box edits with by itself.
+bool Edits(forms::Key key) { return key == forms::Key::Space || key == forms::Key::Home || key == forms::Key::End; }
+
+// The characters that a key stands for; none while Ctrl or Alt makes something else of it.
+QString Characters(const QKeyEvent& key) {
+  if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return {};
+  return key.text().isEmpty() || key.text().at(0).category() == QChar::Other_Control ? QString() : key.text();
+}
+
+std::optional<char> AltLetter(const QKeyEvent& key) {
+  bool letter = key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z;
+  bool alt = (key.modifiers() & ~Qt::ShiftModifier) == Qt::AltModifier;
+  return letter && alt ? std::optional(static_cast<char>(key.key())) : std::nullopt;
+}
+
+}  // namespace
+
+// A letter with Alt belongs to the form, not to the toolkit's own hot keys.
+bool UserInput::KeepsFromHotKeys(QKeyEvent& key) {
+  if (!AltLetter(key)) return false;
+  key.accept();
+  return true;
+}
+
+bool UserInput::KeyPressed(QKeyEvent& key) {
+  if (std::optional<char> letter = AltLetter(key)) {
+    AltPressed(*letter);
+    return true;
+  }
+  forms::Control* holder = Window().Focus();
+  auto* field = holder ? dynamic_cast<FieldView*>(form_.ViewOf(*holder)) : nullptr;
+  std::optional<forms::Key> named = NamedKey(key);
+  if (field && (!named || Edits(*named))) return KeyInField(*field, key);
+  if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return true;
+  if (named) {
+    screen_.Deliver([&] { Window().UserKey(*named); });
+    return true;
+  }
+  for (char character : Stored(Characters(key))) screen_.Deliver([&] { Window().UserType(character); });
+  return true;
+}
+
+void UserInput::AltPressed(char letter) {
+  forms::MenuItem* menu = nullptr;
+  screen_.Deliver([&] { menu = Window().UserAlt(letter); });
+  if (menu) form_.Menu().Open(*menu);
+}
+
+bool UserInput::KeyInField(FieldView& field, QKeyEvent& key) {
+  QString characters = Characters(key);
+  if (!characters.isEmpty() && !AskKeyPress(field, characters)) return true;
+  static_cast<QObject&>(field).event(&key);
+  key.accept();
+  return true;
+}
+
+// Whether the box takes the characters: the code page has them, and KeyPress has left the focus where it was.
+bool UserInput::AskKeyPress(FieldView& field, const QString& characters) {
+  if (!Storable(characters)) {
+    Window().Owner().Desk.Beep();
+    return false;
+  }
+  bool taken = false;
+  screen_.Deliver([&] { taken = Window().UserKeyPress(field.Box()); });
+  return taken;
+}
+
+// What an input method hands over at last is a typed character; what it shows until then is its own affair.
+bool UserInput::Composed(FieldView& field, QInputMethodEvent& event) {
+  if (event.commitString().isEmpty() || AskKeyPress(field, event.commitString())) return false;
+  QInputMethodEvent nothing;
+  static_cast<QObject&>(field).event(&nothing);
+  event.accept();
+  return true;
+}
+
+}  // namespace desktop

@@ -1,0 +1,149 @@
+// From the chosen file and drive to the copy: what the user is asked on the way, and what an empty drive or a full disk
+// leads to. The master file is closed while the window is open.
+#include "filecopy/frmCopy.h"
+
+#include "forms/screen.h"
+#include "runtime/code_page.h"
+#include "store/master_file.h"
+
+namespace {
+
+constexpr int MasterNo = 1;
+// The drive of the program's folder: a name alone means the file there.
+constexpr std::string_view OwnDrive = "C:";
+constexpr std::string_view NoDiskText =
+    "There is no disk in floppy drive, or wrong drive was selected. Insert disk and click ok.";
+
+}  // namespace
+
+frmCopy::frmCopy(forms::Screen& screen, frmPage1& record_screen)
+    : Window(screen, "frmCopy", "Copy Files", 7200, 4800),
+      RecordScreen(record_screen),
+      DiskIn([](const std::string& folder) { return std::make_unique<runtime::RealDisk>(folder); }) {
+  Load = [this] { frmCopy_Load(); };
+  Unload = [this] { frmCopy_Unload(); };
+  WIRE(Dir1, Change);
+  WIRE(Dir2, Change);
+  WIRE(File1, Click);
+  WIRE(File1, DblClick);
+  WIRE(Drive1, GotFocus);
+  WIRE(Drive1, LostFocus);
+  WIRE(Drive1, Change);
+}
+
+void frmPage1::mnuCopy_Click() {
+  Files.Close(MasterNo);
+  if (frmCopy) frmCopy->Open();
+}
+
+void frmPage1::WireCopy() { WIRE(mnuCopy, Click); }
+
+// A window that was closed begins afresh; one that was only hidden is as it was left.
+void frmCopy::Open() {
+  if (unloaded_) frmCopy_Load();
+  Show();
+  File1.Refresh();
+  Drive1.Refresh(RecordScreen.Desk.DriveLetters());
+}
+
+void frmCopy::frmCopy_Load() {
+  unloaded_ = false;
+  RecordScreen.Files.Close(MasterNo);
+  File2.Hide();
+  Dir2.Hide();
+  for (forms::ListBox* list : {static_cast<forms::ListBox*>(&File1), static_cast<forms::ListBox*>(&Drive1)})
+    list->Empty();
+  Dir1.Refresh();
+  File1.SetPath(Dir1.Path());
+  for (forms::Label* label : {&lblCopy3, &lblCopy4, &lblCopy5, &lblCopy7}) label->Hide();
+  Drive1.Disable();
+  SkipChange = 0;
+}
+
+void frmCopy::frmCopy_Unload() {
+  unloaded_ = true;
+  SkipChange = 1;
+  OpenMasterAgain();
+}
+
+void frmCopy::Dir1_Change() { File1.SetPath(Dir1.Path()); }
+void frmCopy::Dir2_Change() { File2.SetPath(Dir2.Path()); }
+
+void frmCopy::File1_Click() {
+  LetterWord.assign(1, 'A');
+  Drive1.Enable();
+  Drive1_GotFocus();
+}
+
+void frmCopy::File1_DblClick() { File1_Click(); }
+
+void frmCopy::Drive1_GotFocus() {
+  for (forms::Label* label : {&lblCopy3, &lblCopy4, &lblCopy5}) label->Show();
+}
+
+void frmCopy::Drive1_LostFocus() { SkipChange = 0; }
+
+void frmCopy::Drive1_Change() {
+  RecordScreen.Files.Close(MasterNo);
+  if (SkipChange == 1) return;
+  File1.SetPath(Dir1.Path());
+  SourceName = File1.Selected();
+  filecopy::FileFacts source = filecopy::FactsOf(Hard(), File1.OnDisk(SourceName));
+  TakeDrive();
+  bool done = false;
+  try {
+    std::optional<filecopy::FileFacts> target = TargetFacts();
+    done = target ? AskToReplace(source, *target) : AskToCopy();
+  } catch (const runtime::Failure&) {
+    GiveUp();
+  }
+  if (done) Leave();
+}
+
+void frmCopy::TakeDrive() {
+  LetterWord = runtime::Upper(Drive1.Selected());
+  DriveWord = LetterWord == "A" || LetterWord == "B" ? LetterWord + ":" : LetterWord;
+  TargetPath = OnFloppy() ? DriveWord + "\\" + std::string(runtime::Trim(SourceName)) : SourceName;
+}
+
+bool frmCopy::OnFloppy() const { return DriveWord == "A:" || DriveWord == "B:"; }
+
+// Throws where the drive holds no disk.
+std::unique_ptr<runtime::Disk> frmCopy::DriveDisk() {
+  auto letter = static_cast<char>(DriveWord[0] - 'A' + 'a');
+  std::optional<std::string> folder = RecordScreen.Desk.DriveFolder(letter);
+  if (!folder) throw runtime::Failure{runtime::PathError, TargetPath};
+  return DiskIn(*folder);
+}
+
+// Nothing where the target does not exist. For any drive but A and B the target is the name alone, in the program's
+// folder.
+std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
+  std::string name = runtime::ToUtf8(SourceName);
+  try {
+    return OnFloppy() ? filecopy::FactsOf(*DriveDisk(), name) : filecopy::FactsOf(Hard(), name);
+  } catch (const runtime::Failure& failure) {
+    if (failure.Name != runtime::FileNotFound) throw;
+    return std::nullopt;
+  }
+}
+
+void frmCopy::CopyToDrive() {
+  if (DriveWord == OwnDrive) return;
+  filecopy::CopyFile(Hard(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
+}
+
+void frmCopy::GiveUp() {
+  RecordScreen.Desk.MessageBox(forms::Icon::Warning, BoxTitle, NoDiskText);
+  lblCopy7.Show();
+}
+
+void frmCopy::OpenMasterAgain() {
+  if (!RecordScreen.Files.IsOpen(MasterNo)) store::OpenMaster(RecordScreen.Files, MasterNo);
+}
+
+void frmCopy::Leave() {
+  Hide();
+  OpenMasterAgain();
+  RecordScreen.Show();
+}

@@ -1,0 +1,80 @@
+// The Copy Files window: a data file of the program's folder goes to a disk in drive A or B.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "filecopy/copy_file.h"
+#include "filecopy/pickers.h"
+#include "screen/frmPage1.h"
+
+namespace filecopy {
+
+inline constexpr std::string_view Pattern = "*.dat";
+
+// clang-format off
+inline constexpr forms::Look HeadingLook = { forms::Yellow, forms::Blue,  true,  "Arial", 16,   true };
+inline constexpr forms::Look StepLook    = { forms::Yellow, forms::Blue,  true,  "Arial", 10,   true };
+inline constexpr forms::Look AgainLook   = { forms::White,  forms::Blue,  true,  "Arial", 14,   true };
+inline constexpr forms::Look PickerLook  = { forms::Black,  forms::White, false, "Arial", 10,   false };
+// clang-format on
+
+}  // namespace filecopy
+
+// clang-format off
+struct frmCopy : forms::Window {
+  frmCopy(forms::Screen& screen, frmPage1& record_screen);
+
+  frmPage1& RecordScreen;
+  // Makes the disk of a drive's folder.
+  std::function<std::unique_ptr<runtime::Disk>(const std::string& folder)> DiskIn;
+
+  // Dir1 lies below File1, whose folder it holds.
+  filecopy::FolderList Dir2   { *this, "Dir2", filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk() };
+  filecopy::FileList   File2  { *this, "File2", {}, filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk(), filecopy::Pattern.substr(1) };
+  filecopy::FolderList Dir1   { *this, "Dir1", filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk() };
+  filecopy::FileList   File1  { *this, "File1", {0, 0, 0}, filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk(), filecopy::Pattern.substr(1) };
+  filecopy::DriveList  Drive1 { *this, "Drive1", {1, 0, 0}, filecopy::PickerLook, {3900, 3300, 3000, 1200} };
+
+  forms::Label lblCopy  { *this, "lblCopy",  "Copy Data to Floppy",                                 {}, filecopy::HeadingLook, { 300,  210, 6600, 480} };
+  forms::Label lblCopy2 { *this, "lblCopy2", "Copy recpra.dat",                                     {}, filecopy::StepLook,    { 300,  780, 3300, 300} };
+  forms::Label lblCopy6 { *this, "lblCopy6", "Click on file to make selection",                     {}, filecopy::StepLook,    { 300, 1110, 3300, 300} };
+  forms::Label lblCopy3 { *this, "lblCopy3", "Click on  down arrow ",                               {}, filecopy::StepLook,    {3900, 1500, 3000, 300} };
+  forms::Label lblCopy4 { *this, "lblCopy4", "Click on \"a\" to copy data to  floppy drive \"a\"",  {}, filecopy::StepLook,    {3900, 1860, 3000, 540} };
+  forms::Label lblCopy5 { *this, "lblCopy5", "Make sure  there's a disc in drive \"A\" or \"B\".",  {}, filecopy::StepLook,    {3900, 2460, 3000, 540} };
+  forms::Label lblCopy7 { *this, "lblCopy7", "Try Again!",                                          {}, filecopy::AgainLook,   {3900,  960, 3000, 420} };
+
+  // The shared words: what is copied, where its date is looked up, the drive as a path and as it is named to the user;
+  // SkipChange is 1 while a Change of Drive1 must be ignored.
+  std::string SourceName, TargetPath, DriveWord, LetterWord;
+  runtime::Int16 SkipChange = 0;
+
+  // Shows the window, with the files and drives that there are now.
+  void Open();
+  void frmCopy_Load();
+  void frmCopy_Unload();
+  void Dir1_Change();
+  void Dir2_Change();
+  void File1_Click();
+  void File1_DblClick();
+  void Drive1_GotFocus();
+  void Drive1_LostFocus();
+  void Drive1_Change();
+
+ private:
+  void TakeDrive();
+  bool OnFloppy() const;
+  runtime::Disk& Hard() const { return RecordScreen.Files.Disk(); }
+  std::unique_ptr<runtime::Disk> DriveDisk();
+  std::optional<filecopy::FileFacts> TargetFacts();
+  bool AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target);
+  bool AskToCopy();
+  void CopyToDrive();
+  void GiveUp();
+  void OpenMasterAgain();
+  void Leave();
+  bool unloaded_ = false;
+};
+// clang-format on

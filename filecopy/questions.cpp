@@ -1,0 +1,40 @@
+// What the copy window asks before it copies.
+#include "filecopy/frmCopy.h"
+#include "runtime/clock.h"
+
+namespace {
+
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+std::string Sentence(const std::string& name, const filecopy::FileFacts& facts) {
+  return runtime::Upper(name) + " was created or last modified on " + runtime::LongDateText(facts.Modified) + " at " +
+         runtime::ShortTimeText(facts.Modified) + ". Its size is " + std::to_string(facts.Size) + " bytes. ";
+}
+
+}  // namespace
+
+// Whether the window goes: with either answer.
+bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target) {
+  std::string question = std::string(15, ' ') + "REPLACE CURRENT FILE ON DRIVE " + Quoted(LetterWord) + "\r\n\r\n";
+  question += Sentence(TargetPath, target) + " To replace this file with the one below, click " + Quoted("Yes") +
+              " or quit click " + Quoted("No") + ".\r\n\r\n";
+  question += "    WITH CURRENT FILE ON " + Quoted("HARD DISK") + "\r\n\r\n" + Sentence(SourceName, source);
+  if (RecordScreen.Ask(question) == forms::Answer::Yes) {
+    CopyToDrive();
+  } else {
+    SkipChange = 1;
+  }
+  return true;
+}
+
+// Whether the window goes: with Yes alone.
+bool frmCopy::AskToCopy() {
+  bool yes = RecordScreen.Ask("Do you want to copy " + SourceName + " to Drive " + LetterWord + " hit Yes, or No ") ==
+             forms::Answer::Yes;
+  if (yes) {
+    CopyToDrive();
+  } else {
+    SkipChange = 1;
+  }
+  return yes;
+}

@@ -1,0 +1,140 @@
+// The lines of a film are tables of cells: a column, a box, and the words around its text.
+#include "reports/full_list.h"
+
+#include <span>
+#include <vector>
+
+
+using screen::Page1Controls;
+
+namespace reports {
+namespace {
+
+constexpr std::string_view Title = "Reelora Prima All Titles Full List  ";
+constexpr std::string_view KeyFile = "Titlepra.Dat";
+constexpr double FilmsOfAPage = 8;
+constexpr int LastLine = 55;
+constexpr int FootLine = 56;
+constexpr Closing FullListClosing{"End of file!   please wait. ", " Page to print.", PrintBoxTitle};
+
+// Box: nullptr where the words stand alone. The box's text is printed without the blanks around it.
+struct Cell {
+  int Column;
+  std::string_view Lead;
+  forms::TextBox Page1Controls::*Box;
+  std::string_view Tail = "";
+};
+// The line of a film in a format; its words differ in small things on purpose.
+struct FormatLine {
+  std::string_view Word;
+  Cell Cells[5];
+};
+
+// clang-format off
+constexpr Cell SecondLine[] = {
+  {  3, "", &Page1Controls::txtStar1 }, { 34, "", &Page1Controls::txtStar2 },
+  { 64, "", &Page1Controls::txtTime, " mins." }, { 73, "", &Page1Controls::txtYear },
+};
+constexpr Cell ThirdLine[] = {
+  {  3, "", &Page1Controls::txtStar3 }, { 34, "", &Page1Controls::txtStar4 },
+  { 64, "", &Page1Controls::txtColor1 }, { 70, "", &Page1Controls::txtLetter },
+};
+constexpr Cell FourthLine[] = {
+  {  3, "", &Page1Controls::txtStar5 }, { 34, "", &Page1Controls::txtStar6 },
+  { 64, "", &Page1Controls::txtGenreList },
+};
+constexpr FormatLine FormatLines[] = {
+  { "DVD",   { {  3, "Label:", &Page1Controls::txtLabel },  { 25, "DVD ",     &Page1Controls::txtNumReel, "Disc(s)" },
+               { 43, "MPAA :", &Page1Controls::txtRating }, { 55, "DVD Disc", nullptr },
+               { 70, "SND",    &Page1Controls::txtSound } } },
+  { "Laser", { {  3, "Label:", &Page1Controls::txtLabel },  { 25, "Laser ",   &Page1Controls::txtNumReel, " Disc(s)" },
+               { 43, "MPAA :", &Page1Controls::txtRating }, { 55, "",         &Page1Controls::txtCLV1 },
+               { 70, "SND: ",  &Page1Controls::txtSound } } },
+  { "VHS",   { {  3, "Label:", &Page1Controls::txtLabel },  { 25, "VHS ",     &Page1Controls::txtNumReel, " Cass(s)." },
+               { 43, "MPAA :", &Page1Controls::txtRating }, { 55, "Cass# ",   &Page1Controls::txtCassNo },
+               { 70, "SND: ",  &Page1Controls::txtSound } } },
+};
+// clang-format on
+
+void PrintCells(const frmPage1& page, runtime::Printer& paper, std::span<const Cell> cells) {
+  std::vector<runtime::PrintItem> items;
+  items.reserve(4 * cells.size());
+  for (const Cell& cell : cells) {
+    std::string_view text = cell.Box ? runtime::Trim((page.*cell.Box).Text()) : std::string_view();
+    items.insert(items.end(), {runtime::Tab{cell.Column}, cell.Lead, text, cell.Tail});
+  }
+  paper.Print(items);
+}
+
+}  // namespace
+
+void FullList::Run() {
+  Page.ViewKind = "Title";
+  Page.lblHead.SetCaption("All Titles Full List Print Program");
+  Estimate(static_cast<double>(Page.RecordCount) / FilmsOfAPage);
+  Page.PrintPending = 1;
+  Page.RowCursor = 0;
+  if (!Confirm("If you have added any new records be sure to sort files before printing!\n\n"
+               "Are you sure you want to print all titles? The full list will take "))
+    return;
+  Page.ScanRecNo = 0;
+  while (true) {
+    PrintPageHead();
+    do {
+      if (!NextFilm(KeyFile)) return PrintEnd();
+      LoadFilm();
+      Page.ShowRecord();
+      PrintFilm();
+    } while (LineCount < LastLine);
+    FeedUpTo(FootLine);
+    PrintPageNumber(38);
+    TurnPage();
+  }
+}
+
+void FullList::PrintPageHead() {
+  FeedLines(1);
+  SetUpFont();
+  PrintHeading(4, Title);
+  LineCount += 6;
+  Paper.PrintEmpty();
+  LineCount += 1;
+  PrintRule();
+  LineCount += 1;
+}
+
+// Rating and notes stand on page 2 of the screen and are taken as the record holds them, the notes with their padding,
+// so that the underline of the last line goes all the way.
+void FullList::PrintFilm() {
+  Page.txtRating.SetText(Page.CurrentFilm.Get(store::FilmField::Rating));
+  Page.txtAwards.SetText(Page.CurrentFilm.Get(store::FilmField::Awards));
+  Paper.Print({runtime::Tab{3}, runtime::Trim(Page.txtTitle.Text()), runtime::Tab{34},
+               runtime::Trim(Page.txtDirector.Text()), " (Dir.)", runtime::Tab{72}, "REC #",
+               std::to_string(Page.CurrentRecNo)});
+  Page.RowCursor += 1;
+  PrintCells(Page, Paper, SecondLine);
+  PrintCells(Page, Paper, ThirdLine);
+  PrintCells(Page, Paper, FourthLine);
+  LineCount += 4;
+  for (const FormatLine& line : FormatLines) {
+    if (Page.txtFormat.Text() != line.Word) continue;
+    PrintCells(Page, Paper, line.Cells);
+    LineCount += 1;
+  }
+  Paper.SetUnderline(true);
+  Paper.Print({runtime::Tab{3}, "Notes/Awards: ", Page.txtAwards.Text(), runtime::Tab{77}, ":  "});
+  Paper.SetUnderline(false);
+  LineCount += 1;
+}
+
+void FullList::PrintEnd() {
+  Paper.PrintEmpty();
+  Paper.Print({runtime::Tab{3}, "TOTAL FILM(S) IN LIBRARY", "  ", runtime::NumberItem{Page.RowCursor}});
+  Paper.PrintEmpty();
+  PrintPageNumber(38);
+  Release(Title);
+  Page.Desk.Beep();
+  Close(FullListClosing);
+}
+
+}  // namespace reports

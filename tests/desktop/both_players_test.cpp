@@ -1,0 +1,161 @@
+// The same actions, chosen by a fixed seed, on the bare forms and on the drawn widgets: both must end up alike after every one.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <sstream>
+
+#include "tests/desktop/widget_player.h"
+#include "tests/story/bare_player.h"
+#include "tests/story/fresh_folder.h"
+#include "tests/story/set_up.h"
+
+namespace story {
+namespace {
+
+// Says Yes to everything and writes down what came.
+class LoggingDesk final : public forms::Desk {
+ public:
+  std::string Log;
+
+  std::string InputBox(std::string_view, std::string_view prompt) override { return Log.append(prompt) += "|", "A"; }
+  void Beep() override { Log += "beep|"; }
+  std::optional<std::uint32_t> ColourDialog(std::uint32_t) override { return Log += "colour|", 0x123456; }
+  void PrinterDialog() override { Log += "printer|"; }
+  void Print(const runtime::PrintJob&) override { Log += "printed|"; }
+  void Help(int topic) override { Log += "help " + std::to_string(topic) + "|"; }
+  std::chrono::local_seconds Now() override { return {}; }
+  std::string DriveLetters() override { return "ac"; }
+  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
+  void Repaint() override {}
+  void RepaintNow() override {}
+  void Closed() override { Log += "closed|"; }
+  void FailureReport(std::string_view failure, std::string_view file) override {
+    Log.append(failure).append(" ").append(file) += "|";
+  }
+
+ protected:
+  forms::Answer AskMessageBox(forms::Icon, std::string_view title, std::string_view text,
+                              forms::Buttons buttons) override {
+    Log.append(title).append(": ").append(text) += "|";
+    return buttons == forms::Buttons::YesNo ? forms::Answer::Yes : forms::Answer::Ok;
+  }
+};
+
+struct PlayedProgram {
+  template <typename AnyPlayer>
+  explicit PlayedProgram(const AnyPlayer*) {
+    World world{Folder.Path()};
+    LayOutFolder(world, REELORA_DELIVERED);
+    for (std::string_view line :
+         {"film 1 Title=\"Alien\" Format=\"L\" Genre=\"SF\" CLV1=\"CAV\"", "film 2 Title=\"Brazil\" Format=\"V\" Genre=\"SF\" Rating=\"R\"",
+          "film 3 Title=\"Casablanca\" Format=\"D\" Genre=\"DR\" Letter=\"W\"", "sorted"})
+      SetUp(world, ParseLine(line, 1), Folder.Path());
+    Player = std::make_unique<AnyPlayer>(Running);
+    Running.StartRecordScreen();
+    Player->Settle();
+  }
+
+  // All that a person sees, and what has come up so far.
+  std::string Seen() const {
+    std::string seen = Desk.Log;
+    for (const forms::Window* window : Running.Screen.Windows()) {
+      seen += "\n" + window->Name + (window->Visible() ? " " : " hidden ") + window->Caption();
+      if (window->Focus()) seen += " focus " + window->Focus()->Name;
+      for (const forms::Control* control : window->Controls()) seen += "\n" + Seen(*control);
+    }
+    return seen;
+  }
+  static std::string Seen(const forms::Control& control) {
+    std::string seen = control.Name + (control.Visible() ? "" : " hidden") + (control.Enabled() ? "" : " disabled");
+    if (control.Kind == forms::Kind::TextBox) return seen + "=" + static_cast<const forms::TextBox&>(control).Text();
+    if (control.Kind == forms::Kind::ListBox) return seen + "=" + static_cast<const forms::ListBox&>(control).Selected();
+    if (control.Kind == forms::Kind::Label) return seen + "=" + static_cast<const forms::Label&>(control).Caption();
+    return seen;
+  }
+
+  FreshFolder Folder;
+  LoggingDesk Desk;
+  runtime::RealDisk Disk{Folder.Path().string()};
+  Program Running{Desk, Disk};
+  std::unique_ptr<story::Player> Player;
+};
+
+// The first line in which the two differ, as each has it; "" where they do not.
+std::string FirstDifference(const std::string& bare, const std::string& drawn) {
+  std::istringstream bare_lines(bare), drawn_lines(drawn);
+  for (std::string one, other; std::getline(bare_lines, one) && std::getline(drawn_lines, other);)
+    if (one != other) return "bare: " + one + "\ndrawn: " + other;
+  return "";
+}
+
+using Dice = std::mt19937;
+
+std::size_t Throw(Dice& dice, std::size_t sides) { return dice() % sides; }
+
+constexpr std::array Keys = {"Tab", "Shift+Tab", "Enter", "Esc", "Space", "Up", "Down", "Home", "End", "F1", "Alt+G", "Alt+E", "Alt+N", "x", "V"};
+
+std::string ControlAtRandom(const forms::Window& window, Dice& dice) {
+  for (;;) {
+    const std::string& name = window.Controls()[Throw(dice, window.Controls().size())]->Name;
+    if (name != "mnuExit" && name != "mnuCopy") return name;
+  }
+}
+
+// One action by the dice, as a line of what it was; on both programs.
+std::string ActAtRandom(PlayedProgram& one, PlayedProgram& other, Dice& dice) {
+  const forms::Window& window = *one.Running.Screen.Front();
+  auto both = [&](auto action) { action(*one.Player), action(*other.Player); };
+  const forms::Control* holder = window.Focus();
+  if (holder && holder->Kind == forms::Kind::ListBox && Throw(dice, 2) == 0) {
+    const auto& items = static_cast<const forms::ListBox&>(*holder).Items();
+    if (items.empty()) return "nothing";
+    std::string item = items[Throw(dice, items.size())], list = holder->Name;
+    both([&](Player& player) { player.Pick(list, item); });
+    return "pick " + list + " " + item;
+  }
+  std::string name = ControlAtRandom(window, dice);
+  switch (Throw(dice, 8)) {
+    case 0:
+      both([&](Player& player) { player.Move(name); });
+      return "move " + name;
+    case 1:
+    case 2: {
+      std::string key = Keys[Throw(dice, Keys.size())];
+      both([&](Player& player) { player.Key(key); });
+      return "key " + key;
+    }
+    case 3:
+      both([&](Player& player) { player.Type("L\xe9o D"); });
+      return "type";
+    case 4:
+      both([&](Player& player) { player.Clear(); });
+      return "clear";
+    default:
+      both([&](Player& player) { player.Click(name); });
+      return "click " + name;
+  }
+}
+
+class BothPlayers : public testing::TestWithParam<unsigned> {};
+
+TEST_P(BothPlayers, EndUpAlikeAfterEveryAction) {
+  PlayedProgram bare(static_cast<BarePlayer*>(nullptr));
+  PlayedProgram drawn(static_cast<WidgetPlayer*>(nullptr));
+  Dice dice(GetParam());
+  std::string actions;
+  try {
+    for (int step = 0; step < 400 && !bare.Running.Ended(); ++step) {
+      actions += ActAtRandom(bare, drawn, dice) + "\n";
+      std::string differs = FirstDifference(bare.Seen(), drawn.Seen());
+      ASSERT_EQ(differs, "") << actions;
+    }
+  } catch (const Unplayable& unplayable) {
+    FAIL() << unplayable.What << "\n" << actions;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, BothPlayers, testing::Range(1U, 9U));
+
+}  // namespace
+}  // namespace story

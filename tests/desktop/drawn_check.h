@@ -1,0 +1,12 @@
+// Whether the widgets show what the forms say.
+#pragma once
+
+#include "desktop/screen_view.h"
+#include "forms/screen.h"
+
+namespace story {
+
+// Throws Unplayable for the first widget that differs from its control.
+void CheckDrawn(const forms::Screen& screen, const desktop::ScreenView& view);
+
+}  // namespace story

@@ -1,0 +1,22 @@
+// The story runner: plays stories on the bare forms, and with --desktop on the drawn widgets, without a display.
+#include <QApplication>
+#include <memory>
+
+#include "desktop/application_look.h"
+#include "tests/desktop/widget_player.h"
+#include "tests/story/story_main.h"
+
+int main(int argc, char** argv) {
+  int qt_argc = 1;
+  std::unique_ptr<QApplication> application;
+  // The toolkit is started when the first story needs it: the bare forms do not.
+  auto make_widget_player = [&](Program& program) -> std::unique_ptr<story::Player> {
+    if (!application) {
+      if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+      application = std::make_unique<QApplication>(qt_argc, argv);
+      desktop::SetUpLook();
+    }
+    return std::make_unique<story::WidgetPlayer>(program);
+  };
+  return story::RunStories(argc, argv, make_widget_player);
+}

@@ -1,0 +1,39 @@
+// Plays a story's actions on the drawn widgets, by key and mouse events. After each action it sees to it that every widget shows what
+// its form says.
+#pragma once
+
+#include "desktop/screen_view.h"
+#include "tests/story/player.h"
+
+class QKeyEvent;
+
+namespace story {
+
+class WidgetPlayer final : public Player {
+ public:
+  // An application object must be there.
+  explicit WidgetPlayer(Program& program);
+
+  void Click(const std::string& name) override;
+  void DblClick(const std::string& name) override;
+  void Move(const std::string& name) override;
+  void Pick(const std::string& list, const std::string& item) override;
+  void Key(const std::string& key) override;
+  void Type(const std::string& text) override;
+  void Clear() override;
+  void Close(const std::string& window) override;
+  void Settle() override;
+  void Picture(const std::string& path) override;
+
+ private:
+  // The widget of a control that can be met with the mouse; nullptr where it cannot.
+  QWidget* FaceOf(const forms::Control& control) const;
+  void ChooseFromMenu(const forms::MenuItem& item);
+  void Press(int key, Qt::KeyboardModifiers modifiers, const QString& characters);
+  void PressCharacter(char character);
+
+  Program& program_;
+  desktop::ScreenView view_;
+};
+
+}  // namespace story

@@ -1,0 +1,33 @@
+// The one place where a kill of the tests is caught.
+#include "tests/safety/played.h"
+
+namespace safety {
+
+Played Play(const Road& road, runtime::Disk& disk, const std::function<void(std::size_t)>& finished) {
+  Played played;
+  try {
+    Run run(disk);
+    played.Started = !run.Program.Stopped();
+    for (const Step& step : road.Steps) {
+      if (run.Program.Stopped()) break;
+      step(run.Program);
+      if (run.Program.Stopped()) break;
+      ++played.Steps;
+      if (finished) finished(played.Steps);
+    }
+    played.Stopped = run.Program.Stopped();
+    played.Reported = run.Desk.Reported;
+  } catch (const safety::Killed&) {
+    played.Killed = true;
+  }
+  return played;
+}
+
+std::size_t CallsOf(const Road& road) {
+  MemoryDisk memory(road.Before);
+  FaultyDisk counting(memory);
+  Play(road, counting);
+  return counting.Calls();
+}
+
+}  // namespace safety
