@@ -1,0 +1,10 @@
+# With open work the close box asks; Yes saves and ends.
+film 1 Title="Alien"
+start
+click cmdEdit
+click txtDirector
+type "Ridley Scott"
+close
+box question "Reelora Prima" "You have not saved your work. To save your work hit Yes, else hit No and quit" Yes
+end
+see film 1 Director "Ridley Scott"

@@ -1,0 +1,39 @@
+# The buttons when the window has come up.
+film 1 Title="Alien" Format="V"
+start
+see cmdPrevious "&Back"
+see cmdPrevious.Visible yes
+see cmdPrevious.Enabled yes
+see cmdNext "&Next"
+see cmdNext.Visible yes
+see cmdNext.Enabled yes
+see cmdPrev20 "&Back"
+see cmdPrev20.Visible no
+see cmdPrev20.Enabled yes
+see cmdNext20 "&Next"
+see cmdNext20.Visible no
+see cmdNext20.Enabled yes
+see cmdPrevious1 ""
+see cmdPrevious1.Visible no
+see cmdPrevious1.Enabled yes
+see cmdMatch "&Match"
+see cmdMatch.Visible yes
+see cmdMatch.Enabled yes
+see cmdEdit "&Edit"
+see cmdEdit.Visible yes
+see cmdEdit.Enabled yes
+see cmdSave "&Save"
+see cmdSave.Visible yes
+see cmdSave.Enabled yes
+see cmdDelete "&Delete"
+see cmdDelete.Visible yes
+see cmdDelete.Enabled yes
+see cmdSort "S&ort"
+see cmdSort.Visible yes
+see cmdSort.Enabled yes
+see cmdNew "Ne&w"
+see cmdNew.Visible yes
+see cmdNew.Enabled yes
+see cmdReset "&Reset"
+see cmdReset.Visible yes
+see cmdReset.Enabled yes

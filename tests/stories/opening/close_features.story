@@ -1,0 +1,7 @@
+# The close box of the features window ends the program, although the record screen stands behind it.
+remove Fo
+start opener
+click cmdStart
+see frmPage1.Visible yes
+close frmInfo
+end

@@ -1,0 +1,4 @@
+# The close box of the opening window ends the program.
+start opener
+close
+end

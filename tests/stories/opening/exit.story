@@ -1,0 +1,4 @@
+# Exit ends the program.
+start opener
+click cmdExit
+end

@@ -1,0 +1,7 @@
+# An Fo without a line is passed over like a missing one.
+file Fo ""
+file Fo1 "NO\r\n"
+start opener
+click cmdStart
+see frmInfo.Visible yes
+see frmPage1.Visible yes

@@ -1,0 +1,68 @@
+# 48 films fill the first page: the total stands on the second.
+films 1 48 Title="Film ##" Format="V" Genre="CO" Year="19##"
+sorted
+clock 2026-11-21 09:05:07
+start
+click mnuVHS
+box question "Reelora Prima Print Program" "Do you want to print VHS library?  This list only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+printed 2
+beep
+box warning "Reelora Prima Print Program" "End of file!   Please wait. There are 2 pages to print." OK
+see pages 2
+see page 1 lines 55
+see page 1 line 2 "        Reelora Prima VHS List   11-21-2026  09:05:07"
+see page 1 line 4 "  Title                                    Date     Genre                 Format"
+see page 1 line 6 "Film 01                                    1901     Comedy                VHS"
+see page 1 line 7 "Film 02                                    1902     Comedy                VHS"
+see page 1 line 8 "Film 03                                    1903     Comedy                VHS"
+see page 1 line 9 "Film 04                                    1904     Comedy                VHS"
+see page 1 line 10 "Film 05                                    1905     Comedy                VHS"
+see page 1 line 11 "Film 06                                    1906     Comedy                VHS"
+see page 1 line 12 "Film 07                                    1907     Comedy                VHS"
+see page 1 line 13 "Film 08                                    1908     Comedy                VHS"
+see page 1 line 14 "Film 09                                    1909     Comedy                VHS"
+see page 1 line 15 "Film 10                                    1910     Comedy                VHS"
+see page 1 line 16 "Film 11                                    1911     Comedy                VHS"
+see page 1 line 17 "Film 12                                    1912     Comedy                VHS"
+see page 1 line 18 "Film 13                                    1913     Comedy                VHS"
+see page 1 line 19 "Film 14                                    1914     Comedy                VHS"
+see page 1 line 20 "Film 15                                    1915     Comedy                VHS"
+see page 1 line 21 "Film 16                                    1916     Comedy                VHS"
+see page 1 line 22 "Film 17                                    1917     Comedy                VHS"
+see page 1 line 23 "Film 18                                    1918     Comedy                VHS"
+see page 1 line 24 "Film 19                                    1919     Comedy                VHS"
+see page 1 line 25 "Film 20                                    1920     Comedy                VHS"
+see page 1 line 26 "Film 21                                    1921     Comedy                VHS"
+see page 1 line 27 "Film 22                                    1922     Comedy                VHS"
+see page 1 line 28 "Film 23                                    1923     Comedy                VHS"
+see page 1 line 29 "Film 24                                    1924     Comedy                VHS"
+see page 1 line 30 "Film 25                                    1925     Comedy                VHS"
+see page 1 line 31 "Film 26                                    1926     Comedy                VHS"
+see page 1 line 32 "Film 27                                    1927     Comedy                VHS"
+see page 1 line 33 "Film 28                                    1928     Comedy                VHS"
+see page 1 line 34 "Film 29                                    1929     Comedy                VHS"
+see page 1 line 35 "Film 30                                    1930     Comedy                VHS"
+see page 1 line 36 "Film 31                                    1931     Comedy                VHS"
+see page 1 line 37 "Film 32                                    1932     Comedy                VHS"
+see page 1 line 38 "Film 33                                    1933     Comedy                VHS"
+see page 1 line 39 "Film 34                                    1934     Comedy                VHS"
+see page 1 line 40 "Film 35                                    1935     Comedy                VHS"
+see page 1 line 41 "Film 36                                    1936     Comedy                VHS"
+see page 1 line 42 "Film 37                                    1937     Comedy                VHS"
+see page 1 line 43 "Film 38                                    1938     Comedy                VHS"
+see page 1 line 44 "Film 39                                    1939     Comedy                VHS"
+see page 1 line 45 "Film 40                                    1940     Comedy                VHS"
+see page 1 line 46 "Film 41                                    1941     Comedy                VHS"
+see page 1 line 47 "Film 42                                    1942     Comedy                VHS"
+see page 1 line 48 "Film 43                                    1943     Comedy                VHS"
+see page 1 line 49 "Film 44                                    1944     Comedy                VHS"
+see page 1 line 50 "Film 45                                    1945     Comedy                VHS"
+see page 1 line 51 "Film 46                                    1946     Comedy                VHS"
+see page 1 line 52 "Film 47                                    1947     Comedy                VHS"
+see page 1 line 53 "Film 48                                    1948     Comedy                VHS"
+see page 1 line 54 "  ____________________________________________________________________________"
+see page 1 line 55 "                                     Page  1"
+see page 2 lines 55
+see page 2 line 2 "        Reelora Prima VHS List   11-21-2026  09:05:07"
+see page 2 line 5 "TOTAL VHS FILM(S)  48"
+see page 2 line 55 "                                     Page  2"

@@ -1,0 +1,68 @@
+# Eight films fill the page: the figure is 1 with the singular, and the total stands on a page of its own.
+films 1 8 Title="Film ##" Director="Director ##" Star1="Star ##" Format="V" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
+sorted
+clock 2026-11-21 09:05:07
+start
+click mnuAll
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1 page to print." Yes
+printed 2
+beep
+box warning "Reelora Prima Print Program" "End of file!   please wait. There are 2 pages to print." OK
+see pages 2
+see page 1 lines 53
+see page 1 line 2 "   Reelora Prima All Titles Full List  11-21-2026  09:05:07"
+see page 1 line 4 "  ____________________________________________________________________________"
+see page 1 line 5 "  Film 01                        Director 01 (Dir.)                    REC #1"
+see page 1 line 6 "  Star 01                                                      101 mins.1901"
+see page 1 line 7 "                                                               Color Pan & Scan"
+see page 1 line 8 "                                                               Comedy"
+see page 1 line 9 "  Label:Label 01        VHS 1 Cass(s).    MPAA :G     Cass# 001      SND: Stereo"
+see page 1 line 10 "  Notes/Awards: Note 01                                                     :"
+see page 1 line 11 "  Film 02                        Director 02 (Dir.)                    REC #2"
+see page 1 line 12 "  Star 02                                                      102 mins.1902"
+see page 1 line 13 "                                                               Color Pan & Scan"
+see page 1 line 14 "                                                               Comedy"
+see page 1 line 15 "  Label:Label 02        VHS 1 Cass(s).    MPAA :G     Cass# 002      SND: Stereo"
+see page 1 line 16 "  Notes/Awards: Note 02                                                     :"
+see page 1 line 17 "  Film 03                        Director 03 (Dir.)                    REC #3"
+see page 1 line 18 "  Star 03                                                      103 mins.1903"
+see page 1 line 19 "                                                               Color Pan & Scan"
+see page 1 line 20 "                                                               Comedy"
+see page 1 line 21 "  Label:Label 03        VHS 1 Cass(s).    MPAA :G     Cass# 003      SND: Stereo"
+see page 1 line 22 "  Notes/Awards: Note 03                                                     :"
+see page 1 line 23 "  Film 04                        Director 04 (Dir.)                    REC #4"
+see page 1 line 24 "  Star 04                                                      104 mins.1904"
+see page 1 line 25 "                                                               Color Pan & Scan"
+see page 1 line 26 "                                                               Comedy"
+see page 1 line 27 "  Label:Label 04        VHS 1 Cass(s).    MPAA :G     Cass# 004      SND: Stereo"
+see page 1 line 28 "  Notes/Awards: Note 04                                                     :"
+see page 1 line 29 "  Film 05                        Director 05 (Dir.)                    REC #5"
+see page 1 line 30 "  Star 05                                                      105 mins.1905"
+see page 1 line 31 "                                                               Color Pan & Scan"
+see page 1 line 32 "                                                               Comedy"
+see page 1 line 33 "  Label:Label 05        VHS 1 Cass(s).    MPAA :G     Cass# 005      SND: Stereo"
+see page 1 line 34 "  Notes/Awards: Note 05                                                     :"
+see page 1 line 35 "  Film 06                        Director 06 (Dir.)                    REC #6"
+see page 1 line 36 "  Star 06                                                      106 mins.1906"
+see page 1 line 37 "                                                               Color Pan & Scan"
+see page 1 line 38 "                                                               Comedy"
+see page 1 line 39 "  Label:Label 06        VHS 1 Cass(s).    MPAA :G     Cass# 006      SND: Stereo"
+see page 1 line 40 "  Notes/Awards: Note 06                                                     :"
+see page 1 line 41 "  Film 07                        Director 07 (Dir.)                    REC #7"
+see page 1 line 42 "  Star 07                                                      107 mins.1907"
+see page 1 line 43 "                                                               Color Pan & Scan"
+see page 1 line 44 "                                                               Comedy"
+see page 1 line 45 "  Label:Label 07        VHS 1 Cass(s).    MPAA :G     Cass# 007      SND: Stereo"
+see page 1 line 46 "  Notes/Awards: Note 07                                                     :"
+see page 1 line 47 "  Film 08                        Director 08 (Dir.)                    REC #8"
+see page 1 line 48 "  Star 08                                                      108 mins.1908"
+see page 1 line 49 "                                                               Color Pan & Scan"
+see page 1 line 50 "                                                               Comedy"
+see page 1 line 51 "  Label:Label 08        VHS 1 Cass(s).    MPAA :G     Cass# 008      SND: Stereo"
+see page 1 line 52 "  Notes/Awards: Note 08                                                     :"
+see page 1 line 53 "                                     Page  1"
+see page 2 lines 8
+see page 2 line 2 "   Reelora Prima All Titles Full List  11-21-2026  09:05:07"
+see page 2 line 4 "  ____________________________________________________________________________"
+see page 2 line 6 "  TOTAL FILM(S) IN LIBRARY   8"
+see page 2 line 8 "                                     Page  2"

@@ -1,0 +1,63 @@
+# 44 films fill the first page; the total stands on the second.
+films 1 44 Title="Film ###" Director="Ann Smith" Star1="Ann Smith" Genre="CO" Format="V" Year="1950"
+sorted
+clock 2026-11-21 09:05:07
+start
+click mnuStars
+input "Reelora Prima Print Program" "Enter Star's Last Name. To Print List: " "Smith"
+beep
+printed 2
+box warning "Reelora Prima Print Program" "End of file!   Please wait. There are 2 pages to print." OK
+see pages 2
+see page 1 lines 54
+see page 1 line 3 "        Reelora Prima Stars List   11-21-2026  09:05:07"
+see page 1 line 6 "                            Films starring Ann Smith"
+see page 1 line 8 "  Title                                   Date   Genre                 Format"
+see page 1 line 10 "  Film 001                                1950   Comedy                VHS"
+see page 1 line 11 "  Film 002                                1950   Comedy                VHS"
+see page 1 line 12 "  Film 003                                1950   Comedy                VHS"
+see page 1 line 13 "  Film 004                                1950   Comedy                VHS"
+see page 1 line 14 "  Film 005                                1950   Comedy                VHS"
+see page 1 line 15 "  Film 006                                1950   Comedy                VHS"
+see page 1 line 16 "  Film 007                                1950   Comedy                VHS"
+see page 1 line 17 "  Film 008                                1950   Comedy                VHS"
+see page 1 line 18 "  Film 009                                1950   Comedy                VHS"
+see page 1 line 19 "  Film 010                                1950   Comedy                VHS"
+see page 1 line 20 "  Film 011                                1950   Comedy                VHS"
+see page 1 line 21 "  Film 012                                1950   Comedy                VHS"
+see page 1 line 22 "  Film 013                                1950   Comedy                VHS"
+see page 1 line 23 "  Film 014                                1950   Comedy                VHS"
+see page 1 line 24 "  Film 015                                1950   Comedy                VHS"
+see page 1 line 25 "  Film 016                                1950   Comedy                VHS"
+see page 1 line 26 "  Film 017                                1950   Comedy                VHS"
+see page 1 line 27 "  Film 018                                1950   Comedy                VHS"
+see page 1 line 28 "  Film 019                                1950   Comedy                VHS"
+see page 1 line 29 "  Film 020                                1950   Comedy                VHS"
+see page 1 line 30 "  Film 021                                1950   Comedy                VHS"
+see page 1 line 31 "  Film 022                                1950   Comedy                VHS"
+see page 1 line 32 "  Film 023                                1950   Comedy                VHS"
+see page 1 line 33 "  Film 024                                1950   Comedy                VHS"
+see page 1 line 34 "  Film 025                                1950   Comedy                VHS"
+see page 1 line 35 "  Film 026                                1950   Comedy                VHS"
+see page 1 line 36 "  Film 027                                1950   Comedy                VHS"
+see page 1 line 37 "  Film 028                                1950   Comedy                VHS"
+see page 1 line 38 "  Film 029                                1950   Comedy                VHS"
+see page 1 line 39 "  Film 030                                1950   Comedy                VHS"
+see page 1 line 40 "  Film 031                                1950   Comedy                VHS"
+see page 1 line 41 "  Film 032                                1950   Comedy                VHS"
+see page 1 line 42 "  Film 033                                1950   Comedy                VHS"
+see page 1 line 43 "  Film 034                                1950   Comedy                VHS"
+see page 1 line 44 "  Film 035                                1950   Comedy                VHS"
+see page 1 line 45 "  Film 036                                1950   Comedy                VHS"
+see page 1 line 46 "  Film 037                                1950   Comedy                VHS"
+see page 1 line 47 "  Film 038                                1950   Comedy                VHS"
+see page 1 line 48 "  Film 039                                1950   Comedy                VHS"
+see page 1 line 49 "  Film 040                                1950   Comedy                VHS"
+see page 1 line 50 "  Film 041                                1950   Comedy                VHS"
+see page 1 line 51 "  Film 042                                1950   Comedy                VHS"
+see page 1 line 52 "  Film 043                                1950   Comedy                VHS"
+see page 1 line 53 "  Film 044                                1950   Comedy                VHS"
+see page 1 line 54 "                                     Page  1"
+see page 2 lines 57
+see page 2 line 2 "  TOTAL FILM(S) STARRING ANN SMITH IN YOUR COLLECTION IS 44."
+see page 2 line 57 "                                     Page  2"

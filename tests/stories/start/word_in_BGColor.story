@@ -1,0 +1,4 @@
+# A word in BGColor is no colour.
+file BGColor "blue\r\n"
+start
+stop "Type mismatch"

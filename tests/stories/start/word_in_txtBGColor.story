@@ -1,0 +1,4 @@
+# A word in txtBGColor is no colour.
+file txtBGColor "blue\r\n"
+start
+stop "Type mismatch"
