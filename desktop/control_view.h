@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QColor>
-#include <QFrame>
 #include <QWidget>
 #include <memory>
 

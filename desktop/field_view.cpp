@@ -87,7 +87,8 @@ void FieldView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
   double line = hasFocus() ? 2 : 1;
-  painter.setPen(QPen(hasFocus() ? QColor(0xF0, 0xA0, 0x00) : QColor(0x90, 0x90, 0xA8), line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.setPen(QPen(hasFocus() ? QColor(0xF0, 0xA0, 0x00) : QColor(0x90, 0x90, 0xA8), line, Qt::SolidLine,
+                      Qt::SquareCap, Qt::MiterJoin));
   painter.drawRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
 }
 

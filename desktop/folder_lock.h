@@ -12,8 +12,8 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  // False where another run holds the folder. A folder in which no lock can be made counts as held by this run: its first write will
-  // name the failure.
+  // False where another run holds the folder. A folder in which no lock can be made counts as held by this run: its
+  // first write will name the failure.
   bool Held() const { return held_; }
 
  private:

@@ -1,32 +1,113 @@
-// Reads and shows the help file.
+// Lays out the viewer and goes from page to page.
 #include "desktop/help_viewer.h"
 
 #include <QFile>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
 #include <utility>
+
+#include "desktop/help_page.h"
 
 namespace desktop {
 namespace {
 
-constexpr char HelpFile[] = "Reelora4.HLP";
 constexpr QRect StartPlace(256, 256, 512, 512);
+constexpr int PageMargin = 12;
+
+QString HelpFile() {
+  return QString::fromUtf8(opening::HelpFileName.data(), static_cast<qsizetype>(opening::HelpFileName.size()));
+}
 
 }  // namespace
 
-HelpViewer::HelpViewer(std::string folder) : folder_(std::move(folder)) {
+HelpViewer::HelpViewer(std::string folder)
+    : folder_(std::move(folder)),
+      contents_(QStringLiteral("&Contents"), this),
+      back_(QStringLiteral("&Back"), this),
+      search_(QStringLiteral("&Search"), this),
+      search_line_(this),
+      page_(this) {
   setWindowTitle(QStringLiteral("Reelora Prima Help"));
-  setReadOnly(true);
-  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  setGeometry(StartPlace);
+  QRect place = StartPlace & screen()->availableGeometry();
+  setGeometry(place.isEmpty() ? screen()->availableGeometry() : place);
+  auto* row = new QHBoxLayout;
+  row->addWidget(&contents_);
+  row->addWidget(&back_);
+  row->addWidget(&search_line_, 1);
+  row->addWidget(&search_);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(row);
+  column->addWidget(&page_, 1);
+  search_line_.setPlaceholderText(QStringLiteral("Search for words"));
+  search_line_.setAccessibleName(QStringLiteral("Words to search for"));
+  page_.setAccessibleName(QStringLiteral("Help text"));
+  page_.setOpenLinks(false);
+  page_.document()->setDocumentMargin(PageMargin);
+  connect(&contents_, &QPushButton::clicked, this, [this] { ShowContents(); });
+  connect(&back_, &QPushButton::clicked, this, [this] { GoBack(); });
+  connect(&search_, &QPushButton::clicked, this, [this] { Search(search_line_.text()); });
+  connect(&search_line_, &QLineEdit::returnPressed, this, [this] { Search(search_line_.text()); });
+  connect(&page_, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { GoTo(TopicOf(url.toString())); });
 }
 
-void HelpViewer::Open() {
-  QFile file(QStringLiteral("%1/%2").arg(QFile::decodeName(folder_.c_str()), QLatin1String(HelpFile)));
-  bool there = file.open(QIODevice::ReadOnly);
-  setPlainText(there ? QString::fromUtf8(file.readAll())
-                     : QStringLiteral("The help file %1 is missing.").arg(QLatin1String(HelpFile)));
+bool HelpViewer::ReadFile() {
+  QFile file(QStringLiteral("%1/%2").arg(QFile::decodeName(folder_.c_str()), HelpFile()));
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  file_ = opening::ParseHelp(file.readAll().toStdString());
+  return true;
+}
+
+void HelpViewer::Open(int topic) {
+  there_ = ReadFile();
+  GoTo(topic);
+  page_.setFocus();
   show();
   raise();
   activateWindow();
+}
+
+void HelpViewer::ShowContents() { GoTo(0); }
+
+void HelpViewer::Search(const QString& words) {
+  if (!words.simplified().isEmpty()) GoTo(words.simplified());
+}
+
+void HelpViewer::GoTo(Place place) {
+  if (visited_.empty() || visited_.back() != place) visited_.push_back(std::move(place));
+  Show(visited_.back());
+}
+
+void HelpViewer::GoBack() {
+  if (visited_.size() < 2) return;
+  visited_.pop_back();
+  Show(visited_.back());
+}
+
+void HelpViewer::Show(const Place& place) {
+  page_.setHtml(PageOf(place));
+  back_.setEnabled(visited_.size() > 1);
+  for (QWidget* part :
+       {static_cast<QWidget*>(&contents_), static_cast<QWidget*>(&search_line_), static_cast<QWidget*>(&search_)})
+    part->setEnabled(there_);
+}
+
+QString HelpViewer::PageOf(const Place& place) const {
+  if (!there_) return NoticePage(QStringLiteral("The help file %1 is missing.").arg(HelpFile()));
+  if (const QString* words = std::get_if<QString>(&place)) return FoundPage(file_, *words);
+  const opening::HelpTopic* topic = file_.Find(std::get<int>(place));
+  return topic ? TopicPage(*topic) : ContentsPage(file_);
+}
+
+void HelpViewer::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    close();
+  } else if (event->key() == Qt::Key_F1) {
+    ShowContents();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 }  // namespace desktop

@@ -1,20 +1,51 @@
-// The window of the help file.
+// The window of the help file: one page at a time, with contents, back and search.
 #pragma once
 
-#include <QPlainTextEdit>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QWidget>
 #include <string>
+#include <variant>
+#include <vector>
+
+#include "opening/help_file.h"
 
 namespace desktop {
 
-class HelpViewer final : public QPlainTextEdit {
+class HelpViewer final : public QWidget {
  public:
   // The folder that holds the help file.
   explicit HelpViewer(std::string folder);
-  // Shows the file as it is now, from its beginning; says so where it is missing.
-  void Open();
+  // Reads the file as it is now and shows that topic; the contents for 0 or a number that no topic has. Where the file
+  // is missing the window says so.
+  void Open(int topic);
+  // What a click on Contents, on Back and on Search does.
+  void ShowContents();
+  void GoBack();
+  void Search(const QString& words);
+
+  QTextBrowser& Page() { return page_; }
+  QLineEdit& SearchLine() { return search_line_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  // A topic's number, 0 for the contents; or the words of a search.
+  using Place = std::variant<int, QString>;
+  void GoTo(Place place);
+  void Show(const Place& place);
+  QString PageOf(const Place& place) const;
+  bool ReadFile();
+
   std::string folder_;
+  opening::HelpFile file_;
+  bool there_ = false;
+  std::vector<Place> visited_;  // the present one last
+  QPushButton contents_, back_, search_;
+  QLineEdit search_line_;
+  QTextBrowser page_;
 };
 
 }  // namespace desktop

@@ -42,4 +42,11 @@ void ListView::Fill() {
   mirroring_ = false;
 }
 
+// The toolkit would make the first item the current one where none is; the selection is the form's.
+void ListView::focusInEvent(QFocusEvent* event) {
+  mirroring_ = true;
+  QListWidget::focusInEvent(event);
+  Fill();
+}
+
 }  // namespace desktop

@@ -20,6 +20,7 @@ class ListView final : public QListWidget, public ControlView {
  protected:
   void Dress(const Grid& grid) override;
   void Fill() override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   forms::ListBox& list_;

@@ -1,4 +1,5 @@
-// The program on the desktop: holds the folder that it was started in, opens the first window and runs until the program ends.
+// The program on the desktop: holds the folder that it was started in, opens the first window and runs until the
+// program ends.
 #include <QApplication>
 #include <QMessageBox>
 
@@ -22,7 +23,7 @@ int main(int argc, char** argv) {
   Program program(desk, disk);
   desktop::ScreenView view(program.Screen, [&program](const std::function<void()>& event) { program.Deliver(event); });
   desk.DrawOn(view);
-  program.StartRecordScreen();
+  program.StartOpener();
   view.Sync();
   if (!program.Ended()) QApplication::exec();
   return program.Stopped() ? 1 : 0;

@@ -1,7 +1,7 @@
 // The fitting and the drawing.
 #include "desktop/page_painter.h"
 
-#include <QFont>
+#include <QGlyphRun>
 #include <algorithm>
 
 #include "desktop/text.h"
@@ -35,20 +35,18 @@ PaperGrid FitGrid(const runtime::PrintJob& job, QSizeF area, double resolution) 
   return {size, CellPart * size, AscentPart * size, pitch};
 }
 
-PagePainter::PagePainter(const runtime::PrintJob& job, QPagedPaintDevice& device)
-    : job_(job),
-      device_(device),
-      grid_(FitGrid(job, device.pageLayout().paintRectPixels(device.logicalDpiX()).size(), device.logicalDpiX())),
-      plain_(MakeTypeface(QFont::Normal)),
-      bold_(MakeTypeface(QFont::Bold)) {}
+PagePainter::PagePainter(const runtime::PrintJob& job, QSizeF area, double resolution)
+    : grid_(FitGrid(job, area, resolution)),
+      plain_(MakeTypeface(job, QFont::Normal, grid_.Size)),
+      bold_(MakeTypeface(job, QFont::Bold, grid_.Size)) {}
 
-PagePainter::Typeface PagePainter::MakeTypeface(QFont::Weight weight) const {
-  QFont font(Shown(job_.FontName));
+PagePainter::Typeface PagePainter::MakeTypeface(const runtime::PrintJob& job, QFont::Weight weight, double size) {
+  QFont font(Shown(job.FontName));
   font.setStyleHint(QFont::Monospace);
   font.setFixedPitch(true);
   font.setWeight(weight);
   Typeface face{QRawFont::fromFont(font), {}, {}};
-  face.Font.setPixelSize(grid_.Size);
+  face.Font.setPixelSize(size);
   for (std::size_t code = 0; code < face.Glyphs.size(); ++code) {
     char character = static_cast<char>(code);
     QString shown = Shown({&character, 1});
@@ -58,24 +56,15 @@ PagePainter::Typeface PagePainter::MakeTypeface(QFont::Weight weight) const {
   return face;
 }
 
-bool PagePainter::Paint() {
-  if (!painter_.begin(&device_)) return false;
-  for (const runtime::PrintedPage& page : job_.Pages) {
-    if (&page != &job_.Pages.front() && !device_.newPage()) return false;
-    PaintPage(page);
-  }
-  return painter_.end();
-}
-
-void PagePainter::PaintPage(const runtime::PrintedPage& page) {
+void PagePainter::Paint(QPainter& painter, const runtime::PrintedPage& page) {
   double base_line = grid_.Ascent;
   for (const runtime::PrintedLine& line : page.Lines) {
-    if (!line.Text.empty()) PaintLine(line, base_line);
+    if (!line.Text.empty()) PaintLine(painter, line, base_line);
     base_line += grid_.Pitch;
   }
 }
 
-void PagePainter::PaintLine(const runtime::PrintedLine& line, double base_line) {
+void PagePainter::PaintLine(QPainter& painter, const runtime::PrintedLine& line, double base_line) {
   const Typeface& face = line.Bold ? bold_ : plain_;
   double left = (line.From - 1) * grid_.Cell;
   glyphs_.clear();
@@ -89,11 +78,23 @@ void PagePainter::PaintLine(const runtime::PrintedLine& line, double base_line) 
   QGlyphRun run;
   run.setRawFont(face.Font);
   run.setRawData(glyphs_.constData(), places_.constData(), static_cast<int>(glyphs_.size()));
-  painter_.drawGlyphRun(QPointF(0, base_line), run);
+  painter.drawGlyphRun(QPointF(0, base_line), run);
   if (!line.Underline) return;
-  painter_.fillRect(QRectF(left, base_line + face.Font.underlinePosition(),
-                           static_cast<double>(line.Text.size()) * grid_.Cell, face.Font.lineThickness()),
-                    Qt::black);
+  painter.fillRect(QRectF(left, base_line + face.Font.underlinePosition(),
+                          static_cast<double>(line.Text.size()) * grid_.Cell, face.Font.lineThickness()),
+                   Qt::black);
+}
+
+bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device) {
+  int resolution = device.logicalDpiX();
+  PagePainter pages(job, device.pageLayout().paintRectPixels(resolution).size(), resolution);
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  for (const runtime::PrintedPage& page : job.Pages) {
+    if (&page != &job.Pages.front() && !device.newPage()) return false;
+    pages.Paint(painter, page);
+  }
+  return painter.end();
 }
 
 }  // namespace desktop

@@ -1,8 +1,8 @@
-// Draws the pages of a job on paper or into a PDF: every character in its cell of the grid, from tables of glyphs that
-// are looked up once, because shaping each text anew takes most of the time of a long report.
+// Draws the pages of a job on paper, into a PDF or as a picture: every character in its cell of the grid, from tables of
+// glyphs that are looked up once, because shaping each text anew takes most of the time of a long report.
 #pragma once
 
-#include <QGlyphRun>
+#include <QFont>
 #include <QList>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -17,7 +17,7 @@ namespace desktop {
 struct PaperGrid {
   double Size;    // of the font
   double Cell;    // from one column to the next
-  double Ascent;  // from the top of the paper's printable area to the first base line
+  double Ascent;  // from the top of the area to the first base line
   double Pitch;   // from one line to the next
 };
 
@@ -27,31 +27,30 @@ PaperGrid FitGrid(const runtime::PrintJob& job, QSizeF area, double resolution);
 
 class PagePainter {
  public:
-  // The device's page layout is what the pages are fitted to.
-  PagePainter(const runtime::PrintJob& job, QPagedPaintDevice& device);
-  // Tells whether every page went through.
-  bool Paint();
+  // For that area, in pixels at that resolution.
+  PagePainter(const runtime::PrintJob& job, QSizeF area, double resolution);
+  // From the painter's origin on.
+  void Paint(QPainter& painter, const runtime::PrintedPage& page);
 
  private:
-  // A weight of the font, and the glyph of each character of the code page; no glyph for a blank.
+  // A weight of the font, and the glyph of each character of the code page.
   struct Typeface {
     QRawFont Font;
     std::array<quint32, 256> Glyphs;
     std::array<bool, 256> Blank;
   };
-  Typeface MakeTypeface(QFont::Weight weight) const;
-  void PaintPage(const runtime::PrintedPage& page);
-  void PaintLine(const runtime::PrintedLine& line, double base_line);
+  static Typeface MakeTypeface(const runtime::PrintJob& job, QFont::Weight weight, double size);
+  void PaintLine(QPainter& painter, const runtime::PrintedLine& line, double base_line);
 
-  const runtime::PrintJob& job_;
-  QPagedPaintDevice& device_;
   PaperGrid grid_;
   Typeface plain_;
   Typeface bold_;
-  QPainter painter_;
   // Of the line at hand; kept for their memory.
   QList<quint32> glyphs_;
   QList<QPointF> places_;
 };
+
+// Draws all pages inside the margins of the device's page layout; tells whether every page went through.
+bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device);
 
 }  // namespace desktop

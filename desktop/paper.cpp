@@ -32,7 +32,7 @@ bool QueueTookJob() {
 
 void PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer) {
   printer.setDocName(Shown(job.Title));
-  if (!PagePainter(job, printer).Paint() || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
+  if (!PaintPages(job, printer) || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
 }
 
 // A file of that name that nobody else has, a number behind the name where it is taken.
@@ -50,9 +50,10 @@ void PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& s
   writer.setTitle(Shown(job.Title));
   writer.setCreator(QStringLiteral("Reelora Prima"));
   writer.setPageLayout(QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
-  bool drawn = PagePainter(job, writer).Paint();
+  bool drawn = PaintPages(job, writer);
   if (drawn && file.flush() && file.error() == QFileDevice::NoError) return;
-  file.remove();
+  // Not by the file itself, which keeps what it could not even close.
+  QFile::remove(file.fileName());
   Fail();
 }
 

@@ -7,6 +7,8 @@
 
 namespace desktop {
 
-bool SavePicture(QWidget& window, const std::string& path) { return window.grab().save(QFile::decodeName(path.c_str()), "PNG"); }
+bool SavePicture(QWidget& window, const std::string& path) {
+  return window.grab().save(QFile::decodeName(path.c_str()), "PNG");
+}
 
 }  // namespace desktop

@@ -11,10 +11,9 @@
 #include "desktop/control_view.h"
 #include "desktop/drives.h"
 #include "desktop/input_dialog.h"
+#include "desktop/paper.h"
 #include "desktop/screen_view.h"
 #include "desktop/text.h"
-#include "runtime/failure.h"
-#include "runtime/print_job.h"
 
 namespace desktop {
 namespace {
@@ -80,11 +79,11 @@ QPrinter& QtDesk::Printer() {
 
 void QtDesk::PrinterDialog() { QPrintDialog(&Printer(), Below()).exec(); }
 
-void QtDesk::Print(const runtime::PrintJob&) { throw runtime::Failure{runtime::PrinterError, ""}; }
+void QtDesk::Print(const runtime::PrintJob& job) { PrintOnPaper(job, Printer(), Now()); }
 
-void QtDesk::Help(int) {
+void QtDesk::Help(int topic) {
   if (!help_) help_ = std::make_unique<HelpViewer>(folder_);
-  help_->Open();
+  help_->Open(topic);
 }
 
 std::chrono::local_seconds QtDesk::Now() {
@@ -105,7 +104,8 @@ void QtDesk::RepaintNow() {
   painted_ = std::chrono::steady_clock::now();
 }
 
-void QtDesk::Closed() { QApplication::quit(); }
+// Not quit(): that asks the windows first, and they leave it to the form.
+void QtDesk::Closed() { QApplication::exit(0); }
 
 void QtDesk::FailureReport(std::string_view failure, std::string_view file) {
   QString text = Shown(failure);

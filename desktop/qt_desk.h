@@ -35,7 +35,8 @@ class QtDesk final : public forms::Desk {
   void FailureReport(std::string_view failure, std::string_view file) override;
 
  protected:
-  forms::Answer AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text, forms::Buttons buttons) override;
+  forms::Answer AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
+                              forms::Buttons buttons) override;
 
  private:
   QWidget* Below();

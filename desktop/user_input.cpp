@@ -3,7 +3,6 @@
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QTimer>
 #include <utility>
 

@@ -40,8 +40,8 @@ void frmPage1::WireCopy() { WIRE(mnuCopy, Click); }
 
 // A window that was closed begins afresh; one that was only hidden is as it was left.
 void frmCopy::Open() {
-  if (unloaded_) frmCopy_Load();
   Show();
+  if (unloaded_) frmCopy_Load();
   File1.Refresh();
   Drive1.Refresh(RecordScreen.Desk.DriveLetters());
 }

@@ -75,16 +75,27 @@ bool Search::AskText() {
   return true;
 }
 
-// The slot behind the last is read before the end is told.
+// Most films are passed over where they were read to; only one that may hold the text comes into CurrentFilm. The slot
+// behind the last is read before the end is told.
 void Search::Scan() {
   window_.MatchKind = search_.Kind;
   std::int64_t last = window_.RecordCount;
+  const FilmFilter filter = MakeFilter();
+  bool passed = false;
   for (window_.ScanRecNo = window_.CurrentRecNo; window_.ScanRecNo <= last + 1; window_.ScanRecNo += 1) {
-    window_.ReadRecord(window_.ScanRecNo);
+    std::string_view film = window_.Files.Peek(static_cast<int>(window_.MasterFileNo), window_.ScanRecNo);
     if (window_.ScanRecNo == last + 1) {
       Close();
       return;
     }
+    // A slot behind the end of the file reads as the film before it, which has been passed over.
+    if (film.empty() ? passed : !filter.MayHold(film)) {
+      if (!passed) ForgetHits();
+      passed = true;
+      continue;
+    }
+    passed = false;
+    window_.ReadRecord(window_.ScanRecNo);
     if (!Hits()) continue;
     window_.CurrentRecNo = window_.ScanRecNo;
     window_.ShowRecord();
@@ -92,6 +103,19 @@ void Search::Scan() {
     HeadHit();
     return;
   }
+}
+
+FilmFilter Search::MakeFilter() const {
+  const store::FilmFieldRow& first = store::RowOf(search_.Field);
+  const store::FilmFieldRow& last = store::RowOf(IsStar() ? FilmField::Star6 : search_.Field);
+  return {(window_.*search_.Query).Value(), first.Offset, last.Offset + last.Width - first.Offset};
+}
+
+// What testing a film that does not hit leaves behind.
+void Search::ForgetHits() {
+  window_.MatchPos = 0;
+  if (!IsStar()) return;
+  for (const StarRow& star : LaterStars) window_.*star.Hit = 0;
 }
 
 std::int64_t Search::PositionIn(FilmField field) const {

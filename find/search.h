@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "find/field_search.h"
+#include "find/film_filter.h"
 #include "screen/frmPage1.h"
 
 namespace find {
@@ -38,6 +39,8 @@ class Search {
   bool TitleResumes();
   bool AskText();
   void Scan();
+  FilmFilter MakeFilter() const;
+  void ForgetHits();
   std::int64_t PositionIn(FilmField field) const;
   bool Hits();
   bool StarHits();

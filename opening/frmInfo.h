@@ -20,7 +20,7 @@ struct frmInfo : forms::Window {
   forms::Label   lblLists     { *this, "lblLists",     "Twenty at a glance, or on paper",  {}, opening::FeatureLook, {3600, 3960, 5100, 300} };
   forms::Label   lblLists2    { *this, "lblLists2",    "Page through the collection twenty titles at a time, or print one of eight kinds of list.", {}, opening::LineLook, {3600, 4260, 5100, 560} };
   forms::Label   lblOwn       { *this, "lblOwn",       "Yours to arrange, and safe",       {}, opening::FeatureLook, {3600, 4900, 5100, 300} };
-  forms::Label   lblOwn2      { *this, "lblOwn2",      "Your colours, saving and sorting by themselves, copies on a disk of your own.", {}, opening::LineLook, {3600, 5200, 5100, 320} };
+  forms::Label   lblOwn2      { *this, "lblOwn2",      "Your own colors, saving by itself, copies on a disk of yours.", {}, opening::LineLook, {3600, 5200, 5100, 320} };
   forms::OptionButton option1 { *this, "option1", "To  eliminate viewing this s&creen click option  or press Alt \"C\"", {1, 0, 0}, opening::ChoiceLook, {300, 5880, 6300, 480} };
   forms::Button  Command1     { *this, "Command1", "Con&tinue", {0, 0, 0}, opening::PushLook, {7050, 5880, 1650, 480} };
 

@@ -1,20 +1,14 @@
 // The steps of the frame.
 #include "reports/print_frame.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 
+#include "browse/key_walk.h"
 #include "runtime/clock.h"
-#include "store/master_file.h"
 
 namespace reports {
 namespace {
-
-constexpr int KeyLength = 49;
-constexpr std::size_t KeyTitleLength = 40;
-constexpr std::string_view BlankTitle = "                                        ";
-static_assert(BlankTitle.size() == KeyTitleLength);
 
 constexpr std::string_view FontName = "Courier New";
 constexpr int FontSize = 12;
@@ -51,31 +45,18 @@ bool PrintFrame::OpenKeys(std::string_view key_file) {
   return runtime::RoundToInt32(Keys()) >= 1;
 }
 
-double PrintFrame::Keys() const { return static_cast<double>(Page.Files.Length(KeyFileNo)) / KeyLength; }
-
-void PrintFrame::ReadKey() {
-  std::array<char, KeyLength> key{};
-  auto read = [&] {
-    if (Page.Files.Get(KeyFileNo, Page.KeyFilePos, key.data())) Page.KeyRecord = std::string_view(key.data(), KeyLength);
-  };
-  read();
-  if (!Page.KeyRecord.Value().starts_with(BlankTitle)) return;
-  Page.KeyFilePos += 1;
-  read();
-}
+double PrintFrame::Keys() const { return static_cast<double>(Page.Files.Length(KeyFileNo)) / browse::KeyLength; }
 
 void PrintFrame::TakeKey() {
-  Page.KeyLengthWord = KeyLength;
-  Page.EditMode = static_cast<std::int64_t>(runtime::Position(Page.KeyRecord, "49"));
-  std::string_view key = Page.KeyRecord;
-  Page.KeyRecNoText = key.substr(std::min(key.size(), KeyTitleLength));
-  Page.ScanRecNo = runtime::RoundToInt32(runtime::NumericValue(Page.KeyRecNoText));
+  Page.KeyLengthWord = browse::KeyLength;
+  Page.TakeScanRecNo();
+  Page.KeyRecNoText = std::string_view(Page.KeyRecord).substr(browse::KeyTitleWidth);
   Page.KeyFilePos += 1;
 }
 
 bool PrintFrame::NextFilm(std::string_view key_file) {
   if (!OpenKeys(key_file)) return true;
-  ReadKey();
+  Page.ReadKeyPastBlank();
   if (PastLastKey()) return false;
   TakeKey();
   return true;

@@ -36,11 +36,9 @@ class PrintFrame {
   bool OpenKeys(std::string_view key_file);
   // Keys of the open file; a trailing part of one counts as that part.
   double Keys() const;
-  // Reads the key at KeyFilePos into KeyRecord and passes over one blank key, one only.
-  void ReadKey();
   // Whether the key behind the last one was reached.
   bool PastLastKey() const { return Keys() + 1 == static_cast<double>(Page.KeyFilePos); }
-  // The key's record number to ScanRecNo, and one key on. Leaves the place of "49" in the key in EditMode.
+  // The number of the key that was read to ScanRecNo, and one key on.
   void TakeKey();
   // All of that for a report that prints every film of the file: false at its end.
   bool NextFilm(std::string_view key_file);

@@ -125,7 +125,7 @@ bool QueryReport::Enter() {
 // to is not found.
 QueryReport::Key QueryReport::NextKey() {
   if (!OpenKeys(KeyFile)) return Key::Taken;
-  ReadKey();
+  Page.ReadKeyPastBlank();
   LookUpName();
   if (Keys() == static_cast<double>(Page.KeyFilePos) && Page.RowCursor == 0) return Key::NothingFound;
   if (PastLastKey()) return Key::Last;

@@ -23,27 +23,29 @@ struct Files::OpenFile {
   std::optional<Opened> Handle;
   std::string Text;
   std::size_t Position = 0;
-  // What was read ahead of a random file, and where it begins.
-  std::string Ahead;
+  // What was read ahead of a random file: so many bytes, and where they begin. The buffer is made once and never
+  // cleared.
+  std::unique_ptr<char[]> Ahead;
+  std::size_t AheadLength = 0;
   std::int64_t AheadFrom = 0;
 
-  void Forget() { Ahead.clear(); }
+  void Forget() { AheadLength = 0; }
   // The bytes at that offset, up to the record length; fewer where the file ends.
   std::string_view Fetch(std::int64_t offset);
 };
 
 std::string_view Files::OpenFile::Fetch(std::int64_t offset) {
   auto length = static_cast<std::size_t>(RecordLength);
-  std::int64_t ahead_end = AheadFrom + static_cast<std::int64_t>(Ahead.size());
-  if (Ahead.empty() || offset < AheadFrom || offset + RecordLength > ahead_end) {
-    bool in_sequence = !Ahead.empty() && offset >= AheadFrom && offset <= ahead_end;
+  std::int64_t ahead_end = AheadFrom + static_cast<std::int64_t>(AheadLength);
+  if (AheadLength == 0 || offset < AheadFrom || offset + RecordLength > ahead_end) {
+    bool in_sequence = AheadLength > 0 && offset >= AheadFrom && offset <= ahead_end;
+    std::size_t block = std::max(length, ReadAheadBytes / length * length);
+    if (!Ahead) Ahead = std::make_unique_for_overwrite<char[]>(block);
     Forget();  // a read that fails leaves nothing behind
-    std::string block(in_sequence ? std::max(length, ReadAheadBytes / length * length) : length, '\0');
-    block.resize(Handle->Read(block.data(), block.size(), offset));
-    Ahead = std::move(block);
+    AheadLength = Handle->Read(Ahead.get(), in_sequence ? block : length, offset);
     AheadFrom = offset;
   }
-  return std::string_view(Ahead).substr(static_cast<std::size_t>(offset - AheadFrom)).substr(0, length);
+  return std::string_view(Ahead.get(), AheadLength).substr(static_cast<std::size_t>(offset - AheadFrom), length);
 }
 
 Files::Files(runtime::Disk& disk) : disk_(disk), journal_(disk) {}
@@ -105,12 +107,17 @@ void Files::CloseAll() {
   for (int number = 1; number <= static_cast<int>(files_.size()); ++number) Close(number);
 }
 
-bool Files::Get(int number, std::int64_t record, char* target) {
+std::string_view Files::Peek(int number, std::int64_t record) {
   OpenFile& file = At(number);
   if (file.As != OpenFile::Use::Random) throw Failure{BadFileNumber, file.Name};
   if (record < 1) throw Failure{BadRecordNumber, file.Name};
-  std::string_view bytes = file.Fetch((record - 1) * file.RecordLength);
+  return file.Fetch((record - 1) * file.RecordLength);
+}
+
+bool Files::Get(int number, std::int64_t record, char* target) {
+  std::string_view bytes = Peek(number, record);
   if (bytes.empty()) return false;
+  OpenFile& file = At(number);
   bytes.copy(target, bytes.size());
   std::memset(target + bytes.size(), ' ', file.RecordLength - bytes.size());
   return true;

@@ -3,6 +3,7 @@
 #include "store/sort_operation.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <optional>
 #include <string>
 
@@ -117,6 +118,11 @@ class SortCall {
 
  private:
   std::int32_t BuildAside(std::string_view statement);
+  // A file that cannot be removed now goes at the next start.
+  void Drop(const std::string& name) {
+    while (disk_.Remove(name) == -EINTR) {
+    }
+  }
 
   Disk& disk_;
   std::string input_, output_, aside_, runs_;
@@ -148,9 +154,9 @@ std::int32_t SortCall::Replace(std::string_view statement) {
     runtime::Called(aside_, [&] { return disk_.Rename(aside_, output_); });
   } catch (const runtime::Failure& failure) {
     status = failure.File == input_ ? SortInputUnreadable : SortOutputUnwritable;
-    disk_.Remove(aside_);
+    Drop(aside_);
   }
-  disk_.Remove(runs_);
+  Drop(runs_);
   return status;
 }
 

@@ -1,4 +1,5 @@
-// The same actions, chosen by a fixed seed, on the bare forms and on the drawn widgets: both must end up alike after every one.
+// The same actions, chosen by a fixed seed, on the bare forms and on the drawn widgets: both must end up alike after
+// every one.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -47,9 +48,9 @@ struct PlayedProgram {
   explicit PlayedProgram(const AnyPlayer*) {
     World world{Folder.Path()};
     LayOutFolder(world, REELORA_DELIVERED);
-    for (std::string_view line :
-         {"film 1 Title=\"Alien\" Format=\"L\" Genre=\"SF\" CLV1=\"CAV\"", "film 2 Title=\"Brazil\" Format=\"V\" Genre=\"SF\" Rating=\"R\"",
-          "film 3 Title=\"Casablanca\" Format=\"D\" Genre=\"DR\" Letter=\"W\"", "sorted"})
+    for (std::string_view line : {"film 1 Title=\"Alien\" Format=\"L\" Genre=\"SF\" CLV1=\"CAV\"",
+                                  "film 2 Title=\"Brazil\" Format=\"V\" Genre=\"SF\" Rating=\"R\"",
+                                  "film 3 Title=\"Casablanca\" Format=\"D\" Genre=\"DR\" Letter=\"W\"", "sorted"})
       SetUp(world, ParseLine(line, 1), Folder.Path());
     Player = std::make_unique<AnyPlayer>(Running);
     Running.StartRecordScreen();
@@ -69,7 +70,8 @@ struct PlayedProgram {
   static std::string Seen(const forms::Control& control) {
     std::string seen = control.Name + (control.Visible() ? "" : " hidden") + (control.Enabled() ? "" : " disabled");
     if (control.Kind == forms::Kind::TextBox) return seen + "=" + static_cast<const forms::TextBox&>(control).Text();
-    if (control.Kind == forms::Kind::ListBox) return seen + "=" + static_cast<const forms::ListBox&>(control).Selected();
+    if (control.Kind == forms::Kind::ListBox)
+      return seen + "=" + static_cast<const forms::ListBox&>(control).Selected();
     if (control.Kind == forms::Kind::Label) return seen + "=" + static_cast<const forms::Label&>(control).Caption();
     return seen;
   }
@@ -93,7 +95,8 @@ using Dice = std::mt19937;
 
 std::size_t Throw(Dice& dice, std::size_t sides) { return dice() % sides; }
 
-constexpr std::array Keys = {"Tab", "Shift+Tab", "Enter", "Esc", "Space", "Up", "Down", "Home", "End", "F1", "Alt+G", "Alt+E", "Alt+N", "x", "V"};
+constexpr std::array Keys = {"Tab", "Shift+Tab", "Enter", "Esc",   "Space", "Up", "Down", "Home",
+                             "End", "F1",        "Alt+G", "Alt+E", "Alt+N", "x",  "V"};
 
 std::string ControlAtRandom(const forms::Window& window, Dice& dice) {
   for (;;) {

@@ -22,7 +22,8 @@ void CheckContent(const forms::Control& control, QWidget& widget) {
     const auto& box = static_cast<const forms::TextBox&>(control);
     const auto& field = dynamic_cast<QLineEdit&>(widget);
     See(field.text() == Shown(box.Text()), control.Name, "text: " + field.text().toStdString());
-    See((field.alignment() & Qt::AlignLeft) == (box.Alignment() == forms::Align::Left ? Qt::AlignLeft : Qt::Alignment()),
+    See((field.alignment() & Qt::AlignLeft) ==
+            (box.Alignment() == forms::Align::Left ? Qt::AlignLeft : Qt::Alignment()),
         control.Name, "alignment");
   } else if (control.Kind == forms::Kind::ListBox) {
     const auto& list = static_cast<const forms::ListBox&>(control);

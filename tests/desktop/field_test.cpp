@@ -131,9 +131,7 @@ TEST_F(Field, KeepsTheCaretWhenOtherControlsChange) {
   EXPECT_EQ(FieldOf(Form.Title).cursorPosition(), 2);
 }
 
-TEST_F(Field, IsNamedByItsTagForScreenReaders) {
-  EXPECT_EQ(FieldOf(Form.Title).accessibleName(), "The title of it");
-}
+TEST_F(Field, IsNamedByItsTagForScreenReaders) { EXPECT_EQ(FieldOf(Form.Title).accessibleName(), "The title of it"); }
 
 }  // namespace
 }  // namespace desktop

@@ -81,7 +81,8 @@ TEST_F(Mirror, ThePaddingOfATagIsFoldedAndItsLongRunsBreakTheLine) {
 TEST_F(Mirror, ALabelShrinksItsLettersUntilItsTextFits) {
   auto& label = dynamic_cast<QLabel&>(WidgetOf(Form.TitleTag));
   int letters = label.font().pixelSize();
-  Form.TitleTag.SetCaption("A very long tag that can by no means find room at the letters' full size, whatever is done about it");
+  Form.TitleTag.SetCaption(
+      "A very long tag that can by no means find room at the letters' full size, whatever is done about it");
   View.Sync();
   EXPECT_LT(label.font().pixelSize(), letters);
   QRect needed = QFontMetrics(label.font()).boundingRect(QRect(0, 0, label.width(), 0), Qt::TextWordWrap, label.text());

@@ -99,14 +99,13 @@ void WidgetPlayer::ChooseFromMenu(const forms::MenuItem& item) {
   desktop::FormView* form = view_.ViewOf(item.Owner());
   QAction* action = form && form->isVisible() ? form->Menu().ActionOf(item) : nullptr;
   if (!action || action->menu()) return;
-  for (QObject* place : action->associatedObjects()) {
-    if (auto* menu = qobject_cast<QMenu*>(place)) {
-      menu->popup(form->mapToGlobal(QPoint()));
-      ClickAt(*menu, menu->actionGeometry(action).center());
-      menu->close();
-    } else if (auto* bar = qobject_cast<QMenuBar*>(place)) {
-      ClickAt(*bar, bar->actionGeometry(action).center());
-    }
+  QObject* place = action->associatedObjects().value(0);
+  if (auto* menu = qobject_cast<QMenu*>(place)) {
+    menu->popup(form->mapToGlobal(QPoint()));
+    ClickAt(*menu, menu->actionGeometry(action).center());
+    menu->close();
+  } else if (auto* bar = qobject_cast<QMenuBar*>(place)) {
+    ClickAt(*bar, bar->actionGeometry(action).center());
   }
 }
 
@@ -158,7 +157,8 @@ void WidgetPlayer::Clear() {
 
 void WidgetPlayer::Close(const std::string& window) {
   if (program_.Ended()) return;
-  if (desktop::FormView* form = view_.ViewOf(WindowNamed(program_.Screen, window)); form && form->isVisible()) form->close();
+  if (desktop::FormView* form = view_.ViewOf(WindowNamed(program_.Screen, window)); form && form->isVisible())
+    form->close();
   Settle();
 }
 

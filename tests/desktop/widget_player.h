@@ -1,5 +1,5 @@
-// Plays a story's actions on the drawn widgets, by key and mouse events. After each action it sees to it that every widget shows what
-// its form says.
+// Plays a story's actions on the drawn widgets, by key and mouse events. After each action it sees to it that every
+// widget shows what its form says.
 #pragma once
 
 #include "desktop/screen_view.h"

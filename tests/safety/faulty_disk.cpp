@@ -111,9 +111,12 @@ int FaultyDisk::SyncFolder(const std::string& name) {
 }
 
 std::vector<std::string> FaultyDisk::List(const std::string& folder) {
-  if (!IsDue()) return below_.List(folder);
-  if (ErrorOfCall() != 0) return {};
-  return below_.List(folder);
+  std::vector<std::string> names;
+  int error = Made([&] {
+    names = below_.List(folder);
+    return 0;
+  });
+  return error == 0 ? names : std::vector<std::string>();
 }
 
 }  // namespace safety

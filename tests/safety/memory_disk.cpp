@@ -66,6 +66,7 @@ void MemoryDisk::Replay::Play(const Event& event) {
   switch (event.What) {
     case Happened::Sector:
       Sectors[{event.Node, event.Number}].Take(event.Text);
+      Lengths[event.Node].Dropped = false;  // a write makes the disk note the length anew
       return;
     case Happened::Length:
       Lengths[event.Node].Take(event.Number);

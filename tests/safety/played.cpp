@@ -6,7 +6,7 @@ namespace safety {
 Played Play(const Road& road, runtime::Disk& disk, const std::function<void(std::size_t)>& finished) {
   Played played;
   try {
-    Run run(disk);
+    Running run(disk);
     played.Started = !run.Program.Stopped();
     for (const Step& step : road.Steps) {
       if (run.Program.Stopped()) break;

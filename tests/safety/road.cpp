@@ -69,16 +69,6 @@ void Click(Program& program, forms::Button& button) {
   program.Deliver([&] { program.RecordScreen.UserClick(button); });
 }
 
-Step WriteSmallFile(const std::string& name, const std::string& line) {
-  return [name, line](Program& program) {
-    program.Deliver([&] {
-      program.Files.OpenOutput(SettingFileNo, name);
-      program.Files.WriteLine(SettingFileNo, line);
-      program.Files.Close(SettingFileNo);
-    });
-  };
-}
-
 Step EditAndClose(int slot, int version) {
   return [slot, version](Program& program) {
     GoTo(program, slot);
@@ -99,13 +89,18 @@ Folder Delivered() {
   return folder;
 }
 
-// Keeps the folder of each moment at which a file of the user's was made safe.
+// Keeps the folder of each moment at which a file of the user's was made safe or replaced.
 class WatchingDisk final : public PassingDisk {
  public:
   WatchingDisk(MemoryDisk& below, std::vector<Folder>& seen) : PassingDisk(below), memory_(below), seen_(seen) {}
   int Sync(int handle) override {
     int result = PassingDisk::Sync(handle);
     if (FolderOf(NameOf(handle)).empty()) seen_.push_back(Visible(memory_.Content()));
+    return result;
+  }
+  int Rename(const std::string& from, const std::string& to) override {
+    int result = PassingDisk::Rename(from, to);
+    seen_.push_back(Visible(memory_.Content()));
     return result;
   }
 
@@ -186,6 +181,20 @@ Step DeleteFilm(int slot) {
   };
 }
 
+Step SortFilms() {
+  return [](Program& program) { Click(program, program.RecordScreen.cmdSort); };
+}
+
+Step WriteSmallFile(const std::string& name, const std::string& line) {
+  return [name, line](Program& program) {
+    program.Deliver([&] {
+      program.Files.OpenOutput(SettingFileNo, name);
+      program.Files.WriteLine(SettingFileNo, line);
+      program.Files.Close(SettingFileNo);
+    });
+  };
+}
+
 const std::vector<Road>& Roads() {
   static const std::vector<Road> roads = [] {
     Folder no_master = FolderOfFilms(0);
@@ -217,7 +226,7 @@ std::vector<std::vector<Folder>> Stations(const Road& road) {
   MemoryDisk memory(road.Before);
   std::vector<Folder> seen;
   WatchingDisk watching(memory, seen);
-  Run run(watching);
+  Running run(watching);
   std::vector<std::vector<Folder>> stations;
   for (const Step& step : road.Steps) {
     seen = {Visible(memory.Content())};
@@ -231,7 +240,7 @@ std::vector<std::vector<Folder>> Stations(const Road& road) {
 
 std::string Complaint(MemoryDisk& disk, const std::vector<Folder>& allowed, const Folder& before, const Fitting& fit) {
   std::unique_ptr<runtime::Disk> fitted = fit ? fit(disk) : nullptr;
-  Run run(fitted ? *fitted : disk);
+  Running run(fitted ? *fitted : disk);
   if (run.Program.Stopped()) {
     const runtime::Failure& failure = *run.Program.Stopped();
     return "the start stops: " + std::string(failure.Name) + ", " + failure.File;

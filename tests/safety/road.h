@@ -39,8 +39,8 @@ class YesDesk final : public forms::Desk {
 };
 
 // A started program with its desk.
-struct Run {
-  explicit Run(runtime::Disk& disk) : Program(Desk, disk) { Program.StartRecordScreen(); }
+struct Running {
+  explicit Running(runtime::Disk& disk) : Program(Desk, disk) { Program.StartRecordScreen(); }
   YesDesk Desk;
   ::Program Program;
 };
@@ -62,6 +62,9 @@ Folder FolderOfFilms(int films, const std::string& behind = "");
 Step NewFilm(int slot, int version);
 Step EditFilm(int slot, int version);
 Step DeleteFilm(int slot);
+Step SortFilms();
+// One line into a file opened for output, as settings and counts are written.
+Step WriteSmallFile(const std::string& name, const std::string& line);
 void GoTo(Program& program, int slot);
 
 // Slot 7 is the first that straddles a page; each road that changes a film goes through such a slot.

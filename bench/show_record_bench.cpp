@@ -1,0 +1,87 @@
+// ShowRecord of 32,767 films on the bare forms, side by side with copying the same 35 texts of each into plain strings.
+// Usage: show_record_bench RECPRA_DAT
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+#include "bench/measured.h"
+#include "bench/quiet_desk.h"
+#include "opening/program.h"
+#include "store/film_codes.h"
+
+namespace {
+
+constexpr std::size_t Films = 32767;
+constexpr int Rounds = 5;
+
+std::vector<store::FilmRecord> LoadFilms(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::vector<store::FilmRecord> source;
+  store::FilmRecord film;
+  while (file.read(film.Bytes.data(), static_cast<std::streamsize>(film.Bytes.size()))) source.push_back(film);
+  if (source.empty()) return source;
+  std::vector<store::FilmRecord> films;
+  for (std::size_t index = 0; index < Films; ++index) films.push_back(source[index % source.size()]);
+  return films;
+}
+
+// The 32 fields without their padding, the name of the genre, the title bar and the heading.
+using Texts = std::array<std::string, 35>;
+
+void CopyTexts(const store::FilmRecord& film, std::size_t number, Texts& texts) {
+  for (std::size_t field = 0; field < 32; ++field) texts[field] = runtime::Trim(film.Get(store::FilmField(field)));
+  const store::GenreRow* genre = store::GenreOf(texts[static_cast<std::size_t>(store::FilmField::Genre)]);
+  texts[32] = genre ? genre->Name : "";
+  texts[33] = "Reelora Prima Record " + runtime::S(static_cast<std::int64_t>(number)) + "/" + runtime::S(Films) +
+              "      Title Non Sorted";
+  texts[34] = "To write a new record click \"New\" button or ALT \"W\"";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::vector<store::FilmRecord> films = LoadFilms(argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat");
+  if (films.empty()) {
+    std::fprintf(stderr, "no films to show\n");
+    return 1;
+  }
+  std::filesystem::path folder = std::filesystem::temp_directory_path() / "reelora_show_record_bench";
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  for (const auto& entry : std::filesystem::directory_iterator(REELORA_DELIVERED)) {
+    if (entry.is_regular_file()) std::filesystem::copy(entry.path(), folder);
+  }
+  bench::QuietDesk desk;
+  runtime::RealDisk disk(folder);
+  Program program(desk, disk);
+  program.StartRecordScreen();
+  frmPage1& window = program.RecordScreen;
+  window.ViewState = 0;
+  window.RecordCount = Films;
+
+  double shown = 1e9;
+  double copied = 1e9;
+  Texts texts;
+  std::size_t copied_bytes = 0;
+  for (int round = 0; round < Rounds; ++round) {
+    shown = std::min(shown, bench::Timed([&] {
+                       for (std::size_t number = 0; number < Films; ++number) {
+                         window.CurrentFilm = films[number];
+                         window.CurrentRecNo = static_cast<std::int64_t>(number) + 1;
+                         window.ShowRecord();
+                       }
+                     }));
+    copied = std::min(copied, bench::Timed([&] {
+                        for (std::size_t number = 0; number < Films; ++number) {
+                          CopyTexts(films[number], number + 1, texts);
+                          copied_bytes += texts[0].size();
+                        }
+                      }));
+  }
+  std::filesystem::remove_all(folder);
+  std::printf("ShowRecord  %6.2f us a film\n", shown / Films * 1e6);
+  std::printf("copying     %6.2f us a film (%zu bytes of titles)\n", copied / Films * 1e6, copied_bytes);
+  std::printf("ratio       %6.2f (goal: at most 4)\n", shown / copied);
+}

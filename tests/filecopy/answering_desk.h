@@ -1,0 +1,59 @@
+// A desk that answers as a test has planned, and keeps what it was asked.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/desk.h"
+
+class AnsweringDesk final : public forms::Desk {
+ public:
+  // The answers to come, Yes when there are no more; the colours to come, nothing is Cancel.
+  std::deque<forms::Answer> Answers;
+  std::deque<std::optional<std::uint32_t>> Colours;
+  // The folder of the disk in each drive; nothing where it holds none.
+  std::map<char, std::optional<std::string>> Drives;
+
+  std::vector<std::string> Boxes;
+  std::vector<std::uint32_t> ColourStarts;
+  std::string Reported;
+
+  std::string InputBox(std::string_view, std::string_view) override { return ""; }
+  void Beep() override {}
+  std::optional<std::uint32_t> ColourDialog(std::uint32_t start) override {
+    ColourStarts.push_back(start);
+    return TakeFront(Colours, std::optional<std::uint32_t>());
+  }
+  void PrinterDialog() override {}
+  void Print(const runtime::PrintJob&) override {}
+  void Help(int) override {}
+  std::chrono::local_seconds Now() override { return {}; }
+  std::string DriveLetters() override {
+    std::string letters;
+    for (const auto& [letter, folder] : Drives) letters += letter;
+    return letters;
+  }
+  std::optional<std::string> DriveFolder(char letter) override { return Drives[letter]; }
+  void Repaint() override {}
+  void RepaintNow() override {}
+  void Closed() override {}
+  void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
+
+ protected:
+  forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
+    Boxes.emplace_back(text);
+    return buttons == forms::Buttons::Ok ? forms::Answer::Ok : TakeFront(Answers, forms::Answer::Yes);
+  }
+
+ private:
+  template <typename Value>
+  static Value TakeFront(std::deque<Value>& values, Value otherwise) {
+    if (values.empty()) return otherwise;
+    Value front = values.front();
+    values.pop_front();
+    return front;
+  }
+};

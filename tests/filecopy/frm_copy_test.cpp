@@ -1,0 +1,185 @@
+// The copy window on disks in memory: what it asks to the letter, and what it does when a disk is full.
+#include "filecopy/frmCopy.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+
+#include "opening/program.h"
+#include "tests/filecopy/answering_desk.h"
+#include "tests/safety/faulty_disk.h"
+#include "tests/safety/passing_disk.h"
+#include "tests/safety/road.h"
+
+namespace {
+
+using safety::Folder;
+using safety::MemoryDisk;
+
+constexpr std::string_view NoDisk =
+    "There is no disk in floppy drive, or wrong drive was selected. Insert disk and click ok.";
+
+class TimedDisk final : public safety::PassingDisk {
+ public:
+  TimedDisk(runtime::Disk& below, std::int64_t modified) : PassingDisk(below), modified_(modified) {}
+  std::int64_t Modified(const std::string&) override { return modified_; }
+
+ private:
+  std::int64_t modified_;
+};
+
+std::int64_t Moment(std::chrono::year_month_day date, int hour, int minute) {
+  using namespace std::chrono;
+  return (sys_days(date) + hours(hour) + minutes(minute)).time_since_epoch() / seconds(1);
+}
+
+// The program with its record screen up and a disk in drive a.
+struct CopyWindow : testing::Test {
+  CopyWindow() {
+    setenv("TZ", "UTC", 1);
+    tzset();
+    Desk.Drives = {{'a', "floppy"}, {'b', std::nullopt}, {'c', "hard"}};
+    Running.Copy.DiskIn = [this](const std::string& folder) -> std::unique_ptr<runtime::Disk> {
+      EXPECT_EQ(folder, "floppy");
+      return std::make_unique<TimedDisk>(*OnFloppy, FloppyTime);
+    };
+    Running.StartRecordScreen();
+  }
+  void OpenAndChoose(std::string_view file) {
+    Running.Deliver([&] { Running.RecordScreen.UserClick(Running.RecordScreen.mnuCopy); });
+    Pick(Running.Copy.File1, file);
+  }
+  void Pick(forms::ListBox& list, std::string_view item) {
+    const auto& items = list.Items();
+    auto index = std::find(items.begin(), items.end(), item) - items.begin();
+    ASSERT_LT(index, std::ssize(items)) << item;
+    Running.Deliver([&] { Running.Copy.UserPick(list, static_cast<int>(index)); });
+  }
+
+  std::int64_t FloppyTime = Moment(std::chrono::year(1999) / 12 / 31, 23, 59);
+  MemoryDisk Hard{safety::FolderOfFilms(2)};
+  TimedDisk HardWithTimes{Hard, Moment(std::chrono::year(2026) / 11 / 21, 5, 30)};
+  MemoryDisk Floppy{{}};
+  runtime::Disk* OnFloppy = &Floppy;
+  AnsweringDesk Desk;
+  Program Running{Desk, HardWithTimes};
+};
+
+TEST_F(CopyWindow, TheQuestionToReplaceShowsBothFiles) {
+  MemoryDisk with_old({{"Recpra.Dat", "123"}});
+  OnFloppy = &with_old;
+  OpenAndChoose("Recpra.Dat");
+  Pick(Running.Copy.Drive1, "a:");
+  ASSERT_EQ(Desk.Boxes.size(), 1u);
+  EXPECT_EQ(
+      Desk.Boxes[0],
+      "               REPLACE CURRENT FILE ON DRIVE \"A:\"\r\n\r\n"
+      "A:\\RECPRA.DAT was created or last modified on Friday, December 31, 1999 at 11:59 PM. Its size is 3 bytes. "
+      " To replace this file with the one below, click \"Yes\" or quit click \"No\".\r\n\r\n"
+      "    WITH CURRENT FILE ON \"HARD DISK\"\r\n\r\n"
+      "RECPRA.DAT was created or last modified on Saturday, November 21, 2026 at 5:30 AM. Its size is 1298 bytes. ");
+  EXPECT_EQ(with_old.Content().at("Recpra.Dat"), Hard.Content().at("Recpra.Dat"));
+  EXPECT_FALSE(Running.Copy.Visible());
+}
+
+TEST_F(CopyWindow, OnTheOwnDriveTheNameStandsAloneAndNothingIsWritten) {
+  Folder before = Hard.Content();
+  OpenAndChoose("Recpra.Dat");
+  Pick(Running.Copy.Drive1, "c:");
+  ASSERT_EQ(Desk.Boxes.size(), 1u);
+  EXPECT_NE(Desk.Boxes[0].find("ON DRIVE \"C:\"\r\n\r\nRECPRA.DAT was"), std::string::npos) << Desk.Boxes[0];
+  EXPECT_EQ(safety::Visible(Hard.Content()), safety::Visible(before));
+}
+
+TEST_F(CopyWindow, ADriveWithoutItsColonIsTheSameDrive) {
+  OpenAndChoose("Recpra.Dat");
+  Running.Copy.Drive1.Add("a");
+  Pick(Running.Copy.Drive1, "a");
+  ASSERT_EQ(Desk.Boxes.size(), 1u);
+  EXPECT_EQ(Desk.Boxes[0], "Do you want to copy Recpra.Dat to Drive A hit Yes, or No ");
+  EXPECT_EQ(Running.Copy.DriveWord, "A:");
+  EXPECT_EQ(Running.Copy.LetterWord, "A");
+  EXPECT_EQ(Running.Copy.TargetPath, "A:\\Recpra.Dat");
+  EXPECT_TRUE(Floppy.Content().contains("Recpra.Dat"));
+}
+
+TEST_F(CopyWindow, AFullDiskLeavesTheOldFileAndAnotherTry) {
+  MemoryDisk below({{"Recpra.Dat", "old"}});
+  safety::FaultyDisk full(below, {safety::Fault::Full, 4, true});
+  OnFloppy = &full;
+  OpenAndChoose("Recpra.Dat");
+  Pick(Running.Copy.Drive1, "a:");
+  ASSERT_EQ(Desk.Boxes.size(), 2u);
+  EXPECT_EQ(Desk.Boxes[1], NoDisk);
+  EXPECT_TRUE(Running.Copy.lblCopy7.Visible());
+  EXPECT_TRUE(Running.Copy.Visible());
+  EXPECT_EQ(below.Content().at("Recpra.Dat"), "old");
+  EXPECT_FALSE(Running.Files.IsOpen(1));
+  EXPECT_FALSE(Running.Stopped());
+
+  OnFloppy = &Floppy;
+  Pick(Running.Copy.Drive1, "a:");
+  EXPECT_EQ(Floppy.Content().at("Recpra.Dat"), Hard.Content().at("Recpra.Dat"));
+  EXPECT_FALSE(Running.Copy.Visible());
+  EXPECT_TRUE(Running.Files.IsOpen(1));
+}
+
+TEST_F(CopyWindow, ADiskThatCannotBeReadGivesTheWarning) {
+  safety::FaultyDisk broken(Floppy, {safety::Fault::Error, 0, true});
+  OnFloppy = &broken;
+  OpenAndChoose("Recpra.Dat");
+  Pick(Running.Copy.Drive1, "a:");
+  EXPECT_EQ(Desk.Boxes, std::vector<std::string>{std::string(NoDisk)});
+}
+
+TEST_F(CopyWindow, TheMasterFileIsClosedWhileTheWindowIsThere) {
+  EXPECT_TRUE(Running.Files.IsOpen(1));
+  OpenAndChoose("Recpra.Dat");
+  EXPECT_FALSE(Running.Files.IsOpen(1));
+  Running.Deliver([&] { Running.Copy.UserClose(); });
+  EXPECT_TRUE(Running.Files.IsOpen(1));
+  EXPECT_FALSE(Running.Ended());
+}
+
+TEST_F(CopyWindow, AFileChosenWithTheFileListSetsDriveA) {
+  OpenAndChoose("Recpra.Dat");
+  EXPECT_EQ(Running.Copy.LetterWord, "A");
+  EXPECT_TRUE(Running.Copy.Drive1.Enabled());
+}
+
+TEST(CopyWindowFolders, AFolderThatChangesTakesItsFileListAlong) {
+  std::string folder = testing::TempDir() + "copy_window_folders";
+  runtime::RealDisk disk(folder);
+  runtime::RealDisk outside(testing::TempDir());
+  ASSERT_EQ(outside.MakeFolder("copy_window_folders"), 0);
+  for (const auto& [name, bytes] : safety::FolderOfFilms(1)) {
+    std::string parent = safety::FolderOf(name);
+    if (!parent.empty()) disk.MakeFolder(parent);
+    int handle = disk.Open(name, runtime::Disk::Mode::Create);
+    disk.WriteAt(handle, bytes.data(), bytes.size(), 0);
+    disk.Close(handle);
+  }
+  ASSERT_EQ(disk.MakeFolder("older"), 0);
+  ASSERT_EQ(disk.MakeFolder("folder.dat"), 0);
+  disk.Close(disk.Open("older/Kept.dat", runtime::Disk::Mode::Create));
+  AnsweringDesk desk;
+  Program program(desk, disk);
+  program.StartRecordScreen();
+  program.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.mnuCopy); });
+  frmCopy& window = program.Copy;
+  EXPECT_EQ(window.File1.Items(), std::vector<std::string>{"Recpra.Dat"});
+  EXPECT_EQ(window.Dir1.Items(), (std::vector<std::string>{"folder.dat", "older"}));
+
+  window.Dir1.Select(1);
+  window.Dir1.DblClick();
+  EXPECT_EQ(window.File1.Items(), std::vector<std::string>{"Kept.dat"});
+  EXPECT_EQ(window.File1.OnDisk("Kept.dat"), "older/Kept.dat");
+  window.Dir2.SetPath("older");
+  EXPECT_EQ(window.File2.Items(), std::vector<std::string>{"Kept.dat"});
+  window.Dir1.Select(0);
+  window.Dir1.DblClick();
+  EXPECT_EQ(window.File1.Items(), std::vector<std::string>{"Recpra.Dat"});
+}
+
+}  // namespace

@@ -1,0 +1,38 @@
+// The quick start window where its flag file cannot be read.
+#include <gtest/gtest.h>
+
+#include "opening/program.h"
+#include "tests/filecopy/answering_desk.h"
+#include "tests/safety/memory_disk.h"
+#include "tests/safety/road.h"
+
+namespace {
+
+TEST(QuickStart, AFlagFileThatCannotBeReadIsMadeWithYes) {
+  for (const char* content : {"missing", ""}) {
+    safety::Folder folder = safety::FolderOfFilms(1);
+    folder.erase("Fo1");
+    if (*content == '\0') folder["Fo1"] = content;
+    safety::MemoryDisk disk(folder);
+    AnsweringDesk desk;
+    Program program(desk, disk);
+    program.Deliver([&] { program.QuickStart.Show(); });
+    EXPECT_EQ(disk.Content().at("Fo1"), "YES\r\n");
+    EXPECT_FALSE(program.Stopped());
+    EXPECT_FALSE(program.Files.IsOpen(CountFileNo));
+  }
+}
+
+TEST(QuickStart, StartClosesTheKeyFileAndEndsTheEdit) {
+  safety::MemoryDisk disk(safety::FolderOfFilms(1));
+  AnsweringDesk desk;
+  Program program(desk, disk);
+  program.StartOpener();
+  program.RecordScreen.EditMode = 1;
+  program.Files.OpenRandom(KeyFileNo, "Titlepra.Dat", 49);
+  program.Deliver([&] { program.Opener.UserClick(program.Opener.cmdStart); });
+  EXPECT_EQ(program.RecordScreen.EditMode, 0);
+  EXPECT_FALSE(program.Files.IsOpen(KeyFileNo));
+}
+
+}  // namespace

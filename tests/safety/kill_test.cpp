@@ -1,0 +1,34 @@
+// Twenty thousand kills at random moments, a quarter for each habit, half of them in a slot that straddles a page.
+#include <gtest/gtest.h>
+
+#include "tests/safety/kill_trial.h"
+#include "tests/safety/switched_off.h"
+
+namespace safety {
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr int TrialsOfHabit = 250;  // a process that is watched starts slowly
+#else
+constexpr int TrialsOfHabit = 5000;
+#endif
+
+class Kills : public testing::TestWithParam<std::size_t> {
+ protected:
+  const Habit& Repeated = Habits()[GetParam()];
+};
+
+TEST_P(Kills, LeaveNoMixtureAndLoseNoSave) {
+  KillCount count = KillAtRandom(Repeated, TrialsOfHabit, static_cast<unsigned>(GetParam()));
+  RecordProperty("finished_saves", count.Finished);
+  EXPECT_EQ(count.Trials, TrialsOfHabit);
+  EXPECT_EQ(count.Straddling, TrialsOfHabit / 2);
+  EXPECT_GT(count.Finished, TrialsOfHabit);
+  EXPECT_EQ(count.Complaints, std::vector<std::string>());
+}
+
+INSTANTIATE_TEST_SUITE_P(Habits, Kills, testing::Range<std::size_t>(0, Habits().size()),
+                         [](const auto& habit) { return Habits()[habit.param].Name; });
+
+}  // namespace
+}  // namespace safety

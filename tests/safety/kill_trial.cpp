@@ -1,0 +1,233 @@
+// The child tells of every finished save through a pipe. Nothing is synced: a kill loses no page of the system's cache.
+#include "tests/safety/kill_trial.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include "store/film_record.h"
+#include "store/master_file.h"
+#include "tests/safety/passing_disk.h"
+
+namespace safety {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string Master(store::MasterFileName);
+constexpr int SlotsTried = 26;
+constexpr int LongestMicroseconds = 500;
+
+class UnsyncedDisk final : public PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  int Sync(int) override { return 0; }
+  int SyncFolder(const std::string&) override { return 0; }
+};
+
+std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
+  if (fit) return fit(below);
+  return std::make_unique<PassingDisk>(below);
+}
+
+// Where the files live in memory, if this machine has such a place.
+fs::path ScratchFolder() {
+  fs::path memory = "/dev/shm";
+  fs::path parent = ::access(memory.c_str(), W_OK) == 0 ? memory : fs::temp_directory_path();
+  return parent / ("reelora_kills_" + std::to_string(::getpid()));
+}
+
+void WriteFile(const fs::path& path, const std::string& content) {
+  std::ofstream file(path, std::ios::binary);
+  file << content;
+  file.close();
+  if (!file) throw std::runtime_error("cannot write " + path.string());
+}
+
+std::string ReadFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// A scratch folder for the trials of one count, with a folder for each trial in turn.
+class Ground {
+ public:
+  Ground() : home_(ScratchFolder()), trial_(home_ / "trial") {
+    fs::remove_all(home_);
+    fs::create_directories(home_ / "small");
+    for (const auto& [name, content] : FolderOfFilms(0)) WriteFile(home_ / "small" / name, content);
+  }
+  ~Ground() { fs::remove_all(home_); }
+  Ground(const Ground&) = delete;
+  Ground& operator=(const Ground&) = delete;
+
+  // The small files are links, since the program replaces them and never writes into them.
+  const fs::path& LayOut(const Folder& content) {
+    fs::remove_all(trial_);
+    fs::create_directory(trial_);
+    for (const auto& [name, bytes] : content) {
+      if (name == Master) {
+        WriteFile(trial_ / name, bytes);
+      } else {
+        fs::create_hard_link(home_ / "small" / name, trial_ / name);
+      }
+    }
+    return trial_;
+  }
+
+ private:
+  fs::path home_, trial_;
+};
+
+[[noreturn]] void SaveUntilKilled(const fs::path& folder, const Habit& habit, int slot, const Fitting& fit, int told) {
+  runtime::RealDisk real(folder.string());
+  UnsyncedDisk unsynced(real);
+  auto fitted = Fitted(unsynced, fit);
+  Running run(*fitted);
+  const char mark = '+';
+  bool heard = ::write(told, &mark, 1) == 1;
+  for (int time = 1; heard && !run.Program.Stopped(); ++time) {
+    habit.Do(slot, time)(run.Program);
+    heard = ::write(told, &mark, 1) == 1;
+  }
+  ::_exit(1);
+}
+
+void Spin(std::chrono::microseconds length) {
+  auto end = std::chrono::steady_clock::now() + length;
+  while (std::chrono::steady_clock::now() < end) {
+  }
+}
+
+// Runs the program in the folder and kills it; the number of times that it told to be finished.
+int KillOnce(const fs::path& folder, const Habit& habit, int slot, const Fitting& fit,
+             std::chrono::microseconds after) {
+  std::array<int, 2> ends{};
+  if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
+  pid_t child = ::fork();
+  if (child < 0) throw std::runtime_error("no process");
+  if (child == 0) {
+    ::close(ends[0]);
+    SaveUntilKilled(folder, habit, slot, fit, ends[1]);
+  }
+  ::close(ends[1]);
+  char started = 0;
+  bool saves = ::read(ends[0], &started, 1) == 1;
+  Spin(after);
+  ::kill(child, SIGKILL);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  int finished = 0;
+  std::array<char, 4096> marks{};
+  for (ssize_t part = 0; (part = ::read(ends[0], marks.data(), marks.size())) > 0;) finished += static_cast<int>(part);
+  ::close(ends[0]);
+  if (!saves || !WIFSIGNALED(status)) throw std::runtime_error(habit.Name + ": the program ended by itself");
+  return finished;
+}
+
+// Starts the program again and looks at the files that the habit changes.
+std::string ComplaintOf(const fs::path& folder, const std::vector<Folder>& allowed, const Fitting& fit) {
+  runtime::RealDisk real(folder.string());
+  UnsyncedDisk unsynced(real);
+  auto fitted = Fitted(unsynced, fit);
+  Running run(*fitted);
+  if (run.Program.Stopped()) return "the start stops: " + std::string(run.Program.Stopped()->Name);
+  for (const Folder& files : allowed) {
+    if (std::all_of(files.begin(), files.end(),
+                    [&](const auto& file) { return ReadFile(folder / file.first) == file.second; }))
+      return "";
+  }
+  return "a mixture, or a save is missing";
+}
+
+Folder MasterOf(std::string master) { return {{Master, std::move(master)}}; }
+
+std::string Films(int first, int last) {
+  std::string films;
+  for (int slot = first; slot <= last; ++slot) films += FilmBytes(slot, 0);
+  return films;
+}
+
+std::string WithRecord(int slot, const std::string& record) {
+  return Films(1, slot - 1) + record + Films(slot + 1, SlotsTried);
+}
+
+std::string Blank(const std::string& tail) { return std::string(store::RecordLength - tail.size(), ' ') + tail; }
+
+std::vector<Folder> AllowedNew(int slot, int finished) {
+  std::string master = Films(1, slot - 1);
+  for (int time = 1; time <= finished; ++time) master += FilmBytes(slot - 1 + time, time);
+  return {MasterOf(master), MasterOf(master + FilmBytes(slot + finished, finished + 1))};
+}
+
+std::vector<Folder> AllowedEdit(int slot, int finished) {
+  return {MasterOf(WithRecord(slot, FilmBytes(slot, finished))),
+          MasterOf(WithRecord(slot, FilmBytes(slot, finished + 1)))};
+}
+
+// Odd times delete, which writes the blank record without and then with its line end; even times write a new film.
+std::vector<Folder> AllowedDelete(int slot, int finished) {
+  if (finished % 2 == 1)
+    return {MasterOf(WithRecord(slot, Blank("\r\n"))), MasterOf(WithRecord(slot, FilmBytes(slot, finished + 1)))};
+  return {MasterOf(WithRecord(slot, FilmBytes(slot, finished))), MasterOf(WithRecord(slot, Blank(""))),
+          MasterOf(WithRecord(slot, Blank("\r\n")))};
+}
+
+std::string LastAt(int time) { return std::to_string(time) + "\r\n"; }
+
+}  // namespace
+
+bool Straddles(int slot) {
+  constexpr int PageBytes = 4096;
+  return (slot - 1) * store::RecordLength / PageBytes != (slot * store::RecordLength - 1) / PageBytes;
+}
+
+const std::vector<Habit>& Habits() {
+  static const std::vector<Habit> habits = {
+      {"New", [](int slot) { return FolderOfFilms(slot - 1); },
+       [](int slot, int time) { return NewFilm(slot - 1 + time, time); }, AllowedNew},
+      {"Edit", [](int) { return FolderOfFilms(SlotsTried); }, EditFilm, AllowedEdit},
+      {"Delete", [](int) { return FolderOfFilms(SlotsTried); },
+       [](int slot, int time) { return time % 2 == 1 ? DeleteFilm(slot) : NewFilm(slot, time); }, AllowedDelete},
+      {"Setting", [](int) { return FolderOfFilms(2); },
+       [](int, int time) { return WriteSmallFile("Last", std::to_string(time)); },
+       [](int, int finished) {
+         Folder none = {{"Last", ""}}, now = {{"Last", LastAt(finished)}}, next = {{"Last", LastAt(finished + 1)}};
+         return finished == 0 ? std::vector<Folder>{none, next} : std::vector<Folder>{now, next};
+       }},
+  };
+  return habits;
+}
+
+KillCount KillAtRandom(const Habit& habit, int trials, unsigned seed, const Fitting& fit, bool until_complaint) {
+  std::mt19937 random(seed);
+  Ground ground;
+  KillCount count;
+  while (count.Trials < trials && !(until_complaint && !count.Complaints.empty())) {
+    int slot = 0;
+    do {
+      slot = 2 + static_cast<int>(random() % (SlotsTried - 2));
+    } while (Straddles(slot) != (count.Trials % 2 == 0));
+    const fs::path& folder = ground.LayOut(habit.Before(slot));
+    std::chrono::microseconds after(random() % LongestMicroseconds);
+    int finished = KillOnce(folder, habit, slot, fit, after);
+    ++count.Trials;
+    count.Straddling += Straddles(slot) ? 1 : 0;
+    count.Finished += finished;
+    std::string complaint = ComplaintOf(folder, habit.Allowed(slot, finished), fit);
+    if (!complaint.empty())
+      count.Complaints.push_back("slot " + std::to_string(slot) + " after " + std::to_string(finished) +
+                                 " saves: " + complaint);
+  }
+  return count;
+}
+
+}  // namespace safety

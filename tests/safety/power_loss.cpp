@@ -1,0 +1,117 @@
+// States that have been looked at are not looked at again.
+#include "tests/safety/power_loss.h"
+
+#include <algorithm>
+#include <set>
+
+#include "store/film_record.h"
+#include "store/master_file.h"
+#include "tests/safety/passing_disk.h"
+#include "tests/safety/played.h"
+
+namespace safety {
+namespace {
+
+constexpr std::size_t MostStates = 4096;
+constexpr std::size_t MostStatesInRecovery = 64;
+constexpr std::size_t MostStatesAfterFault = 24;
+
+std::string At(std::size_t moment, const std::string& complaint) {
+  return complaint.empty() ? "" : "at moment " + std::to_string(moment) + ": " + complaint;
+}
+
+// The power fails again while the start repairs what the first failure has left.
+std::string TwiceComplaint(const Folder& state, const std::vector<Folder>& allowed, const Folder& before,
+                           const Fitting& fit) {
+  MemoryDisk disk(state);
+  std::string complaint = Complaint(disk, allowed, before, fit);
+  for (std::size_t moment = 1; complaint.empty() && moment < disk.Moments(); ++moment) {
+    for (const Folder& again : disk.AfterPowerLoss(moment, MostStatesInRecovery)) {
+      complaint = Complaint(again, allowed, before, fit);
+      if (!complaint.empty()) break;
+    }
+  }
+  return complaint;
+}
+
+std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
+  if (fit) return fit(below);
+  return std::make_unique<PassingDisk>(below);
+}
+
+// What saving film 1 in version 9 makes of each of the folders.
+std::vector<Folder> WithFilmOne(std::vector<Folder> folders) {
+  for (Folder& folder : folders) {
+    std::string& master = folder[std::string(store::MasterFileName)];
+    master.replace(0, std::min<std::size_t>(master.size(), store::RecordLength), FilmBytes(1, 9));
+  }
+  return folders;
+}
+
+}  // namespace
+
+std::string PowerLossComplaint(const Road& road, const Fitting& fit) {
+  std::vector<std::vector<Folder>> stations = Stations(road);
+  MemoryDisk memory(road.Before);
+  std::vector<std::size_t> finished;
+  Play(road, *Fitted(memory, fit), [&](std::size_t) { finished.push_back(memory.Moments()); });
+  std::set<std::pair<std::size_t, Folder>> seen;
+  for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
+    auto steps =
+        static_cast<std::size_t>(std::upper_bound(finished.begin(), finished.end(), moment) - finished.begin());
+    for (const Folder& state : memory.AfterPowerLoss(moment, MostStates)) {
+      if (!seen.emplace(steps, state).second) continue;
+      std::string complaint = TwiceComplaint(state, stations[steps], road.Before, fit);
+      if (!complaint.empty()) return At(moment, complaint);
+    }
+  }
+  return "";
+}
+
+std::string PowerLossAfterFaultComplaint(const Road& road, Fault fault, const Fitting& fit) {
+  std::vector<std::vector<Folder>> stations = Stations(road);
+  std::size_t calls = CallsOf(road);
+  for (std::size_t at = 0; at < calls; ++at) {
+    MemoryDisk memory(road.Before);
+    FaultyDisk faulty(memory, {fault, at});
+    Played played = Play(road, *Fitted(faulty, fit));
+    std::size_t fault_moment = memory.Moments();
+    if (fault_moment == 0) continue;
+    auto fitted = Fitted(memory, fit);
+    Running run(*fitted);
+    EditFilm(1, 9)(run.Program);
+    if (run.Program.Stopped()) return "the program stops after a fault at call " + std::to_string(at);
+
+    const std::vector<Folder>& old_ones = stations[played.Steps];
+    std::vector<Folder> after = WithFilmOne(old_ones);
+    std::vector<Folder> during = old_ones;
+    during.insert(during.end(), after.begin(), after.end());
+    std::set<Folder> seen;
+    for (std::size_t moment = fault_moment; moment <= memory.Moments(); ++moment) {
+      const std::vector<Folder>& allowed = moment == memory.Moments() ? after : during;
+      for (const Folder& state : memory.AfterPowerLoss(moment, MostStatesAfterFault)) {
+        if (moment != memory.Moments() && !seen.insert(state).second) continue;
+        std::string complaint = Complaint(state, allowed, road.Before, fit);
+        if (!complaint.empty()) return "after a fault at call " + std::to_string(at) + ", " + At(moment, complaint);
+      }
+    }
+  }
+  return "";
+}
+
+std::string TakeBackComplaint(const Road& road, Fault fault, const Fitting& fit) {
+  std::vector<std::vector<Folder>> stations = Stations(road);
+  std::size_t calls = CallsOf(road);
+  for (std::size_t at = 0; at < calls; ++at) {
+    MemoryDisk memory(road.Before);
+    FaultyDisk faulty(memory, {fault, at});
+    Played played = Play(road, *Fitted(faulty, fit));
+    const std::vector<Folder>& allowed = stations[played.Steps];
+    Folder left = Visible(memory.Content());
+    if (played.Started && std::find(allowed.begin(), allowed.end(), left) == allowed.end())
+      return "a mixture is left behind by a fault at call " + std::to_string(at);
+  }
+  return "";
+}
+
+}  // namespace safety

@@ -1,0 +1,97 @@
+// Which call belongs to which safeguard.
+#include "tests/safety/switched_off.h"
+
+#include <cerrno>
+
+#include "runtime/whole_io.h"
+#include "store/master_file.h"
+
+namespace safety {
+namespace {
+
+const std::string Journal = runtime::InSafetyFolder("journal");
+const std::string History = runtime::InSafetyFolder("history");
+
+}  // namespace
+
+const std::vector<SafeguardRow>& Safeguards() {
+  static const std::vector<SafeguardRow> rows = {
+      {Safeguard::JournalWrite, "JournalWrite"},
+      {Safeguard::JournalSync, "JournalSync"},
+      {Safeguard::RecordSync, "RecordSync"},
+      {Safeguard::HistorySync, "HistorySync"},
+      {Safeguard::SafetyFolderSync, "SafetyFolderSync"},
+      {Safeguard::CollectionFolderSync, "CollectionFolderSync"},
+      {Safeguard::FolderSyncEachRun, "FolderSyncEachRun"},
+      {Safeguard::AsideSync, "AsideSync"},
+      {Safeguard::AsideRename, "AsideRename"},
+      {Safeguard::Recovery, "Recovery"},
+      {Safeguard::RecoverySync, "RecoverySync"},
+      {Safeguard::TakingBack, "TakingBack"},
+  };
+  return rows;
+}
+
+SwitchedOff::SwitchedOff(runtime::Disk& below, Safeguard guard)
+    : PassingDisk(below), guard_(guard), master_(store::MasterFileName) {}
+
+int SwitchedOff::Open(const std::string& name, Mode mode) {
+  if (IsOff(Safeguard::Recovery) && name == Journal && mode == Mode::Read) return -ENOENT;
+  int handle = PassingDisk::Open(name, mode);
+  journal_was_there_ = journal_was_there_ || (name == Journal && mode == Mode::Read && handle >= 0);
+  return handle;
+}
+
+std::int64_t SwitchedOff::WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) {
+  const std::string& name = NameOf(handle);
+  journal_written_ = journal_written_ || name == Journal;
+  if ((IsOff(Safeguard::JournalWrite) && name == Journal) || TakesBack(name)) return static_cast<std::int64_t>(count);
+  std::int64_t result = PassingDisk::WriteAt(handle, source, count, offset);
+  failed_ = failed_ || (result < 0 && result != -EINTR);
+  return result;
+}
+
+int SwitchedOff::Truncate(int handle, std::int64_t length) {
+  return TakesBack(NameOf(handle)) ? 0 : PassingDisk::Truncate(handle, length);
+}
+
+int SwitchedOff::Sync(int handle) {
+  const std::string& name = NameOf(handle);
+  bool skipped = (IsOff(Safeguard::JournalSync) && name == Journal) ||
+                 (IsOff(Safeguard::HistorySync) && name == History) ||
+                 (IsOff(Safeguard::RecordSync) && name == master_) ||
+                 (IsOff(Safeguard::RecoverySync) && name == master_ && !journal_written_) ||
+                 (IsOff(Safeguard::AsideSync) && name.ends_with(runtime::AsideEnding));
+  if (skipped) return 0;
+  int result = PassingDisk::Sync(handle);
+  failed_ = failed_ || (result < 0 && result != -EINTR);
+  return result;
+}
+
+int SwitchedOff::Rename(const std::string& from, const std::string& to) {
+  if (!IsOff(Safeguard::AsideRename)) return PassingDisk::Rename(from, to);
+  std::string content;
+  {
+    runtime::Opened source(Below(), from, Mode::Read);
+    content.resize(static_cast<std::size_t>(source.Length()));
+    source.Read(content.data(), content.size(), 0);
+  }
+  runtime::Opened target(Below(), to, Mode::Create);
+  target.Truncate(0);
+  target.Write(content, 0);
+  target.Sync();
+  return Below().Remove(from);
+}
+
+int SwitchedOff::SyncFolder(const std::string& name) {
+  bool skipped = (IsOff(Safeguard::SafetyFolderSync) && name == runtime::SafetyFolder) ||
+                 (IsOff(Safeguard::CollectionFolderSync) && name.empty()) ||
+                 (IsOff(Safeguard::FolderSyncEachRun) && journal_was_there_);
+  return skipped ? 0 : PassingDisk::SyncFolder(name);
+}
+
+Fitting Without(Safeguard guard) {
+  return [guard](runtime::Disk& below) { return std::make_unique<SwitchedOff>(below, guard); };
+}
+
+}  // namespace safety
