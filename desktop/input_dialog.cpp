@@ -2,40 +2,36 @@
 #include "desktop/input_dialog.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QVBoxLayout>
-
-#include "desktop/text.h"
 
 namespace desktop {
 namespace {
 
 constexpr int PromptWidth = 420;
 
+bool RefuseWithBeep() {
+  QApplication::beep();
+  return true;
+}
+
 }  // namespace
 
-InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* parent) : QDialog(parent) {
+InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* parent)
+    : QDialog(parent),
+      validator_(RefuseWithBeep),
+      column_(this),
+      prompt_(prompt),
+      buttons_(QDialogButtonBox::Ok | QDialogButtonBox::Cancel) {
   setWindowTitle(title);
-  auto refuses = [] {
-    QApplication::beep();
-    return true;
-  };
-  line_.setValidator(std::make_unique<CodePageValidator>(refuses, &line_).release());
+  prompt_.setTextFormat(Qt::PlainText);
+  prompt_.setWordWrap(true);
+  prompt_.setMinimumWidth(PromptWidth);
+  line_.setValidator(&validator_);
   line_.setAccessibleName(prompt.simplified());
-  auto words = std::make_unique<QLabel>(prompt);
-  words->setTextFormat(Qt::PlainText);
-  words->setWordWrap(true);
-  words->setMinimumWidth(PromptWidth);
-  auto buttons = std::make_unique<QDialogButtonBox>(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons.get(), &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons.get(), &QDialogButtonBox::rejected, this, &QDialog::reject);
-  // The dialog owns the layout, and what is laid out.
-  auto column = std::make_unique<QVBoxLayout>(this);
-  column->addWidget(words.release());
-  column->addWidget(&line_);
-  column->addWidget(buttons.release());
-  column.release();
+  connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  for (QWidget* part :
+       {static_cast<QWidget*>(&prompt_), static_cast<QWidget*>(&line_), static_cast<QWidget*>(&buttons_)})
+    column_.addWidget(part);
   line_.setFocus();
 }
 

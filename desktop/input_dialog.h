@@ -2,7 +2,12 @@
 #pragma once
 
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "desktop/text.h"
 
 namespace desktop {
 
@@ -12,7 +17,11 @@ class InputDialog final : public QDialog {
   QString Answer() const { return line_.text(); }
 
  private:
+  CodePageValidator validator_;
+  QVBoxLayout column_;
+  QLabel prompt_;
   QLineEdit line_;
+  QDialogButtonBox buttons_;
 };
 
 }  // namespace desktop

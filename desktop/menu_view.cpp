@@ -14,7 +14,7 @@ constexpr int SmallestLetters = 11;  // pixels
 
 }  // namespace
 
-MenuView::MenuView(forms::Window& window, QWidget& parent, std::function<void(forms::MenuItem&)> chosen)
+MenuView::MenuView(forms::Window& window, QWidget& parent, const std::function<void(forms::MenuItem&)>& chosen)
     : bar_(&parent) {
   bar_.setNativeMenuBar(false);
   std::vector<QAction*> above;  // the last line of each level

@@ -15,7 +15,7 @@ namespace desktop {
 class MenuView {
  public:
   // Chosen gets the menu line that the user has chosen.
-  MenuView(forms::Window& window, QWidget& parent, std::function<void(forms::MenuItem&)> chosen);
+  MenuView(forms::Window& window, QWidget& parent, const std::function<void(forms::MenuItem&)>& chosen);
 
   QMenuBar& Bar() { return bar_; }
   bool Empty() const { return actions_.empty(); }

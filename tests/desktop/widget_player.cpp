@@ -175,4 +175,8 @@ void WidgetPlayer::Picture(const std::string& path) {
   if (!front || !desktop::SavePicture(*front, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
 }
 
+void WidgetPlayer::PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) {
+  if (!desktop::SavePagePicture(job, page, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
+}
+
 }  // namespace story

@@ -24,6 +24,7 @@ class WidgetPlayer final : public Player {
   void Close(const std::string& window) override;
   void Settle() override;
   void Picture(const std::string& path) override;
+  void PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) override;
 
  private:
   // The widget of a control that can be met with the mouse; nullptr where it cannot.

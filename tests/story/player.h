@@ -42,6 +42,10 @@ class Player {
   virtual void Settle() {}
   // Saves the window in front as a PNG file of that path. Nothing on the bare forms.
   virtual void Picture(const std::string& path) { static_cast<void>(path); }
+  // The same of a printed page, from 0.
+  virtual void PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) {
+    static_cast<void>(job), static_cast<void>(page), static_cast<void>(path);
+  }
 };
 
 // Called after the program is made and before it is started; the player goes before the program does.

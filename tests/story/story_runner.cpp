@@ -120,10 +120,20 @@ class Performance {
          [](Player& player, const Line& action) { player.Close(action.Arguments.empty() ? "" : action.Text(0)); }},
     };
     if (line.Verb == "picture") {
-      if (!options_.Pictures.empty()) run_->Player->Picture((options_.Pictures / (line.Text(0) + ".png")).string());
+      if (!options_.Pictures.empty()) TakePicture(line);
       return;
     }
     actions.at(line.Verb)(*run_->Player, line);
+  }
+
+  // picture NAME: the window in front; picture page P NAME: a page of the last document.
+  void TakePicture(const Line& line) {
+    std::string path = (options_.Pictures / (line.Arguments.back().Text + ".png")).string();
+    if (line.Arguments.size() == 1) return run_->Player->Picture(path);
+    int page = line.Number32(1);
+    if (!world_.Document || page < 1 || page > static_cast<int>(world_.Document->Pages.size()))
+      throw Difference{line.Number, Differs("page " + line.Text(1), "a document without it")};
+    run_->Player->PagePicture(*world_.Document, static_cast<std::size_t>(page - 1), path);
   }
 
   const std::vector<Line>& lines_;

@@ -40,6 +40,7 @@ constexpr VerbRow Verbs[] = {
   { "clear",         "",        Role::Action, "" },
   { "close",         "",        Role::Action, "" },
   { "close",         "",        Role::Action, "w" },
+  { "picture",       "page",    Role::Action, "nw" },
   { "picture",       "",        Role::Action, "w" },
 
   { "box",           "",        Role::Effect, "weew" },

@@ -1,0 +1,32 @@
+// The input box.
+#include "desktop/input_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPushButton>
+#include <QTimer>
+
+namespace desktop {
+namespace {
+
+TEST(InputDialog, GivesTheAnswerAsItIsTyped) {
+  InputDialog dialog("Search", "Title to search:", nullptr);
+  QTimer::singleShot(0, [&] {
+    QApplication::clipboard()->setText(QString::fromUtf8(" Amélie ж "));
+    dialog.findChild<QLineEdit*>()->paste();
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  });
+  EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+  EXPECT_EQ(dialog.Answer(), QString::fromUtf8(" Amélie  "));
+}
+
+TEST(InputDialog, CanBeCancelled) {
+  InputDialog dialog("Search", "Title to search:", nullptr);
+  QTimer::singleShot(0, [&] { dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click(); });
+  EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+}
+
+}  // namespace
+}  // namespace desktop
