@@ -1,4 +1,6 @@
 # A file includes only its own floor and lower ones; the toolkit belongs to the desktop. Run as a test: cmake -DROOT=... -P floors.cmake
+cmake_minimum_required(VERSION 3.25)
+
 set(floor_runtime runtime)
 set(floor_forms forms)
 set(floor_store store runtime)

@@ -113,6 +113,30 @@ TEST_F(SortRunTest, WritesTheCountOfThePassBeforeWhereOneFails) {
   EXPECT_EQ(std::filesystem::file_size(Folder.Path() / "DVDpra.Dat"), 0u);
 }
 
+TEST_F(SortRunTest, SetsTheHelpTopicOfTheButtonAndNoneOfTheMenu) {
+  Program program(Desk, Disk);
+  program.StartRecordScreen();
+  std::vector<int> topics;
+  Desk.OnBeep = [&] { topics.push_back(program.RecordScreen.HelpContext); };
+  program.RecordScreen.HelpContext = 1;
+  program.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.mnuSort); });
+  program.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.cmdSort); });
+  EXPECT_EQ(topics, (std::vector<int>{1, 1, 1, 1, 170, 170, 170, 170}));
+}
+
+// The box and the setting agree as a rule; where they do not, it is the setting that the reminder goes by.
+TEST_F(SortRunTest, RemindsOfSavingWhereTheBoxSaysOnAndTheSettingsSayNo) {
+  Program program(Desk, Disk);
+  program.StartRecordScreen();
+  frmPage1& page = program.RecordScreen;
+  page.txtAutoSave.SetText("Auto Save On");
+  page.NewMode = 1;
+  program.Deliver([&] { page.txtRatings_LostFocus(); });
+  EXPECT_EQ(page.AutoSaveSetting.Value(), "NO");
+  EXPECT_EQ(page.lblSorting.Caption(), std::string(60, ' ') + "You Must Save And Sort Your Work!");
+  EXPECT_EQ(page.LastEntryRecNo.Value(), "1");
+}
+
 // The key file that stays open reads what the run has made, through the number under which it was open before.
 TEST_F(SortRunTest, LeavesTheNewKeysOfTapesOpen) {
   story::SetUp(World, story::ParseLine("film 2 Title=\"Alien\" Format=\"V\"", 1), World.Folder);

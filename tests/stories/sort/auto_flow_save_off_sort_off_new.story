@@ -15,7 +15,7 @@ key Tab
 see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
 see length Recpra.Dat 3245
 see missing Last
-see file Titlepra "0\r\n"
+see file Titlepra " 0\r\n"
 see state NewMode 1
 see state EditMode 1
 see state ViewKind ""

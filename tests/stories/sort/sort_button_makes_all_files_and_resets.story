@@ -26,7 +26,6 @@ see state LaserCount "1"
 see state VHSCount "2"
 see lblsorted "No. Titles  5  -    No. DVDS  2  -    No.Laser discs  1  -    No.VHS  2"
 see lblsorted.Visible yes
-see frmPage1.HelpContext 110
 see state ViewKind ""
 see state KeyFilePos 0
 see state CurrentRecNo 1
