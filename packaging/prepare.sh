@@ -26,6 +26,8 @@ build_tree() {
   shift
   while [ $# -gt 0 ] && [ "$1" != -- ]; do targets+=("$1"); shift; done
   [ $# -gt 0 ] && shift
-  cmake -S . -B "$folder" -G Ninja "$@" >"$folder.log" 2>&1 || { cat "$folder.log" >&2; return 1; }
-  cmake --build "$folder" --target "${targets[@]}" >>"$folder.log" 2>&1 || { tail -n 60 "$folder.log" >&2; return 1; }
+  mkdir -p "$folder"
+  local log=$folder/build.log
+  cmake -S . -B "$folder" -G Ninja "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+  cmake --build "$folder" --target "${targets[@]}" >>"$log" 2>&1 || { tail -n 60 "$log" >&2; return 1; }
 }

@@ -214,7 +214,7 @@ KillCount KillAtRandom(const Habit& habit, int trials, unsigned seed, const Fitt
   while (count.Trials < trials && !(until_complaint && !count.Complaints.empty())) {
     int slot = 0;
     do {
-      slot = 2 + static_cast<int>(random() % (SlotsTried - 2));
+      slot = 3 + static_cast<int>(random() % (SlotsTried - 2));  // a New on one film alone overwrites it
     } while (Straddles(slot) != (count.Trials % 2 == 0));
     const fs::path& folder = ground.LayOut(habit.Before(slot));
     std::chrono::microseconds after(random() % LongestMicroseconds);
