@@ -33,7 +33,8 @@ constexpr Pass Passes[] = {
 };
 // clang-format on
 
-// The old outputs go first: where one is replaced, some file systems write the new one out at once, which is a sync too.
+// The old outputs go first: where one is replaced, some file systems write the new one out at once, which is a sync
+// too.
 std::vector<double> SortPassesOn(Disk& disk) {
   std::vector<double> seconds;
   std::int32_t Numrec = 0;

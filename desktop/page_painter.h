@@ -1,5 +1,5 @@
-// Draws the pages of a job on paper, into a PDF or as a picture: every character in its cell of the grid, from tables of
-// glyphs that are looked up once, because shaping each text anew takes most of the time of a long report.
+// Draws the pages of a job on paper, into a PDF or as a picture: every character in its cell of the grid, from tables
+// of glyphs that are looked up once, because shaping each text anew takes most of the time of a long report.
 #pragma once
 
 #include <QFont>
@@ -22,7 +22,8 @@ struct PaperGrid {
 };
 
 // The size that the job asks for, or the largest below it with which 80 columns, the widest line and the longest page
-// stand inside the area, in pixels at that resolution (dots an inch). The lines move together before the size goes down.
+// stand inside the area, in pixels at that resolution (dots an inch). The lines move together before the size goes
+// down.
 PaperGrid FitGrid(const runtime::PrintJob& job, QSizeF area, double resolution);
 
 class PagePainter {

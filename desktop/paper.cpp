@@ -49,7 +49,8 @@ void PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& s
   QPdfWriter writer(&file);
   writer.setTitle(Shown(job.Title));
   writer.setCreator(QStringLiteral("Reelora Prima"));
-  writer.setPageLayout(QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
+  writer.setPageLayout(
+      QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
   bool drawn = PaintPages(job, writer);
   if (drawn && file.flush() && file.error() == QFileDevice::NoError) return;
   // Not by the file itself, which keeps what it could not even close.

@@ -8,9 +8,9 @@
 
 namespace desktop {
 
-// Prints the job on that printer. Where the machine has none, it becomes a new PDF file in the folder "Reelora Prima" of
-// the user's documents, named by the job's title and the time; where the user chose a PDF file in the printer's dialog,
-// a new one of that name. No file is overwritten. Throws the failure "Printer error".
+// Prints the job on that printer. Where the machine has none, it becomes a new PDF file in the folder "Reelora Prima"
+// of the user's documents, named by the job's title and the time; where the user chose a PDF file in the printer's
+// dialog, a new one of that name. No file is overwritten. Throws the failure "Printer error".
 void PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chrono::local_seconds now);
 
 }  // namespace desktop

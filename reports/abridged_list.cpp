@@ -79,7 +79,7 @@ bool AbridgedReport::Sorted() {
   const screen::Text& count = Page.*list_.CountWord;
   Page.ListKeyCount = std::max(runtime::RoundToInt32(runtime::NumericValue(count)), KeysOfAPage);
   Estimate(static_cast<double>(Page.ListKeyCount) / KeysOfAPage);
-  if (!(count == "0")) return true;
+  if (count != "0") return true;
   Page.Desk.MessageBox(forms::Icon::Warning, PrintBoxTitle, list_.Unsorted);
   Page.cmdReset_Click();
   return false;

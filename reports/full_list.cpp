@@ -4,7 +4,6 @@
 #include <span>
 #include <vector>
 
-
 using screen::Page1Controls;
 
 namespace reports {
@@ -22,7 +21,7 @@ struct Cell {
   int Column;
   std::string_view Lead;
   forms::TextBox Page1Controls::*Box;
-  std::string_view Tail = "";
+  std::string_view Tail{};
 };
 // The line of a film in a format; its words differ in small things on purpose.
 struct FormatLine {

@@ -35,7 +35,8 @@ bool PrintFrame::Confirm(std::string_view question) {
   std::string prompt(question);
   prompt.append(Page.PageEstimate.Value(), 0, FigureLength).append(Page.PageEstimateTail);
   Page.PromptText = prompt;
-  return Page.Desk.MessageBox(forms::Icon::Question, PrintBoxTitle, prompt, forms::Buttons::YesNo) == forms::Answer::Yes;
+  return Page.Desk.MessageBox(forms::Icon::Question, PrintBoxTitle, prompt, forms::Buttons::YesNo) ==
+         forms::Answer::Yes;
 }
 
 bool PrintFrame::OpenKeys(std::string_view key_file) {

@@ -1,5 +1,5 @@
-// What the eight reports share: the walk along a key file, the page's feeds, headings and numbers, the questions' figures
-// and the way out. A report shows each film on the record screen and prints what then stands in the boxes.
+// What the eight reports share: the walk along a key file, the page's feeds, headings and numbers, the questions'
+// figures and the way out. A report shows each film on the record screen and prints what then stands in the boxes.
 #pragma once
 
 #include <string>

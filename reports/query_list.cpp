@@ -1,10 +1,6 @@
 // One run for the three lists over the table of their differences.
 #include "reports/query_list.h"
 
-using screen::Page1Controls;
-using screen::RunState;
-using store::FilmField;
-
 namespace reports {
 namespace {
 
@@ -12,81 +8,12 @@ constexpr std::string_view KeyFile = "Titlepra.Dat";
 constexpr int LastLine = 56;
 constexpr int PageTab = 38;
 
-constexpr std::string_view ColumnHeads =
-    "Title                                   Date   Genre                 Format ";
-
-// clang-format off
-constexpr SearchedField DirectorFields[] = {
-  { FilmField::Director, &RunState::MatchPos, &Page1Controls::txtDirector },
-};
-constexpr SearchedField StarFields[] = {
-  { FilmField::Star1, &RunState::MatchPos, &Page1Controls::txtStar1 },
-  { FilmField::Star2, &RunState::StarHit2, &Page1Controls::txtStar2 },
-  { FilmField::Star3, &RunState::StarHit3, &Page1Controls::txtStar3 },
-  { FilmField::Star4, &RunState::StarHit4, &Page1Controls::txtStar4 },
-  { FilmField::Star5, &RunState::StarHit5, &Page1Controls::txtStar5 },
-  { FilmField::Star6, &RunState::StarHit6, &Page1Controls::txtStar6 },
-};
-constexpr SearchedField GenreFields[] = {
-  { FilmField::Genre, &RunState::MatchPos, &Page1Controls::txtGenreList },
-};
-// clang-format on
-
-std::string QueryInCapitals(const frmPage1&, std::string_view query) { return runtime::Upper(query); }
-
-std::string NameOfGenre(const frmPage1& page, std::string_view) { return page.GenreQueryName.Value(); }
-
-std::string TotalOfName(std::string_view lead, std::string_view name, std::int64_t films) {
-  return std::string(lead) + runtime::Upper(name) + " IN YOUR COLLECTION IS " + std::to_string(films) + ".";
-}
-
-std::string TotalOfGenre(std::string_view lead, std::string_view name, std::int64_t films) {
-  return std::string(lead).append(name) + " Films " + runtime::S(films) + " ";
-}
+constexpr std::string_view ColumnHeads = "Title                                   Date   Genre                 Format ";
 
 // The words of a genre in this report are those of the pick list, behind "XX = ".
 std::string_view WordsOf(const store::GenreRow& genre) { return genre.ListItem.substr(genre.Code.size() + 3); }
 
 }  // namespace
-
-// clang-format off
-constexpr QueryList DirectorList = {
-  .ViewKind = "Title", .Headline = "Director Search Print Program",
-  .Prompt = "Enter Director's Last Name. To Print List: ",
-  .Query = &RunState::DirectorQuery, .Fields = DirectorFields, .QueryNames = {}, .WaitCaption = "",
-  .TitleTime = TitleAt::FirstMatch, .TitleFeeds = 0, .TitleTab = 9, .Title = "Reelora Prima Directors List   ", .FeedsBehindTitle = 0,
-  .LinesOfTop = 9,
-  .HeadingWidth = 61, .HeadingShift = 3, .HeadingLead = "Films Directed by ", .HeadingTail = "", .LinesOfHeading = 2,
-  .FootRule = true, .NextTitleTab = 15,
-  .NotFoundLead = "No films directed by ", .NotFoundName = QueryInCapitals, .NotFoundTail = " found!",
-  .Total = TotalOfName, .TotalLead = "TOTAL FILM(S) DIRECTED BY ", .LinesOfTotal = 0, .End = {},
-};
-constexpr QueryList StarList = {
-  .ViewKind = "", .Headline = "Star Search Print Program",
-  .Prompt = "Enter Star's Last Name. To Print List: ",
-  .Query = &RunState::StarQuery, .Fields = StarFields, .QueryNames = {}, .WaitCaption = "Please Wait Print Spooler is loading Files",
-  .TitleTime = TitleAt::Start, .TitleFeeds = 2, .TitleTab = 9, .Title = "Reelora Prima Stars List   ", .FeedsBehindTitle = 2,
-  .LinesOfTop = 10,
-  .HeadingWidth = 61, .HeadingShift = 3, .HeadingLead = "Films starring ", .HeadingTail = "", .LinesOfHeading = 1,
-  .FootRule = false, .NextTitleTab = 0,
-  .NotFoundLead = "No films Staring ", .NotFoundName = QueryInCapitals, .NotFoundTail = " found!",
-  .Total = TotalOfName, .TotalLead = "TOTAL FILM(S) STARRING ", .LinesOfTotal = 1, .End = {},
-};
-// The heading's 5 and the empty line's 1.
-constexpr QueryList GenreList = {
-  .ViewKind = "Title", .Headline = "Genre Search Print Program",
-  .Prompt = "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n"
-            " See Genre List for more Abbrs.",
-  .Query = &RunState::GenreFilter, .Fields = GenreFields, .QueryNames = store::Genres, .WaitCaption = "",
-  .TitleTime = TitleAt::Start, .TitleFeeds = 2, .TitleTab = 8, .Title = "Reelora Prima Genre List   ", .FeedsBehindTitle = 1,
-  .LinesOfTop = 7,
-  .HeadingWidth = 62, .HeadingShift = 0, .HeadingLead = "A list of ", .HeadingTail = " Films", .LinesOfHeading = 6,
-  .FootRule = true, .NextTitleTab = 0,
-  .NotFoundLead = "No  ", .NotFoundName = NameOfGenre, .NotFoundTail = " genre found!",
-  .Total = TotalOfGenre, .TotalLead = "TOTAL ", .LinesOfTotal = 0,
-  .End = {"End of file! Please wait.  ", " page to print.", "Reelora Print Program"},
-};
-// clang-format on
 
 void QueryReport::Run() {
   if (!Enter()) return;
@@ -121,8 +48,8 @@ bool QueryReport::Enter() {
   return false;
 }
 
-// Nothing is found when the last key is reached, before that key itself is compared: a film that only the last key leads
-// to is not found.
+// Nothing is found when the last key is reached, before that key itself is compared: a film that only the last key
+// leads to is not found.
 QueryReport::Key QueryReport::NextKey() {
   if (!OpenKeys(KeyFile)) return Key::Taken;
   Page.ReadKeyPastBlank();
@@ -133,7 +60,8 @@ QueryReport::Key QueryReport::NextKey() {
   return Key::Taken;
 }
 
-// The query is looked up as it stands at this moment: small letters are no code before the first film made them capital.
+// The query is looked up as it stands at this moment: small letters are no code before the first film made them
+// capital.
 void QueryReport::LookUpName() {
   for (const store::GenreRow& genre : list_.QueryNames) {
     if (Page.*list_.Query == genre.Code) Page.GenreQueryName = WordsOf(genre);

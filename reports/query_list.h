@@ -1,5 +1,5 @@
-// The director, star and genre lists: one line for each film of the all-formats key file whose field holds the text that
-// was asked for.
+// The director, star and genre lists: one line for each film of the all-formats key file whose field holds the text
+// that was asked for.
 #pragma once
 
 #include <span>

@@ -44,7 +44,7 @@ struct GridColumnRow {
   int FirstTab, SplitRow, SplitTab;
   int Left, Width;
 };
-inline constexpr GridColumnRow Text1Row = { "Text1",  70, 20,   0,   60, 4400 };
+inline constexpr GridColumnRow Text1Row = { "Text1",  70, 20,   0,   60, 4415 };
 inline constexpr GridColumnRow Text2Row = { "Text2",  90, 20,   0, 4475, 4120 };
 inline constexpr GridColumnRow Text3Row = { "Text3", 110, 14, 151, 7300, 1295 };
 // clang-format on

@@ -28,7 +28,9 @@ void ItemSorter::SortFrom(std::span<SortItem> items, std::span<SortItem> scratch
 }
 
 void ItemSorter::LoadWindow(std::span<SortItem> items, std::size_t window) const {
-  for (SortItem& item : items) item.Window = layout_.Window(entries_ + item.Entry * layout_.EntryLength(), window);
+  SortItem* item = items.data();
+  ForEachEntry(items, entries_, layout_.EntryLength(),
+               [&](const char* entry) { (item++)->Window = layout_.Window(entry, window); });
 }
 
 void ItemSorter::ByWindow(std::span<SortItem> items, std::span<SortItem> scratch) {

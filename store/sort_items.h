@@ -15,6 +15,17 @@ struct SortItem {
   std::uint32_t Entry;
 };
 
+// Calls use(entry) for the entry of each item, in their order; entries as for ItemSorter. Entries lie all over memory,
+// so each is asked for some time before its turn.
+template <typename Use>
+void ForEachEntry(std::span<const SortItem> items, const char* entries, std::size_t entry_length, Use&& use) {
+  constexpr std::size_t Ahead = 12;
+  for (std::size_t at = 0; at < items.size(); ++at) {
+    if (at + Ahead < items.size()) __builtin_prefetch(entries + items[at + Ahead].Entry * entry_length);
+    use(entries + items[at].Entry * entry_length);
+  }
+}
+
 class ItemSorter {
  public:
   // Entries: the table of entries, one after the other.

@@ -96,6 +96,15 @@ void SortLayout::LayOutKey(const SortStatement& statement) {
       key_.push_back({offset + byte, field.Descending ? DescendingTable : AscendingTable});
   }
   while (key_.size() % WindowBytes != 0) key_.push_back({0, ZeroTable});
+  for (std::size_t window = 0; window < key_.size(); window += WindowBytes) {
+    const KeyByte& first = key_[window];
+    bool straight = true;
+    for (std::uint32_t at = 1; at < WindowBytes; ++at) {
+      const KeyByte& byte = key_[window + at];
+      straight = straight && byte.Offset == first.Offset + at && byte.Table == first.Table;
+    }
+    straight_.push_back(straight);
+  }
 }
 
 bool SortLayout::Keeps(const char* record) const {
@@ -116,6 +125,13 @@ void SortLayout::MakeEntry(const char* record, std::uint32_t number, char* entry
 std::uint64_t SortLayout::Window(const char* entry, std::size_t index) const {
   std::uint64_t window = 0;
   const KeyByte* bytes = key_.data() + index * WindowBytes;
+  if (straight_[index]) {
+    const unsigned char* table = tables_.data() + bytes->Table;
+    const char* field = entry + bytes->Offset;
+    for (std::size_t at = 0; at < WindowBytes; ++at)
+      window = window << 8 | table[static_cast<unsigned char>(field[at])];
+    return window;
+  }
   for (std::size_t at = 0; at < WindowBytes; ++at)
     window = window << 8 | tables_[bytes[at].Table + static_cast<unsigned char>(entry[bytes[at].Offset])];
   return window;

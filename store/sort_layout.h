@@ -56,6 +56,8 @@ class SortLayout {
   std::size_t output_length_ = 0;
   std::vector<KeptSpan> kept_;
   std::vector<KeyByte> key_;
+  // By window: its eight bytes stand side by side and have one table.
+  std::vector<bool> straight_;
   std::vector<OutputPiece> output_;              // spans within the entry
   std::array<unsigned char, 3 * 256> tables_{};  // ascending, descending, and zeros behind the last field
   RecordSpan include_;

@@ -76,7 +76,8 @@ std::int64_t SortRun::Write(const Opened& output, const std::string& runs_name) 
   chunk.Load(input_, 0, records_);
   chunk.Sort([&](std::span<const SortItem> items, const char* entries, std::int64_t place) {
     BlockWriter writer(output, layout_.OutputLength(), place);
-    for (const SortItem& item : items) layout_.WriteOutput(entries + item.Entry * layout_.EntryLength(), writer.Next());
+    ForEachEntry(items, entries, layout_.EntryLength(),
+                 [&](const char* entry) { layout_.WriteOutput(entry, writer.Next()); });
     writer.Flush();
   });
   return chunk.Kept();
@@ -90,7 +91,7 @@ std::int64_t SortRun::WriteThroughRuns(const Opened& output, SortRuns runs, std:
       chunk.Sort([&](std::span<const SortItem> items, const char* entries, std::int64_t place) {
         const std::size_t length = layout_.EntryLength();
         BlockWriter writer(runs.File(), length, runs.Count() + place);
-        for (const SortItem& item : items) std::copy_n(entries + item.Entry * length, length, writer.Next());
+        ForEachEntry(items, entries, length, [&](const char* entry) { std::copy_n(entry, length, writer.Next()); });
         writer.Flush();
       });
       runs.Add(chunk.Kept());

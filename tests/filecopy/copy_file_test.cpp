@@ -35,7 +35,7 @@ Outcome Copy(runtime::Disk& source, runtime::Disk& target) {
 }
 
 std::size_t CallsOnTarget(const Folder& before) {
-  MemoryDisk source({{Name, New}});
+  MemoryDisk source(Folder{{Name, New}});
   MemoryDisk below(before);
   FaultyDisk target(below);
   EXPECT_EQ(Copy(source, target), Outcome::Done);
@@ -51,21 +51,21 @@ void ExpectOldOrNew(const Folder& before, const Folder& after) {
 }
 
 TEST(CopyFile, TheTargetIsTheSourceByteForByteAndNothingElseIsLeft) {
-  MemoryDisk source({{"old/Recpra.Dat", New}, {Name, Old}});
-  MemoryDisk target({{"other.txt", "x"}});
+  MemoryDisk source(Folder{{"old/Recpra.Dat", New}, {Name, Old}});
+  MemoryDisk target(Folder{{"other.txt", "x"}});
   filecopy::CopyFile(source, "old/Recpra.Dat", target, Name);
   EXPECT_EQ(target.Content(), (Folder{{Name, New}, {"other.txt", "x"}}));
 }
 
 TEST(CopyFile, AnEmptyFileIsCopied) {
-  MemoryDisk source({{Name, ""}});
-  MemoryDisk target({{Name, Old}});
+  MemoryDisk source(Folder{{Name, ""}});
+  MemoryDisk target(Folder{{Name, Old}});
   filecopy::CopyFile(source, Name, target, Name);
   EXPECT_EQ(target.Content(), (Folder{{Name, ""}}));
 }
 
 TEST(CopyFile, AFileCopiedOntoItselfStays) {
-  MemoryDisk disk({{Name, New}});
+  MemoryDisk disk(Folder{{Name, New}});
   filecopy::CopyFile(disk, Name, disk, Name);
   EXPECT_EQ(disk.Content(), (Folder{{Name, New}}));
 }
@@ -77,7 +77,7 @@ TEST(CopyFile, AfterAFaultAtAnyCallTheTargetIsOldOrNew) {
     for (Fault fault : AllFaults) {
       for (std::size_t at = 0; at < 2 * calls; ++at) {
         SCOPED_TRACE(testing::Message() << "fault " << static_cast<int>(fault) << " at call " << at);
-        MemoryDisk source({{Name, New}});
+        MemoryDisk source(Folder{{Name, New}});
         MemoryDisk below(before);
         FaultyDisk target(below, {fault, at % calls, at >= calls});
         Outcome outcome = Copy(source, target);
@@ -96,9 +96,9 @@ TEST(CopyFile, AfterAFaultAtAnyCallTheTargetIsOldOrNew) {
 
 TEST(CopyFile, AfterAFaultOfTheSourceTheTargetIsOld) {
   for (std::size_t at = 0; at < 4; ++at) {
-    MemoryDisk below({{Name, New}});
+    MemoryDisk below(Folder{{Name, New}});
     FaultyDisk source(below, {Fault::Error, at});
-    MemoryDisk target({{Name, Old}});
+    MemoryDisk target(Folder{{Name, Old}});
     if (Copy(source, target) == Outcome::Failed) {
       EXPECT_EQ(target.Content(), (Folder{{Name, Old}})) << at;
     }
@@ -108,7 +108,7 @@ TEST(CopyFile, AfterAFaultOfTheSourceTheTargetIsOld) {
 TEST(CopyFile, WhenThePowerFailsTheTargetIsOldOrNewAndNewOnceItIsDone) {
   const Folder before = {{Name, Old}};
   const std::string short_new(2000, 'n');
-  MemoryDisk source({{Name, short_new}});
+  MemoryDisk source(Folder{{Name, short_new}});
   MemoryDisk target(before);
   ASSERT_EQ(Copy(source, target), Outcome::Done);
   for (std::size_t moment = 0; moment <= target.Moments(); ++moment) {
@@ -120,8 +120,8 @@ TEST(CopyFile, WhenThePowerFailsTheTargetIsOldOrNewAndNewOnceItIsDone) {
 }
 
 TEST(CopyFile, AFullDiskIsNamed) {
-  MemoryDisk source({{Name, New}});
-  MemoryDisk below({{Name, Old}});
+  MemoryDisk source(Folder{{Name, New}});
+  MemoryDisk below(Folder{{Name, Old}});
   FaultyDisk target(below, {Fault::Full, 2, true});
   try {
     filecopy::CopyFile(source, Name, target, Name);
@@ -132,7 +132,7 @@ TEST(CopyFile, AFullDiskIsNamed) {
 }
 
 TEST(FactsOf, AMissingFileIsNamed) {
-  MemoryDisk disk({});
+  MemoryDisk disk(Folder{});
   try {
     filecopy::FactsOf(disk, Name);
     FAIL() << "facts of nothing";

@@ -60,14 +60,14 @@ struct CopyWindow : testing::Test {
   std::int64_t FloppyTime = Moment(std::chrono::year(1999) / 12 / 31, 23, 59);
   MemoryDisk Hard{safety::FolderOfFilms(2)};
   TimedDisk HardWithTimes{Hard, Moment(std::chrono::year(2026) / 11 / 21, 5, 30)};
-  MemoryDisk Floppy{{}};
+  MemoryDisk Floppy{Folder()};
   runtime::Disk* OnFloppy = &Floppy;
   AnsweringDesk Desk;
   Program Running{Desk, HardWithTimes};
 };
 
 TEST_F(CopyWindow, TheQuestionToReplaceShowsBothFiles) {
-  MemoryDisk with_old({{"Recpra.Dat", "123"}});
+  MemoryDisk with_old(Folder{{"Recpra.Dat", "123"}});
   OnFloppy = &with_old;
   OpenAndChoose("Recpra.Dat");
   Pick(Running.Copy.Drive1, "a:");
@@ -105,7 +105,7 @@ TEST_F(CopyWindow, ADriveWithoutItsColonIsTheSameDrive) {
 }
 
 TEST_F(CopyWindow, AFullDiskLeavesTheOldFileAndAnotherTry) {
-  MemoryDisk below({{"Recpra.Dat", "old"}});
+  MemoryDisk below(Folder{{"Recpra.Dat", "old"}});
   safety::FaultyDisk full(below, {safety::Fault::Full, 4, true});
   OnFloppy = &full;
   OpenAndChoose("Recpra.Dat");

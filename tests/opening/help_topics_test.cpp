@@ -31,7 +31,7 @@ opening::HelpFile DeliveredHelp() {
 using Askers = std::map<int, std::string>;
 
 Askers AskedByControls() {
-  safety::MemoryDisk disk({});
+  safety::MemoryDisk disk(safety::Folder{});
   AnsweringDesk desk;
   Program program(desk, disk);
   Askers askers;

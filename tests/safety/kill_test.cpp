@@ -27,6 +27,21 @@ TEST_P(Kills, LeaveNoMixtureAndLoseNoSave) {
   EXPECT_EQ(count.Complaints, std::vector<std::string>());
 }
 
+// A kill falls between the two pages of a write seldom enough to need some hundred trials.
+constexpr int TrialsToComplaint = 20000;
+
+bool KillsSee(Safeguard guard, std::string_view habit) {
+  for (const Habit& repeated : Habits()) {
+    if (repeated.Name == habit)
+      return !KillAtRandom(repeated, TrialsToComplaint, 1, Without(guard), true).Complaints.empty();
+  }
+  return false;
+}
+
+TEST(KillStrength, SeesThatTheJournalIsMissing) { EXPECT_TRUE(KillsSee(Safeguard::JournalWrite, "Edit")); }
+TEST(KillStrength, SeesThatTheRecoveryIsMissing) { EXPECT_TRUE(KillsSee(Safeguard::Recovery, "Delete")); }
+TEST(KillStrength, SeesThatTheRenameIsMissing) { EXPECT_TRUE(KillsSee(Safeguard::AsideRename, "Setting")); }
+
 INSTANTIATE_TEST_SUITE_P(Habits, Kills, testing::Range<std::size_t>(0, Habits().size()),
                          [](const auto& habit) { return Habits()[habit.param].Name; });
 

@@ -15,7 +15,9 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
+#include "tests/safety/films.h"
 #include "tests/safety/passing_disk.h"
+#include "tests/safety/steps.h"
 
 namespace safety {
 namespace {
@@ -23,7 +25,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string Master(store::MasterFileName);
-constexpr int SlotsTried = 26;
 constexpr int LongestMicroseconds = 500;
 
 class UnsyncedDisk final : public PassingDisk {
@@ -32,11 +33,6 @@ class UnsyncedDisk final : public PassingDisk {
   int Sync(int) override { return 0; }
   int SyncFolder(const std::string&) override { return 0; }
 };
-
-std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
-  if (fit) return fit(below);
-  return std::make_unique<PassingDisk>(below);
-}
 
 // Where the files live in memory, if this machine has such a place.
 fs::path ScratchFolder() {
@@ -148,63 +144,11 @@ std::string ComplaintOf(const fs::path& folder, const std::vector<Folder>& allow
   return "a mixture, or a save is missing";
 }
 
-Folder MasterOf(std::string master) { return {{Master, std::move(master)}}; }
-
-std::string Films(int first, int last) {
-  std::string films;
-  for (int slot = first; slot <= last; ++slot) films += FilmBytes(slot, 0);
-  return films;
-}
-
-std::string WithRecord(int slot, const std::string& record) {
-  return Films(1, slot - 1) + record + Films(slot + 1, SlotsTried);
-}
-
-std::string Blank(const std::string& tail) { return std::string(store::RecordLength - tail.size(), ' ') + tail; }
-
-std::vector<Folder> AllowedNew(int slot, int finished) {
-  std::string master = Films(1, slot - 1);
-  for (int time = 1; time <= finished; ++time) master += FilmBytes(slot - 1 + time, time);
-  return {MasterOf(master), MasterOf(master + FilmBytes(slot + finished, finished + 1))};
-}
-
-std::vector<Folder> AllowedEdit(int slot, int finished) {
-  return {MasterOf(WithRecord(slot, FilmBytes(slot, finished))),
-          MasterOf(WithRecord(slot, FilmBytes(slot, finished + 1)))};
-}
-
-// Odd times delete, which writes the blank record without and then with its line end; even times write a new film.
-std::vector<Folder> AllowedDelete(int slot, int finished) {
-  if (finished % 2 == 1)
-    return {MasterOf(WithRecord(slot, Blank("\r\n"))), MasterOf(WithRecord(slot, FilmBytes(slot, finished + 1)))};
-  return {MasterOf(WithRecord(slot, FilmBytes(slot, finished))), MasterOf(WithRecord(slot, Blank(""))),
-          MasterOf(WithRecord(slot, Blank("\r\n")))};
-}
-
-std::string LastAt(int time) { return std::to_string(time) + "\r\n"; }
-
 }  // namespace
 
 bool Straddles(int slot) {
   constexpr int PageBytes = 4096;
   return (slot - 1) * store::RecordLength / PageBytes != (slot * store::RecordLength - 1) / PageBytes;
-}
-
-const std::vector<Habit>& Habits() {
-  static const std::vector<Habit> habits = {
-      {"New", [](int slot) { return FolderOfFilms(slot - 1); },
-       [](int slot, int time) { return NewFilm(slot - 1 + time, time); }, AllowedNew},
-      {"Edit", [](int) { return FolderOfFilms(SlotsTried); }, EditFilm, AllowedEdit},
-      {"Delete", [](int) { return FolderOfFilms(SlotsTried); },
-       [](int slot, int time) { return time % 2 == 1 ? DeleteFilm(slot) : NewFilm(slot, time); }, AllowedDelete},
-      {"Setting", [](int) { return FolderOfFilms(2); },
-       [](int, int time) { return WriteSmallFile("Last", std::to_string(time)); },
-       [](int, int finished) {
-         Folder none = {{"Last", ""}}, now = {{"Last", LastAt(finished)}}, next = {{"Last", LastAt(finished + 1)}};
-         return finished == 0 ? std::vector<Folder>{none, next} : std::vector<Folder>{now, next};
-       }},
-  };
-  return habits;
 }
 
 KillCount KillAtRandom(const Habit& habit, int trials, unsigned seed, const Fitting& fit, bool until_complaint) {
@@ -214,7 +158,7 @@ KillCount KillAtRandom(const Habit& habit, int trials, unsigned seed, const Fitt
   while (count.Trials < trials && !(until_complaint && !count.Complaints.empty())) {
     int slot = 0;
     do {
-      slot = 3 + static_cast<int>(random() % (SlotsTried - 2));  // a New on one film alone overwrites it
+      slot = FirstSlotTried + static_cast<int>(random() % (LastSlotTried - FirstSlotTried + 1));
     } while (Straddles(slot) != (count.Trials % 2 == 0));
     const fs::path& folder = ground.LayOut(habit.Before(slot));
     std::chrono::microseconds after(random() % LongestMicroseconds);

@@ -6,7 +6,7 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/safety/films.h"
 #include "tests/safety/played.h"
 
 namespace safety {
@@ -32,11 +32,6 @@ std::string TwiceComplaint(const Folder& state, const std::vector<Folder>& allow
     }
   }
   return complaint;
-}
-
-std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
-  if (fit) return fit(below);
-  return std::make_unique<PassingDisk>(below);
 }
 
 // What saving film 1 in version 9 makes of each of the folders.

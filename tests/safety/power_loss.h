@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "tests/safety/complaint.h"
 #include "tests/safety/faulty_disk.h"
 #include "tests/safety/road.h"
 

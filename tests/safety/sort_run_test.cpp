@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "store/master_file.h"
+#include "tests/safety/complaint.h"
+#include "tests/safety/films.h"
 #include "tests/safety/played.h"
 
 namespace safety {

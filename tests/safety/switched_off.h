@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/safety/complaint.h"
 #include "tests/safety/passing_disk.h"
-#include "tests/safety/road.h"
 
 namespace safety {
 

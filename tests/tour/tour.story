@@ -21,9 +21,15 @@ picture 05_view_of_all_dvds
 click mnuAllTitles
 picture 06_list_of_twenty
 click cmdReset
+click mnuAll
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 12.37 pages to print." Yes
+printed 13
+beep
+box warning "Reelora Prima Print Program" "End of file!   please wait. There are 13 pages to print." OK
+picture page 1 07_printed_page
 click mnuFindDirector
 input "Search For Director" "Enter Director. To Search: " "hitch"
-picture 07_search_hit
+picture 08_search_hit
 click cmdReset
 click cmdNew
 type "The Lady Vanishes"
@@ -39,16 +45,16 @@ key Tab
 key Tab
 key Tab
 type "Criterion"
-picture 08_typing_a_new_film
+picture 09_typing_a_new_film
 key Tab
-picture 09_pick_list_of_formats
+picture 10_pick_list_of_formats
 key Down
 key Enter
 type "1"
 key Tab
 key End
 key Up
-picture 10_pick_list_of_genres
+picture 11_pick_list_of_genres
 key Enter
 type "96"
 key Tab
@@ -59,4 +65,4 @@ key Down
 key Enter
 key Down
 key Enter
-picture 11_page_2_of_the_new_film
+picture 12_page_2_of_the_new_film

@@ -78,7 +78,8 @@ struct Reports {
   }
 };
 
-void MeasureReport(const std::filesystem::path& folder, const char* name, forms::MenuItem screen::Page1Controls::*item) {
+void MeasureReport(const std::filesystem::path& folder, const char* name,
+                   forms::MenuItem screen::Page1Controls::*item) {
   double bare = 0;
   {
     Reports reports(folder);

@@ -1,0 +1,82 @@
+// The start, the comparison, and the search for films that have gone.
+#include "tests/safety/complaint.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "runtime/record_journal.h"
+#include "store/film_record.h"
+#include "store/master_file.h"
+#include "tests/safety/passing_disk.h"
+#include "tests/safety/steps.h"
+
+namespace safety {
+namespace {
+
+const std::string MasterName(store::MasterFileName);
+
+bool StandsIn(std::string_view history, std::string_view record) {
+  constexpr std::size_t EntryLength = runtime::HistoryHeadLength + store::RecordLength;
+  for (; history.size() >= EntryLength; history.remove_prefix(EntryLength)) {
+    if (history.substr(runtime::HistoryHeadLength, record.size()) == record) return true;
+  }
+  return false;
+}
+
+// The first film of before that is neither in its slot nor in the history, as a complaint.
+std::string FilmLost(const Folder& before, const Folder& found) {
+  auto contents = [](const Folder& folder, const std::string& name) {
+    auto file = folder.find(name);
+    return file == folder.end() ? std::string() : file->second;
+  };
+  std::string old_master = contents(before, MasterName), master = contents(found, MasterName);
+  std::string history = contents(found, runtime::InSafetyFolder("history"));
+  for (std::size_t at = 0; at + store::RecordLength <= old_master.size(); at += store::RecordLength) {
+    std::string film = old_master.substr(at, store::RecordLength);
+    bool is_film = film.find_first_not_of(' ') < static_cast<std::size_t>(runtime::HistoryKeyWidth);
+    if (!is_film || master.compare(at, film.size(), film) == 0 || StandsIn(history, film)) continue;
+    return "the film of slot " + std::to_string(at / store::RecordLength + 1) + " is not in the history";
+  }
+  return "";
+}
+
+}  // namespace
+
+Folder Visible(const Folder& content) {
+  Folder visible;
+  std::copy_if(content.begin(), content.end(), std::inserter(visible, visible.end()),
+               [](const auto& file) { return FolderOf(file.first).empty(); });
+  return visible;
+}
+
+std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
+  if (fit) return fit(below);
+  return std::make_unique<PassingDisk>(below);
+}
+
+std::string Complaint(MemoryDisk& disk, const std::vector<Folder>& allowed, const Folder& before, const Fitting& fit) {
+  std::unique_ptr<runtime::Disk> fitted = Fitted(disk, fit);
+  Running run(*fitted);
+  if (run.Program.Stopped()) {
+    const runtime::Failure& failure = *run.Program.Stopped();
+    return "the start stops: " + std::string(failure.Name) + ", " + failure.File;
+  }
+  Folder found = disk.Content();
+  Folder visible = Visible(found);
+  if (std::find(allowed.begin(), allowed.end(), visible) != allowed.end())
+    return FilmLost(before, found) + FilmLost(allowed.front(), found);
+  std::string complaint = "a folder that is neither the old one nor the new one:";
+  for (const auto& [name, content] : visible) {
+    auto wanted = allowed.front().find(name);
+    if (wanted == allowed.front().end() || wanted->second != content) complaint += " " + name;
+  }
+  return complaint;
+}
+
+std::string Complaint(const Folder& found, const std::vector<Folder>& allowed, const Folder& before,
+                      const Fitting& fit) {
+  MemoryDisk disk(found);
+  return Complaint(disk, allowed, before, fit);
+}
+
+}  // namespace safety

@@ -1,0 +1,111 @@
+// Whatever the files hold: the program starts or names the failure, and starting and looking write nothing.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "store/film_record.h"
+#include "store/master_file.h"
+#include "tests/safety/films.h"
+#include "tests/safety/memory_disk.h"
+#include "tests/safety/steps.h"
+
+namespace safety {
+namespace {
+
+const std::string Master(store::MasterFileName);
+// Which a start reads.
+const char* const SmallFiles[] = {"AutoSave", "AutoSort", "BGColor", "txtBGColor", "txtForColor", "tagForColor",
+                                  "Titlepra", "Laserpra", "VHSpra",  "DVDpra",     "Fo1"};
+
+std::string RandomBytes(std::mt19937& random, std::size_t length) {
+  std::string bytes(length, '\0');
+  for (char& byte : bytes) byte = static_cast<char>(random());
+  return bytes;
+}
+
+void Look(Program& program, int steps) {
+  frmPage1& screen = program.RecordScreen;
+  for (int step = 0; step < steps; ++step) program.Deliver([&] { screen.UserClick(screen.cmdNext); });
+  for (int step = 0; step < steps; ++step) program.Deliver([&] { screen.UserClick(screen.cmdPrevious); });
+}
+
+// Starts on a master file of these bytes, goes forth and back.
+void ExpectOnlyRead(const std::string& master) {
+  Folder folder = FolderOfFilms(0);
+  folder[Master] = master;
+  MemoryDisk disk(folder);
+  Running run(disk);
+  Look(run.Program, static_cast<int>(std::min<std::size_t>(master.size() / store::RecordLength, 6)) + 2);
+  ASSERT_FALSE(run.Program.Stopped()) << run.Program.Stopped()->Name;
+  ASSERT_EQ(disk.Content(), folder);
+  ASSERT_EQ(disk.Moments(), 0U);
+}
+
+TEST(Feeding, AMasterFileOfEveryLengthUpToThreeRecords) {
+  std::mt19937 random(1);
+  std::string films = FilmBytes(1, 0) + FilmBytes(2, 0) + FilmBytes(3, 0);
+  for (std::size_t length = 0; length <= films.size(); ++length) {
+    SCOPED_TRACE(length);
+    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(films.substr(0, length)));
+    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(RandomBytes(random, length)));
+  }
+}
+
+TEST(Feeding, AMasterFileOfAThousandRandomLengths) {
+  std::mt19937 random(2);
+  for (int trial = 0; trial < 1000; ++trial) {
+    std::size_t length = 3 * store::RecordLength + random() % 100000;
+    SCOPED_TRACE(length);
+    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(RandomBytes(random, length)));
+  }
+}
+
+class FedSmallFile : public testing::TestWithParam<const char*> {
+ protected:
+  void ExpectStartOrNamedFailure(const std::string& content) {
+    Folder folder = FolderOfFilms(3);
+    folder[GetParam()] = content;
+    MemoryDisk disk(folder);
+    Running run(disk);
+    Look(run.Program, 2);
+    if (run.Program.Stopped()) {
+      // An overflow is one of the number, not of the file.
+      if (run.Program.Stopped()->Name != runtime::Overflow) {
+        ASSERT_EQ(run.Program.Stopped()->File, GetParam());
+      }
+      ASSERT_EQ(run.Desk.Reported, run.Program.Stopped()->Name);
+    }
+    ASSERT_EQ(disk.Content(), folder);
+  }
+};
+
+TEST_P(FedSmallFile, OfEveryLength) {
+  std::mt19937 random(3);
+  const std::string delivered = FolderOfFilms(0).at(GetParam());
+  for (std::size_t length = 0; length <= 300; ++length) {
+    SCOPED_TRACE(length);
+    std::string repeated;
+    while (repeated.size() < length) repeated += delivered;
+    ASSERT_NO_FATAL_FAILURE(ExpectStartOrNamedFailure(repeated.substr(0, length)));
+    ASSERT_NO_FATAL_FAILURE(ExpectStartOrNamedFailure(std::string(length, '9')));
+    ASSERT_NO_FATAL_FAILURE(ExpectStartOrNamedFailure(RandomBytes(random, length)));
+  }
+}
+
+TEST_P(FedSmallFile, ThatIsMissing) {
+  Folder folder = FolderOfFilms(3);
+  folder.erase(GetParam());
+  MemoryDisk disk(folder);
+  Running run(disk);
+  ASSERT_TRUE(run.Program.Stopped());
+  EXPECT_EQ(run.Program.Stopped()->Name, runtime::FileNotFound);
+  EXPECT_EQ(run.Program.Stopped()->File, GetParam());
+  EXPECT_EQ(disk.Content(), folder);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, FedSmallFile, testing::ValuesIn(SmallFiles),
+                         [](const auto& name) { return std::string(name.param); });
+
+}  // namespace
+}  // namespace safety

@@ -1,0 +1,80 @@
+// What a failing call of the files by number leaves behind.
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "runtime/files.h"
+#include "runtime/whole_io.h"
+#include "tests/safety/memory_disk.h"
+#include "tests/safety/passing_disk.h"
+
+namespace safety {
+namespace {
+
+// Refuses what it is told to refuse.
+class RefusingDisk final : public PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  int Open(const std::string& name, Mode mode) override { return NoOpen ? -EACCES : PassingDisk::Open(name, mode); }
+  std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+    return NoRead ? -EIO : PassingDisk::ReadAt(handle, target, count, offset);
+  }
+  bool NoOpen = false;
+  bool NoRead = false;
+};
+
+class FailingFiles : public testing::Test {
+ protected:
+  std::string Read(int number, int record) {
+    std::string target(4, '?');
+    Files.Get(number, record, target.data());
+    return target;
+  }
+
+  MemoryDisk Memory{Folder{{"Data", "aaaabbbbccccdddd"}, {".reelora/Other.new", "left"}}};
+  RefusingDisk Disk{Memory};
+  runtime::Files Files{Disk};
+};
+
+TEST_F(FailingFiles, AReadThatFailsLeavesNothingToBeReadLater) {
+  Files.OpenRandom(1, "Data", 4);
+  EXPECT_EQ(Read(1, 1), "aaaa");
+  Disk.NoRead = true;
+  EXPECT_THROW(Read(1, 2), runtime::Failure);
+  EXPECT_THROW(Read(1, 2), runtime::Failure);
+  Disk.NoRead = false;
+  EXPECT_EQ(Read(1, 2), "bbbb");
+}
+
+TEST_F(FailingFiles, AReplacedFileThatCannotBeOpenedStaysTheOldOne) {
+  Files.OpenRandom(2, "Data", 4);
+  Disk.NoOpen = true;
+  EXPECT_THROW(Files.Replaced("Data"), runtime::Failure);
+  EXPECT_EQ(Files.Length(2), 16);
+  EXPECT_EQ(Read(2, 3), "cccc");
+}
+
+TEST_F(FailingFiles, AReplacedFileIsReadAnew) {
+  Files.OpenRandom(2, "Data", 4);
+  EXPECT_EQ(Read(2, 1), "aaaa");
+  Files.OpenOutput(3, "Data");
+  Files.WriteLine(3, "zz");
+  Files.Close(3);
+  EXPECT_EQ(Read(2, 1), "zz\r\n");
+}
+
+TEST_F(FailingFiles, AnOutputThatIsNotClosedLeavesTheOldFile) {
+  Files.OpenOutput(3, "Data");
+  Files.WriteLine(3, "zz");
+  EXPECT_EQ(Memory.Content().at("Data"), "aaaabbbbccccdddd");
+}
+
+TEST_F(FailingFiles, LeftoversGoAndNothingElse) {
+  Folder kept = Memory.Content();
+  kept.erase(".reelora/Other.new");
+  runtime::RemoveLeftovers(Disk);
+  EXPECT_EQ(Memory.Content(), kept);
+}
+
+}  // namespace
+}  // namespace safety

@@ -1,0 +1,20 @@
+// The films of these tests, and a folder of them.
+#pragma once
+
+#include <string>
+
+#include "screen/frmPage1.h"
+#include "tests/safety/memory_disk.h"
+
+namespace safety {
+
+// The film that slot holds in its version; every byte of a long field differs between two versions.
+std::string FilmBytes(int slot, int version);
+// The films of those slots in version 0.
+std::string Films(int first, int last);
+// Types that film into the boxes of an open record.
+void TypeFilm(frmPage1& screen, int slot, int version);
+// The files that a start needs, as delivered, and a master file of that many films in version 0, with that behind them.
+Folder FolderOfFilms(int films, const std::string& behind = "");
+
+}  // namespace safety

@@ -1,0 +1,166 @@
+// Recovery finishes what is ours and leaves alone what is not; the history keeps what an overwrite takes.
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "runtime/record_journal.h"
+#include "store/film_record.h"
+#include "tests/safety/films.h"
+#include "tests/safety/passing_disk.h"
+
+namespace safety {
+namespace {
+
+using runtime::Disk;
+using runtime::Opened;
+using runtime::RecordJournal;
+
+const std::string Master = "Recpra.Dat";
+const std::string Journal = runtime::InSafetyFolder("journal");
+const std::string History = runtime::InSafetyFolder("history");
+
+void Write(Disk& disk, int slot, const std::string& record) {
+  Opened file(disk, Master, Disk::Mode::Create);
+  RecordJournal(disk).Write(file, slot, record);
+}
+
+// The folder that a write of version 1 into slot 7 of eight films leaves.
+Folder Written() {
+  MemoryDisk disk(Folder{{Master, Films(1, 8)}});
+  Write(disk, 7, FilmBytes(7, 1));
+  return disk.Content();
+}
+
+// The master file after an opening of the folder with that master file in it.
+std::string Recovered(Folder folder, const std::string& master) {
+  folder[Master] = master;
+  MemoryDisk disk(folder);
+  Opened file(disk, Master, Disk::Mode::Create);
+  RecordJournal(disk).Recover(file, store::RecordLength);
+  return disk.Content().at(Master);
+}
+
+std::string With(std::string master, int slot, const std::string& record) {
+  return master.replace(static_cast<std::size_t>(slot - 1) * store::RecordLength, record.size(), record);
+}
+
+TEST(Recovery, FinishesARecordTornAtAnyByte) {
+  std::string old_record = FilmBytes(7, 0), new_record = FilmBytes(7, 1);
+  for (std::size_t torn = 1; torn < new_record.size(); ++torn) {
+    std::string mixed = new_record.substr(0, torn) + old_record.substr(torn);
+    std::string master = Recovered(Written(), With(Films(1, 8), 7, mixed));
+    bool is_old = mixed == old_record;
+    ASSERT_EQ(master, With(Films(1, 8), 7, is_old ? old_record : new_record)) << torn;
+  }
+}
+
+TEST(Recovery, LeavesTheOldAndTheNewRecord) {
+  EXPECT_EQ(Recovered(Written(), Films(1, 8)), Films(1, 8));
+  EXPECT_EQ(Recovered(Written(), With(Films(1, 8), 7, FilmBytes(7, 1))), With(Films(1, 8), 7, FilmBytes(7, 1)));
+}
+
+TEST(Recovery, LeavesARestoredBackupAlone) {
+  std::string torn = FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 2).substr(300);
+  EXPECT_EQ(Recovered(Written(), With(Films(1, 8), 7, torn)), With(Films(1, 8), 7, torn));
+  EXPECT_EQ(Recovered(Written(), Films(1, 6)), Films(1, 6));
+  EXPECT_EQ(Recovered(Written(), Films(1, 9)), Films(1, 9));
+  EXPECT_EQ(Recovered(Written(), Films(1, 7) + "x"), Films(1, 7) + "x");
+}
+
+TEST(Recovery, CutsAnAppendThatStoppedShortAndNothingElse) {
+  MemoryDisk disk(Folder{{Master, Films(1, 6)}});
+  Write(disk, 7, FilmBytes(7, 1));
+  const Folder appended = disk.Content();
+  for (std::size_t part = 0; part < store::RecordLength; ++part)
+    ASSERT_EQ(Recovered(appended, Films(1, 6) + FilmBytes(7, 1).substr(0, part)), Films(1, 6)) << part;
+  std::string other = FilmBytes(7, 5).substr(0, 400);
+  EXPECT_EQ(Recovered(appended, Films(1, 6) + other), Films(1, 6) + other);
+}
+
+TEST(Recovery, PassesOverAJournalThatIsNotWhole) {
+  const std::string mixed = With(Films(1, 8), 7, FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 0).substr(300));
+  const std::string whole = Written().at(Journal);
+  for (std::size_t place = 0; place < whole.size(); ++place) {
+    Folder cut = Written(), garbled = Written();
+    cut[Journal] = whole.substr(0, place);
+    garbled[Journal][place] = static_cast<char>(whole[place] ^ 4);
+    ASSERT_EQ(Recovered(cut, mixed), mixed) << place;
+    ASSERT_EQ(Recovered(garbled, mixed), mixed) << place;
+  }
+}
+
+TEST(Recovery, LeavesAnotherFileAlone) {
+  const std::string mixed = With(Films(1, 8), 7, FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 0).substr(300));
+  Folder folder = Written();
+  folder["Other.Dat"] = mixed;
+  MemoryDisk disk(folder);
+  Opened file(disk, "Other.Dat", Disk::Mode::Create);
+  RecordJournal(disk).Recover(file, store::RecordLength);
+  EXPECT_EQ(disk.Content(), folder);
+}
+
+TEST(History, KeepsTheFilmThatIsOverwritten) {
+  std::string history = Written().at(History);
+  ASSERT_EQ(history.size(), static_cast<std::size_t>(runtime::HistoryHeadLength + store::RecordLength));
+  EXPECT_EQ(history.substr(19, 9), " 0000007 ");
+  EXPECT_EQ(history.substr(runtime::HistoryHeadLength), FilmBytes(7, 0));
+}
+
+TEST(History, KeepsNeitherAFreeSlotNorTheSameFilm) {
+  std::string free_slot(store::RecordLength, ' ');
+  MemoryDisk disk(Folder{{Master, With(Films(1, 8), 7, free_slot)}});
+  Write(disk, 7, FilmBytes(7, 1));
+  Write(disk, 7, FilmBytes(7, 1));
+  Write(disk, 9, FilmBytes(9, 1));
+  EXPECT_EQ(disk.Content().at(History), "");
+}
+
+TEST(History, PutsTheNextEntryOverATornOne) {
+  Folder folder = Written();
+  std::string first = folder[History];
+  folder[History] += first.substr(0, 100);
+  MemoryDisk disk(folder);
+  Write(disk, 8, FilmBytes(8, 1));
+  std::string history = disk.Content().at(History);
+  ASSERT_EQ(history.size(), 2 * first.size());
+  EXPECT_EQ(history.substr(0, first.size()), first);
+  EXPECT_EQ(history.substr(first.size() + runtime::HistoryHeadLength), FilmBytes(8, 0));
+}
+
+TEST(RecordJournal, RefusesASlotThatLiesFarBehindTheFile) {
+  MemoryDisk disk(Folder{{Master, Films(1, 8)}});
+  try {
+    Write(disk, 9'999'999, FilmBytes(1, 1));
+    FAIL() << "no failure";
+  } catch (const runtime::Failure& failure) {
+    EXPECT_EQ(failure.Name, runtime::BadRecordNumber);
+  }
+  EXPECT_EQ(disk.Content(), (Folder{{Master, Films(1, 8)}}));
+}
+
+TEST(RecordJournal, PutsBlanksBetweenTheEndAndTheSlot) {
+  MemoryDisk disk(Folder{{Master, Films(1, 2)}});
+  Write(disk, 5, FilmBytes(5, 1));
+  EXPECT_EQ(disk.Content().at(Master), Films(1, 2) + std::string(2 * store::RecordLength, ' ') + FilmBytes(5, 1));
+}
+
+// A failed sync that is tried again may report success for what the disk has dropped.
+TEST(RecordJournal, SyncsTheRecordOnlyOnceWhenThatFails) {
+  class FailingOnce final : public PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    int Sync(int handle) override {
+      if (NameOf(handle) != Master) return PassingDisk::Sync(handle);
+      return ++Syncs == 1 ? -EIO : PassingDisk::Sync(handle);
+    }
+    int Syncs = 0;
+  };
+  MemoryDisk memory(Folder{{Master, Films(1, 8)}});
+  FailingOnce disk(memory);
+  EXPECT_THROW(Write(disk, 7, FilmBytes(7, 1)), runtime::Failure);
+  EXPECT_EQ(disk.Syncs, 1);
+  EXPECT_EQ(memory.Content().at(Master), Films(1, 8));
+}
+
+}  // namespace
+}  // namespace safety

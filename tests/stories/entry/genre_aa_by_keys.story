@@ -1,0 +1,12 @@
+# AA chosen with the arrow keys shows its name and is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+key Alt+W
+click txtGenre
+key Enter
+see txtGenre "AA"
+see txtGenreList "Action Adventure"
+see focus txtTime
+key Alt+S
+see film 3 Genre "AA"

@@ -1,0 +1,11 @@
+# CH chosen by the mouse shows its name and is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click txtGenre
+pick List1 "CH = Children"
+see txtGenre "CH"
+see txtGenreList "Children"
+click cmdSave
+see film 3 Genre "CH"

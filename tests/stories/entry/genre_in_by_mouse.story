@@ -1,0 +1,11 @@
+# IN chosen by the mouse shows its name and is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click txtGenre
+pick List1 "IN = Instructional"
+see txtGenre "IN"
+see txtGenreList "Instructional"
+click cmdSave
+see film 3 Genre "IN"

@@ -1,0 +1,29 @@
+# SF chosen with the arrow keys shows its name and is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+key Alt+W
+click txtGenre
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Enter
+see txtGenre "SF"
+see txtGenreList "Science Fiction"
+see focus txtTime
+key Alt+S
+see film 3 Genre "SF"

@@ -1,0 +1,11 @@
+# WE chosen by the mouse shows its name and is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click txtGenre
+pick List1 "WE = Western"
+see txtGenre "WE"
+see txtGenreList "Western"
+click cmdSave
+see film 3 Genre "WE"

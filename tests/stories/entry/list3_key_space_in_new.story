@@ -1,0 +1,14 @@
+# In a new film Space closes the format list; the number of discs is next.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click txtFormat
+key Down
+key Space
+see txtFormat "Laser"
+see List3.Visible no
+see List3.Items
+see focus txtNumReel
+see lblSorting "Save Work When Finished!"
+see lblSorting.Visible yes

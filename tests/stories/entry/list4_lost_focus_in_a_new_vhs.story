@@ -1,0 +1,12 @@
+# In a new VHS film the aspect list that is left steers to the colour.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click txtFormat
+pick List3 "VHS"
+click txtLetter
+click txtDirector
+see focus List6
+see List4.Visible no
+see List4.Items

@@ -1,0 +1,12 @@
+# G chosen with the arrow keys is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click optnoteson
+click txtRating
+key Enter
+see txtRating "G"
+see focus txtPackage
+key Alt+S
+see film 3 Rating "G"

@@ -1,0 +1,12 @@
+# NR chosen by the mouse in Edit is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdEdit
+click optnoteson
+click txtRating
+pick List2 "NR"
+see txtRating "NR"
+see focus cmdSave
+click cmdSave
+see film 1 Rating "NR"

@@ -1,0 +1,12 @@
+# TV-PG chosen by the mouse in Edit is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdEdit
+click optnoteson
+click txtRating
+pick List2 "TV-PG"
+see txtRating "TV-PG"
+see focus cmdSave
+click cmdSave
+see film 1 Rating "TV-PG"

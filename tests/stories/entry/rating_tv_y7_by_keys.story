@@ -1,0 +1,19 @@
+# TV-Y7 chosen with the arrow keys is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+click optnoteson
+click txtRating
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Down
+key Enter
+see txtRating "TV-Y7"
+see focus txtPackage
+key Alt+S
+see film 3 Rating "TV-Y7"

@@ -1,0 +1,12 @@
+# TV-Y chosen by the mouse in Edit is stored.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdEdit
+click optnoteson
+click txtRating
+pick List2 "TV-Y"
+see txtRating "TV-Y"
+see focus cmdSave
+click cmdSave
+see film 1 Rating "TV-Y"

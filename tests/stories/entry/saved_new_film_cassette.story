@@ -1,0 +1,19 @@
+# A new film that has saved itself and waits for Save: the cassette number takes the focus.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+file AutoSave "YES\r\n"
+start
+click cmdNew
+click optnoteson
+click txtRatings
+key Tab
+beep
+beep
+beep
+beep
+see state EditMode 0
+see state NewMode 1
+click optNotesoff
+click txtCassNo
+see focus txtCassNo
+see txtCassNo.Alignment left

@@ -1,0 +1,17 @@
+# Back clears the boxes, is not dead in a genre view, and works by its hot key.
+film 1 Title="Alien" Genre="SF"
+film 2 Title="Brazil" Genre="SF"
+film 3 Title="Casablanca" Genre="DR"
+film 4 Title="Dune" Genre="SF"
+film 5 Title="Metropolis" Genre="SF"
+film 6 Title="Zulu" Genre="DR"
+sorted
+start
+click mnuFindGenre
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+key Alt+N
+see txtTitle "Brazil"
+key Alt+N
+see txtTitle "Dune"
+key Alt+B
+see txtTitle "Brazil"

@@ -1,0 +1,17 @@
+# Behind the last film of the genre the end is told, where the highest slot has no key.
+film 1 Title="Alien" Genre="SF" Director="Ridley Scott"
+film 2 Title="Brazil" Genre="DR"
+film 3 Title=""
+sorted
+start
+click mnuFindGenre
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+see txtTitle "Alien"
+click cmdNext
+beep
+box warning "GENRE SEARCH" "End of file!" OK
+see state CurrentRecNo 1
+see state ViewKind ""
+see state KeyFilePos 0
+see state ViewState 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

@@ -1,0 +1,18 @@
+# Another view over a genre view begins at its first key; Match stays as it is.
+film 1 Title="Alien" Genre="SF"
+film 2 Title="Brazil" Genre="SF"
+film 3 Title="Casablanca" Genre="DR"
+film 4 Title="Dune" Genre="SF"
+film 5 Title="Metropolis" Genre="SF"
+film 6 Title="Zulu" Genre="DR"
+sorted
+start
+click mnuFindGenre
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+click cmdNext
+click mnuByTitle
+see txtTitle "Alien"
+see state KeyFilePos 1
+see state SearchState 3
+click cmdMatch
+see txtTitle "Alien"

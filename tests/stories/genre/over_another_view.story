@@ -1,0 +1,16 @@
+# Find By Genre over another view begins afresh and asks.
+film 1 Title="Alien" Genre="SF"
+film 2 Title="Brazil" Genre="SF"
+film 3 Title="Casablanca" Genre="DR"
+film 4 Title="Dune" Genre="SF"
+film 5 Title="Metropolis" Genre="SF"
+film 6 Title="Zulu" Genre="DR"
+sorted
+start
+click mnuByTitle
+click cmdNext
+see state KeyFilePos 2
+click mnuFindGenre
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+see txtTitle "Alien"
+see state KeyFilePos 1

@@ -1,0 +1,26 @@
+# Genre list: Cancel resets the screen.
+films 1 20 Title="Film ##" Genre="DR"
+sorted
+start
+click cmdNext
+click mnuFindAllGenre
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" cancel
+see state ListState 0
+see state SearchState 0
+see state ListShown 0
+see state ListShownAlso 0
+see state PageMode 0
+see state KeyFilePos 0
+see state ViewKind ""
+see state CurrentRecNo 1
+see Text1(0).Visible no
+see Text2(19).Visible no
+see Text3(10).Visible no
+see cmdNext20.Visible no
+see cmdNext.Visible yes
+see cmdPrevious.Visible yes
+see cmdNew.Visible yes
+see optNotesoff.Visible yes
+see optnoteson.Visible yes
+see cmdPrev20.Visible yes
+see state GenreFilter ""

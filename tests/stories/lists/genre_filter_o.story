@@ -1,0 +1,19 @@
+# Genre list asked for "O": every code that holds it, anywhere; capitals on both sides.
+film 1 Title="Film 01" Genre="CO"
+film 2 Title="Film 02" Genre="DO"
+film 3 Title="Film 03" Genre="FO"
+film 4 Title="Film 04" Genre="CL"
+film 5 Title="Film 05" Genre="DR"
+sorted
+start
+click mnuFindAllGenre
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "O"
+beep
+box none "" "End of file!" OK
+see state GenreFilter "O"
+see Text1(0) "Film 01"
+see Text1(1) "Film 02"
+see Text1(2) "Film 03"
+see Text1(3) ""
+see state RowCursor 3
+see state HitCount 3

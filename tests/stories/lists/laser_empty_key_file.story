@@ -1,0 +1,8 @@
+# Laser list of an empty key file: before any key was read the blank key buffer is passed over, and with it the end.
+film 1 Title="Film 01" Genre="DR"
+count Laserpra 1
+file Laserpra.Dat ""
+start
+click mnualllas
+beep
+stop "Bad record number"

@@ -1,0 +1,12 @@
+# Title list whose last key is blank ends without the beep: the step that passes it lands on the end.
+films 1 3 Title="Film ##" Genre="DR" Format="D"
+key Titlepra.Dat "Film 01" 1
+key Titlepra.Dat "Film 02" 2
+key Titlepra.Dat "" 3
+count Titlepra 3
+start
+click mnuAllTitles
+box none "" "End of file!" OK
+see Text1(1) "Film 02"
+see Text1(2) ""
+see state ListState 0

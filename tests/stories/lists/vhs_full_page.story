@@ -1,0 +1,44 @@
+# VHS list: twenty films with year, genre and format; the two list buttons take the places of Next and Back.
+films 1 45 Title="Film ##" Year="19##" Genre="DR" Format="V"
+sorted
+start
+click mnuAllVHS
+see Text1(0) "Film 01"
+see Text2(0) "1901              Drama"
+see Text3(0) "VHS"
+see Text1(9) "Film 10"
+see Text2(9) "1910              Drama"
+see Text3(9) "VHS"
+see Text1(19) "Film 20"
+see Text2(19) "1920              Drama"
+see Text3(19) "VHS"
+see Text1(0).Visible yes
+see Text2(19).Visible yes
+see Text3(19).Visible yes
+see cmdNext20.Visible yes
+see cmdPrev20.Visible yes
+see cmdNext.Visible no
+see cmdPrevious.Visible no
+see cmdPrevious.Enabled yes
+see optNotesoff.Visible no
+see optnoteson.Visible no
+see lblHead "Viewing All VHS Titles Alphabetically"
+see frmPage1 "Reelora Prima Record  20/ 45        VHS  Sorted"
+see txtTitle "Film 20"
+see txtTitle.Visible yes
+see state ViewKind "VHS"
+see state ViewState 1
+see state SearchState 1
+see state ListState 2
+see state ListShown 1
+see state ListShownAlso 1
+see state PageMode 0
+see state KeyFilePos 20
+see state RowCursor 20
+see state BackCount 0
+see state HitCount 20
+see state MatchPos 0
+see state RecordFound 1
+see state CurrentRecNo 20
+see state GenreFilter ""
+see focus cmdSave

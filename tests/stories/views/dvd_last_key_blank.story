@@ -1,0 +1,17 @@
+# DVD view whose last key is blank: the click that lands on it ends the view at once.
+film 1 Title="Alien" Format="D"
+film 2 Title="Brazil" Format="D"
+key DVDpra.Dat "Alien" 1
+key DVDpra.Dat "" 2
+count DVDpra 2
+start
+click mnuByDVD
+see txtTitle "Alien"
+click cmdNext
+beep
+box warning "ALPHA DVD TITLE SEARCH" "End of file!" OK
+see state CurrentRecNo 1
+see state ViewKind ""
+see state KeyFilePos 0
+see state ViewState 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

@@ -1,0 +1,16 @@
+# DVD view of a file of 25 bytes: that counts as a key, whose number reads as 0.
+film 1 Title="Alien" Format="D"
+film 2 Title="Brazil" Format="D"
+file DVDpra.Dat "Cabaret, a musical film.."
+count DVDpra 1
+start
+see length DVDpra.Dat 25
+click mnuFile
+input "Reelora Prima" "Enter File No To Search:" "2"
+click mnuByDVD
+see state KeyRecord "Cabaret, a musical film..                        "
+see state KeyFilePos 1
+see state ScanRecNo 0
+see focus txtTitle
+see txtTitle "Brazil"
+see frmPage1 "Reelora Prima Record  2/ 2      Title Non Sorted"

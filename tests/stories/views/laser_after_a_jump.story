@@ -1,0 +1,14 @@
+# Laser view opens at its first key after a jump out of its middle, which has closed its file.
+film 1 Title="Zulu" Format="L"
+film 2 Title="Alien" Format="L"
+film 3 Title="Metropolis" Format="L"
+film 4 Title="Nosferatu" Format="V"
+sorted
+start
+click mnuByLaser
+click cmdNext
+click mnuLast
+see txtTitle "Nosferatu"
+click mnuByLaser
+see txtTitle "Alien"
+see state KeyFilePos 1

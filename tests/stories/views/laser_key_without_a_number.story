@@ -1,0 +1,17 @@
+# Laser view at a key whose number is 0: no film is read, no message comes, the heading is the view's own and the focus is on the title.
+film 1 Title="Alien" Format="L"
+key Laserpra.Dat "Nothing" 0
+count Laserpra 1
+start
+click mnuByLaser
+see focus txtTitle
+see lblHead "Viewing All Laser Disc Titles Alphabetically"
+see txtTitle "Alien"
+see state CurrentRecNo 1
+see state ScanRecNo 0
+see state ViewKind "Laser"
+see state KeyFilePos 1
+see frmPage1 "Reelora Prima Record  1/ 1      Title Non Sorted"
+click cmdNext
+beep
+box warning "ALPHA LASER TITLE SEARCH" "End of file!" OK

@@ -1,0 +1,12 @@
+# Laser view opened in Edit: the key's scratch value ends the edit with no question, and Back is to be had again.
+film 1 Title="Zulu" Format="L"
+film 2 Title="Alien" Format="L"
+sorted
+start
+click cmdEdit
+see cmdPrevious.Enabled no
+click mnuByLaser
+see txtTitle "Alien"
+see state EditMode 0
+see cmdPrevious.Enabled yes
+see cmdNext.Enabled no

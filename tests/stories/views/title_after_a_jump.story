@@ -1,0 +1,14 @@
+# Title view opens at its first key after a jump out of its middle, which has closed its file.
+film 1 Title="Zulu" Format="D"
+film 2 Title="Alien" Format="D"
+film 3 Title="Metropolis" Format="D"
+film 4 Title="Nosferatu" Format="V"
+sorted
+start
+click mnuByTitle
+click cmdNext
+click mnuLast
+see txtTitle "Nosferatu"
+click mnuByTitle
+see txtTitle "Alien"
+see state KeyFilePos 1

@@ -1,0 +1,14 @@
+# DVD view chosen in the middle of the Title view begins at its own first key.
+film 1 Title="Alien" Format="D"
+film 2 Title="Brazil" Format="D"
+film 3 Title="Cabaret" Format="D"
+film 4 Title="Dune" Format="D"
+sorted
+start
+click mnuByTitle
+click cmdNext
+see state KeyFilePos 2
+click mnuByDVD
+see txtTitle "Alien"
+see state ViewKind "DVD"
+see state KeyFilePos 1

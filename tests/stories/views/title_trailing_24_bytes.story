@@ -1,0 +1,15 @@
+# Title view of a file of 24 bytes: that is no key; the record number that there is is shown.
+film 1 Title="Alien" Format="D"
+film 2 Title="Brazil" Format="D"
+file Titlepra.Dat "Cabaret, a musical film."
+count Titlepra 1
+start
+see length Titlepra.Dat 24
+click mnuFile
+input "Reelora Prima" "Enter File No To Search:" "2"
+click mnuByTitle
+see state KeyRecord ""
+see state KeyFilePos 1
+see state ScanRecNo 2
+see txtTitle "Brazil"
+see frmPage1 "Reelora Prima Record  2/ 2      Title Sorted All Formats"

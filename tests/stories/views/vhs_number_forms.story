@@ -1,0 +1,15 @@
+# VHS view: a number padded with blanks reads like one padded with zeros, and 2.5 and 3.5 go to the even neighbour.
+films 1 9 Title="Film #" Format="V"
+file VHSpra.Dat "A                                             7\r\nB                                       0000007\r\nC                                       2.5    \r\nD                                           3.5\r\nE                                       6x     \r\n"
+count VHSpra 5
+start
+click mnuByVHS
+see txtTitle "Film 7"
+click cmdNext
+see txtTitle "Film 7"
+click cmdNext
+see txtTitle "Film 2"
+click cmdNext
+see txtTitle "Film 4"
+click cmdNext
+see txtTitle "Film 6"

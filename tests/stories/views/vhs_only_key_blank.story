@@ -1,0 +1,13 @@
+# VHS view with one key, a blank one: it ends while it opens.
+film 1 Title="Alien" Format="V"
+key VHSpra.Dat "" 1
+count VHSpra 1
+start
+click mnuByVHS
+beep
+box warning "ALPHA VHS TITLE SEARCH" "          End of file!" OK
+see state CurrentRecNo 1
+see state ViewKind ""
+see state KeyFilePos 0
+see state ViewState 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

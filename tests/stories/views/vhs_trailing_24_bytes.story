@@ -1,0 +1,15 @@
+# VHS view of a file of 24 bytes: that is no key; the record number that there is is shown.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+file VHSpra.Dat "Cabaret, a musical film."
+count VHSpra 1
+start
+see length VHSpra.Dat 24
+click mnuFile
+input "Reelora Prima" "Enter File No To Search:" "2"
+click mnuByVHS
+see state KeyRecord ""
+see state KeyFilePos 1
+see state ScanRecNo 2
+see txtTitle "Brazil"
+see frmPage1 "Reelora Prima Record  2/ 2        VHS  Sorted"

@@ -1,0 +1,19 @@
+# Laser view: Next empties the aspect and leaves the format, seen at a key without a number, which shows no film.
+film 1 Title="Alien" Format="X" Letter="W"
+film 2 Title="Brazil" Format="X" Letter="Z"
+key Laserpra.Dat "Alien" 1
+key Laserpra.Dat "Brazil" 2
+key Laserpra.Dat "Cabaret" 0
+count Laserpra 3
+start
+click mnuByLaser
+see txtLetter "Wide Screen"
+click cmdNext
+see txtTitle "Brazil"
+see txtFormat "X"
+see txtLetter "Wide Screen"
+click cmdNext
+see txtTitle "Brazil"
+see txtFormat "X"
+see txtLetter ""
+see focus txtTitle
