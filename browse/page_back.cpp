@@ -13,6 +13,7 @@ void frmPage1::cmdPrev20_Click() {
     KeyFilePos += 1;
     RowCursor = 19;
   }
+  ReopenKeyFile(browse::ListKeyFile(ViewKind, "Titlepra.Dat"));
   for (;;) {
     MatchPos = 0;
     if (KeyFilePos == 1) {

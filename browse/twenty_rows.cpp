@@ -45,7 +45,7 @@ class ListPage {
     window_.ListState = 2;
     if (window_.PageMode == 4) {
       window_.RowCursor = 0;
-      window_.ReopenKeyFile(list_.KeyFile);
+      window_.ReopenKeyFile(browse::ListKeyFile(window_.ViewKind, list_.KeyFile));
     } else if (!Open()) {
       return;
     }
@@ -183,6 +183,13 @@ class ListPage {
 };
 
 }  // namespace
+
+std::string_view browse::ListKeyFile(std::string_view kind, std::string_view otherwise) {
+  for (const TwentyRowList* list : {&AllTitles, &AllDVD, &AllLaser, &AllVHS, &AllGenre}) {
+    if (list->Kind == kind) return list->KeyFile;
+  }
+  return otherwise;
+}
 
 void frmPage1::mnuAllTitles_Click() { ListPage(*this, AllTitles).Run(); }
 void frmPage1::mnualldvd_Click() { ListPage(*this, AllDVD).Run(); }

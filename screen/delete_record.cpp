@@ -8,6 +8,7 @@ using store::FilmField;
 void frmPage1::cmdDelete_Click() {
   HelpContext = cmdDelete.Keys.HelpId;
   if (ListState == 1 || ListState == 2) return;
+  List4.Empty();  // a new film can leave it full, and the aspect would follow it
   cmdEdit_Click();
   if (Ask("Are you sure you want to DELETE this record? This file will be removed permanently!!") !=
       forms::Answer::Yes) {

@@ -10,7 +10,7 @@
 
 namespace store {
 
-inline constexpr std::size_t BlockBytes = 128 * 1024;
+inline constexpr std::size_t BlockBytes = 256 * 1024;
 
 // Lengths in bytes, records from 0. A failure of the file is thrown.
 class BlockReader {

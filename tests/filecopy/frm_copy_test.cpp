@@ -9,8 +9,9 @@
 #include "opening/program.h"
 #include "tests/filecopy/answering_desk.h"
 #include "tests/safety/faulty_disk.h"
+#include "tests/safety/films.h"
 #include "tests/safety/passing_disk.h"
-#include "tests/safety/road.h"
+#include "tests/story/fresh_folder.h"
 
 namespace {
 
@@ -89,7 +90,7 @@ TEST_F(CopyWindow, OnTheOwnDriveTheNameStandsAloneAndNothingIsWritten) {
   Pick(Running.Copy.Drive1, "c:");
   ASSERT_EQ(Desk.Boxes.size(), 1u);
   EXPECT_NE(Desk.Boxes[0].find("ON DRIVE \"C:\"\r\n\r\nRECPRA.DAT was"), std::string::npos) << Desk.Boxes[0];
-  EXPECT_EQ(safety::Visible(Hard.Content()), safety::Visible(before));
+  EXPECT_EQ(Hard.Content(), before);
 }
 
 TEST_F(CopyWindow, ADriveWithoutItsColonIsTheSameDrive) {
@@ -149,10 +150,8 @@ TEST_F(CopyWindow, AFileChosenWithTheFileListSetsDriveA) {
 }
 
 TEST(CopyWindowFolders, AFolderThatChangesTakesItsFileListAlong) {
-  std::string folder = testing::TempDir() + "copy_window_folders";
-  runtime::RealDisk disk(folder);
-  runtime::RealDisk outside(testing::TempDir());
-  ASSERT_EQ(outside.MakeFolder("copy_window_folders"), 0);
+  story::FreshFolder folder;
+  runtime::RealDisk disk(folder.Path().string());
   for (const auto& [name, bytes] : safety::FolderOfFilms(1)) {
     std::string parent = safety::FolderOf(name);
     if (!parent.empty()) disk.MakeFolder(parent);

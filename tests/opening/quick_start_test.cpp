@@ -3,8 +3,8 @@
 
 #include "opening/program.h"
 #include "tests/filecopy/answering_desk.h"
+#include "tests/safety/films.h"
 #include "tests/safety/memory_disk.h"
-#include "tests/safety/road.h"
 
 namespace {
 

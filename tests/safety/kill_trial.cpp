@@ -10,7 +10,7 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 
 #include "store/film_record.h"
@@ -25,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string Master(store::MasterFileName);
-constexpr int LongestMicroseconds = 500;
+constexpr int LongestMicroseconds = 300;
 
 class UnsyncedDisk final : public PassingDisk {
  public:
@@ -49,8 +49,9 @@ void WriteFile(const fs::path& path, const std::string& content) {
 }
 
 std::string ReadFile(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::ostringstream content;
+  content << std::ifstream(path, std::ios::binary).rdbuf();
+  return content.str();
 }
 
 // A scratch folder for the trials of one count, with a folder for each trial in turn.

@@ -10,4 +10,4 @@ click mnuByTitle
 see focus txtLetter
 type "x"
 see focus cmdSave
-see txtLetter " "
+see txtLetter ""

@@ -1,0 +1,73 @@
+// A program on a working folder of its own, and a desk that answers at once and keeps what it was asked.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "opening/program.h"
+#include "tests/story/fresh_folder.h"
+#include "tests/story/set_up.h"
+
+class BrowsingDesk final : public forms::Desk {
+ public:
+  // What is typed into every input box.
+  std::string Typed;
+  // Looked at whenever a message box or an input box is up.
+  std::function<void()> Watch = [] {};
+  // The texts of the message boxes; "beep" for a beep.
+  std::vector<std::string> Shown;
+  std::string Reported;
+
+  std::string InputBox(std::string_view, std::string_view) override {
+    Watch();
+    return Typed;
+  }
+  void Beep() override { Shown.emplace_back("beep"); }
+  std::optional<std::uint32_t> ColourDialog(std::uint32_t) override { return std::nullopt; }
+  void PrinterDialog() override {}
+  void Print(const runtime::PrintJob&) override {}
+  void Help(int) override {}
+  std::chrono::local_seconds Now() override { return {}; }
+  std::string DriveLetters() override { return ""; }
+  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
+  void Repaint() override {}
+  void RepaintNow() override {}
+  void Closed() override {}
+  void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
+
+ protected:
+  forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
+    Watch();
+    Shown.emplace_back(text);
+    return buttons == forms::Buttons::YesNo ? forms::Answer::No : forms::Answer::Ok;
+  }
+};
+
+class BrowsingTest : public testing::Test {
+ protected:
+  BrowsingTest() : world{fresh.Path()} { story::LayOutFolder(world, REELORA_SOURCE "/delivered"); }
+
+  void SetUpLine(std::string_view line) { story::SetUp(world, story::ParseLine(line, 1), fresh.Path()); }
+  frmPage1& Start() {
+    program.reset();
+    disk.emplace(fresh.Path());
+    program.emplace(desk, *disk);
+    program->StartRecordScreen();
+    desk.Shown.clear();
+    desk.Reported.clear();
+    return program->RecordScreen;
+  }
+  void Click(forms::Control& control) {
+    program->Deliver([&] { program->RecordScreen.UserClick(control); });
+  }
+
+  story::FreshFolder fresh;
+  story::World world;
+  BrowsingDesk desk;
+  std::optional<runtime::RealDisk> disk;
+  std::optional<Program> program;
+};

@@ -1,0 +1,27 @@
+# Reset of an open pick list closes it.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdEdit
+click txtColor1
+key Shift+Tab
+see focus txtColor1
+click cmdReset
+box question "Reelora Prima" "You have not saved your work.  To save it now hit Yes." No
+see List4.Visible no
+see List6.Visible no
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+see lblHead.Visible yes
+see state EditMode 0
+see state NewMode 0
+see state ClearOnShow 0
+see state ViewState 0
+see state ViewKind ""
+see state CurrentRecNo 1
+see state CountRollback 0
+see lblPage "PAGE 1"
+see lblSorting.Visible no
+see lblSave.Visible no
+see cmdNext.Enabled yes
+see cmdPrevious.Enabled yes
+see cmdDelete.Enabled yes

@@ -1,0 +1,27 @@
+# Reset of a new film, answered Yes: it is written to its slot, then record 1 comes up.
+film 1 Title="Alien" Format="V"
+film 2 Title="Brazil" Format="V"
+start
+click cmdNew
+type "The Zulu"
+click cmdReset
+box question "Reelora Prima" "You have not saved your work.  To save it now hit Yes." Yes
+see film 3 Title "Zulu, The"
+see length Recpra.Dat 1947
+see txtTitle "Alien"
+see state RecordCount 3
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+see lblHead.Visible yes
+see state EditMode 0
+see state NewMode 0
+see state ClearOnShow 0
+see state ViewState 0
+see state ViewKind ""
+see state CurrentRecNo 1
+see state CountRollback 0
+see lblPage "PAGE 1"
+see lblSorting.Visible no
+see lblSave.Visible no
+see cmdNext.Enabled yes
+see cmdPrevious.Enabled yes
+see cmdDelete.Enabled yes

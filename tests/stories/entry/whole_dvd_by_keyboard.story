@@ -1,0 +1,108 @@
+# A whole DVD film is written by keyboard alone into a free slot and is there after a restart.
+film 1 Title="Film 1" Director="Nobody" Format="V" Genre="DR"
+film 2
+film 3 Title="Film 3" Director="Nobody" Format="V" Genre="DR"
+start
+key Alt+W
+see focus txtTitle
+type "An American in Paris"
+key Tab
+see focus txtDirector
+type "Vincente Minnelli"
+key Tab
+see focus txtStar1(0)
+type "Gene Kelly"
+key Tab
+see focus txtStar2(1)
+type "Leslie Caron"
+key Tab
+see focus txtStar3(1)
+type "Orson Welles"
+key Tab
+see focus txtStar4(1)
+type "Trevor Howard"
+key Tab
+see focus txtStar5(1)
+type "Bernard Lee"
+key Tab
+see focus txtStar6(1)
+type "Paul Hörbiger"
+key Tab
+see focus txtLabel
+type "Criterion"
+key Tab
+see focus List3
+key Enter
+see focus txtNumReel
+type "1"
+key Tab
+see focus List1
+key Enter
+see txtGenre "AA"
+see focus txtTime
+type "113"
+key Tab
+see focus txtYear
+type "1951"
+key Tab
+see focus List4
+key Down
+key Enter
+see focus List6
+key Enter
+see focus txtProducer
+see lblPage "PAGE 2"
+type "Carol Reed"
+key Tab
+see focus txtCinematographer
+type "Robert Krasker"
+key Tab
+see focus txtWritten
+type "Graham Greene"
+key Tab
+see focus txtMusic
+type "Anton Karas"
+key Tab
+see focus txtChoreography
+type "none"
+key Tab
+see focus txtSetDirection
+type "Vincent Korda"
+key Tab
+see focus txtCostume
+type "Ivy Baker"
+key Tab
+see focus txtSound
+type "Dolby AC-3"
+key Tab
+see focus List2
+key Enter
+see focus txtPackage
+type "Slip case"
+key Tab
+see focus txtAwards
+type "Academy Award: Cinematography"
+key Tab
+see focus txtPurchase
+type "11-02-98"
+key Tab
+see focus txtCost
+type "19.95"
+key Tab
+see focus txtRatings
+type "Five stars"
+key Tab
+see state SortStarted 1
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see focus optnoteson
+see state NewMode 1
+key Alt+S
+see focus cmdSave
+see lblPage "PAGE 1"
+see state NewMode 0
+see file Recpra.Dat "Film 1                                  Nobody                                                                                                                                                                                                                           V DR                                                                                                                                                                                                                                                                                                                                                                                          \r\nAmerican in Paris, An                   Vincente Minnelli             Gene Kelly                    Leslie Caron                  Orson Welles                  Trevor Howard                 Bernard Lee                   Paul Hörbiger                 Criterion      D1AA1131951     P   Color Carol Reed                    Robert Krasker                Graham Greene                                     Anton Karas                   none                          Vincent Korda                 Ivy Baker                     Dolby AC-3     Academy Award: Cinematography                               G    Slip case      11-02-9819.95   Five stars     \r\nFilm 3                                  Nobody                                                                                                                                                                                                                           V DR                                                                                                                                                                                                                                                                                                                                                                                          \r\n"
+restart
+see state RecordCount 3
+click cmdNext
+see txtTitle "American in Paris, An"
+see txtFormat "DVD"

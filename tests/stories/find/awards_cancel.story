@@ -1,0 +1,20 @@
+# Awards search: Cancel resets the screen with no word and drops the kept text.
+film 1 Title="Film 1" Awards="Nobody"
+film 2 Title="Film 2" Awards="Anna Karina"
+film 3 Title="Film 3" Awards="Banana Split"
+film 4 Title="Film 4" Awards="karina"
+start
+click mnuAwards
+input "Search For Awards" "Enter Awards To Search: " "karin"
+click mnuAwards
+input "Search For Awards" "Enter Awards To Search: " cancel
+see state AwardsQuery ""
+see state RowCursor 1
+see state KeyFilePos 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+click cmdMatch
+see state CurrentRecNo 1

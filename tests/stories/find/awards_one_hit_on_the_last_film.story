@@ -1,0 +1,18 @@
+# Awards search whose only hit is the last film: it is shown, and Match tells the end behind it.
+film 1 Title="Film 1" Awards="Nobody"
+film 2 Title="Film 2" Awards="Banana Split"
+film 3 Title="Film 3" Awards="Nobody"
+film 4 Title="Film 4" Awards="Anna Karina"
+start
+click mnuAwards
+input "Search For Awards" "Enter Awards To Search: " "karin"
+see state CurrentRecNo 4
+see lblHead " Awards/Notes Anna Karina                                                 "
+click cmdMatch
+beep
+box warning "AWARDS SEARCH" "End of file!" OK
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

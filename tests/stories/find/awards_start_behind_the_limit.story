@@ -1,0 +1,20 @@
+# Awards search gone on with from behind the last slot: nothing happens but the search's own heading.
+film 1 Title="Film 1" Awards="Nobody"
+film 2 Title="Film 2" Awards="Anna Karina"
+film 3 Title="Film 3" Awards="Banana Split"
+film 4 Title="Film 4" Awards="karina"
+key Titlepra.Dat "Gone" 99
+count Titlepra 1
+start
+click mnuAwards
+input "Search For Awards" "Enter Awards To Search: " "karin"
+click mnuByTitle
+see state CurrentRecNo 99
+see state MatchKind "Awards"
+click cmdMatch
+see lblHead "    Viewing Files by Awards and Nominations"
+see state CurrentRecNo 100
+see state ScanRecNo 100
+see state RowCursor 1
+see state SearchState 1
+see state MatchKind "Awards"

@@ -1,0 +1,19 @@
+# Costume search: Back does nothing until the reset but set its help topic; Next goes on by number.
+film 1 Title="Film 1" Costume="Nobody"
+film 2 Title="Film 2" Costume="Anna Karina"
+film 3 Title="Film 3" Costume="Banana Split"
+film 4 Title="Film 4" Costume="karina"
+start
+click mnuCostume
+input "Search For Costume Designer" "Enter Costume Designer To Search: " "karin"
+click cmdPrevious
+see state CurrentRecNo 2
+see frmPage1.HelpContext 260
+click cmdNext
+see state CurrentRecNo 3
+see txtTitle "Film 3"
+click cmdReset
+click cmdNext
+see state CurrentRecNo 2
+click cmdPrevious
+see state CurrentRecNo 1

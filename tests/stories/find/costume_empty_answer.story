@@ -1,0 +1,20 @@
+# Costume search: an empty answer resets the screen with no word and drops the kept text.
+film 1 Title="Film 1" Costume="Nobody"
+film 2 Title="Film 2" Costume="Anna Karina"
+film 3 Title="Film 3" Costume="Banana Split"
+film 4 Title="Film 4" Costume="karina"
+start
+click mnuCostume
+input "Search For Costume Designer" "Enter Costume Designer To Search: " "karin"
+click mnuCostume
+input "Search For Costume Designer" "Enter Costume Designer To Search: " ""
+see state CostumeQuery ""
+see state RowCursor 1
+see state KeyFilePos 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+click cmdMatch
+see state CurrentRecNo 1

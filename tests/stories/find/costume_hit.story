@@ -1,0 +1,38 @@
+# Costume search: small letters find the first film that holds them anywhere; all that it leaves behind.
+film 1 Title="Film 1" Costume="Nobody"
+film 2 Title="Film 2" Costume="Anna Karina"
+film 3 Title="Film 3" Costume="Banana Split"
+film 4 Title="Film 4" Costume="karina"
+start
+click mnuCostume
+input "Search For Costume Designer" "Enter Costume Designer To Search: " "karin"
+see state CurrentRecNo 2
+see state ScanRecNo 2
+see txtTitle "Film 2"
+see lblHead " Viewing For Costume Designer Anna Karina                   "
+see frmPage1 "Reelora Prima Record  2/ 4      Title Non Sorted"
+see state MatchKind "Costume"
+see state MatchPos 6
+see state SearchState 1
+see state FindPending 0
+see state RowCursor 1
+see state KeyFilePos 0
+see state ViewKind ""
+see state RecordFound 0
+see state CostumeQuery "KARIN"
+see state ArtMatchMark 0
+see cmdMatch.Enabled yes
+see cmdMatch "&Match"
+see state ResumeTitle 0
+see state ResumeDirector 0
+see state ResumeStar 0
+see state ResumeProducer 0
+see state ResumeCinema 0
+see state ResumeWriter 0
+see state ResumeMusic 0
+see state ResumeArt 0
+see state ResumeDance 0
+see state ResumeCostume 0
+see state ResumeAwards 0
+see state ResumeMPAA 0
+see state ResumeSound 0

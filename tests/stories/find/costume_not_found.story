@@ -1,0 +1,34 @@
+# Costume search that finds nothing says so with the text in capitals and resets.
+film 1 Title="Film 1" Costume="Nobody"
+film 2 Title="Film 2" Costume="Anna Karina"
+film 3 Title="Film 3" Costume="Banana Split"
+film 4 Title="Film 4" Costume="karina"
+start
+click cmdNext
+click mnuCostume
+input "Search For Costume Designer" "Enter Costume Designer To Search: " "xYz"
+beep
+box warning "CHOREOGRAPHER SEARCH" "The search for \"XYZ\" was not found. " OK
+see state RowCursor 0
+see state MatchPos 0
+see state ScanRecNo 5
+see state KeyFilePos 0
+see state CostumeQuery "XYZ"
+see state ResumeTitle 0
+see state ResumeDirector 0
+see state ResumeStar 0
+see state ResumeProducer 0
+see state ResumeCinema 0
+see state ResumeWriter 0
+see state ResumeMusic 0
+see state ResumeArt 0
+see state ResumeDance 0
+see state ResumeCostume 0
+see state ResumeAwards 0
+see state ResumeMPAA 0
+see state ResumeSound 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

@@ -1,0 +1,20 @@
+# Dance search: Cancel resets the screen with no word and drops the kept text.
+film 1 Title="Film 1" Choreography="Nobody"
+film 2 Title="Film 2" Choreography="Anna Karina"
+film 3 Title="Film 3" Choreography="Banana Split"
+film 4 Title="Film 4" Choreography="karina"
+start
+click mnuDance
+input "Search For Choreographer" "Enter Choreographer To Search: " "karin"
+click mnuDance
+input "Search For Choreographer" "Enter Choreographer To Search: " cancel
+see state DanceQuery ""
+see state RowCursor 1
+see state KeyFilePos 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+click cmdMatch
+see state CurrentRecNo 1

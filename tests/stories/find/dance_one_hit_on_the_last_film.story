@@ -1,0 +1,18 @@
+# Dance search whose only hit is the last film: it is shown, and Match tells the end behind it.
+film 1 Title="Film 1" Choreography="Nobody"
+film 2 Title="Film 2" Choreography="Banana Split"
+film 3 Title="Film 3" Choreography="Nobody"
+film 4 Title="Film 4" Choreography="Anna Karina"
+start
+click mnuDance
+input "Search For Choreographer" "Enter Choreographer To Search: " "karin"
+see state CurrentRecNo 4
+see lblHead "Choreography By Anna Karina                   "
+click cmdMatch
+beep
+box warning "CHOREOGRAPHER SEARCH" "End of file!" OK
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

@@ -1,0 +1,20 @@
+# Music search: an empty answer resets the screen with no word and drops the kept text.
+film 1 Title="Film 1" Music="Nobody"
+film 2 Title="Film 2" Music="Anna Karina"
+film 3 Title="Film 3" Music="Banana Split"
+film 4 Title="Film 4" Music="karina"
+start
+click mnuMusic
+input "Search For Music Composer" "Enter Music Composer To Search: " "karin"
+click mnuMusic
+input "Search For Music Composer" "Enter Music Composer To Search: " ""
+see state MusicQuery ""
+see state RowCursor 1
+see state KeyFilePos 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+click cmdMatch
+see state CurrentRecNo 1

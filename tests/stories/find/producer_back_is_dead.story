@@ -1,0 +1,19 @@
+# Producer search: Back does nothing until the reset but set its help topic; Next goes on by number.
+film 1 Title="Film 1" Producer="Nobody"
+film 2 Title="Film 2" Producer="Anna Karina"
+film 3 Title="Film 3" Producer="Banana Split"
+film 4 Title="Film 4" Producer="karina"
+start
+click mnuProducer
+input "Search For Producer" "Enter Producer To Search: " "karin"
+click cmdPrevious
+see state CurrentRecNo 2
+see frmPage1.HelpContext 260
+click cmdNext
+see state CurrentRecNo 3
+see txtTitle "Film 3"
+click cmdReset
+click cmdNext
+see state CurrentRecNo 2
+click cmdPrevious
+see state CurrentRecNo 1

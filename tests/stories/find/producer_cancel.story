@@ -1,0 +1,20 @@
+# Producer search: Cancel resets the screen with no word and drops the kept text.
+film 1 Title="Film 1" Producer="Nobody"
+film 2 Title="Film 2" Producer="Anna Karina"
+film 3 Title="Film 3" Producer="Banana Split"
+film 4 Title="Film 4" Producer="karina"
+start
+click mnuProducer
+input "Search For Producer" "Enter Producer To Search: " "karin"
+click mnuProducer
+input "Search For Producer" "Enter Producer To Search: " cancel
+see state ProducerQuery ""
+see state RowCursor 1
+see state KeyFilePos 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+click cmdMatch
+see state CurrentRecNo 1

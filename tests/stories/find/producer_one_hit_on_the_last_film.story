@@ -1,0 +1,18 @@
+# Producer search whose only hit is the last film: it is shown, and Match tells the end behind it.
+film 1 Title="Film 1" Producer="Nobody"
+film 2 Title="Film 2" Producer="Banana Split"
+film 3 Title="Film 3" Producer="Nobody"
+film 4 Title="Film 4" Producer="Anna Karina"
+start
+click mnuProducer
+input "Search For Producer" "Enter Producer To Search: " "karin"
+see state CurrentRecNo 4
+see lblHead " Produced  By Anna Karina                   "
+click cmdMatch
+beep
+box warning "PRODUCER SEARCH" "End of file!" OK
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

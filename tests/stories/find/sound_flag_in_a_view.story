@@ -1,0 +1,20 @@
+# Sound search with its flag set, chosen in a view behind record 1: it asks, and the position is 0.
+film 1 Title="Film 1" Sound="Nobody"
+film 2 Title="Film 2" Sound="Anna Karina"
+film 3 Title="Film 3" Sound="Banana Split"
+film 4 Title="Film 4" Sound="karina"
+key Titlepra.Dat "c" 3
+key Titlepra.Dat "d" 4
+count Titlepra 2
+start
+click mnuSound
+input "Search For Sound" "Enter Sound To Search: \n\rTHX Dolby Etc." "karin"
+click cmdMatch
+click cmdReset
+click mnuByTitle
+see state CurrentRecNo 3
+see state KeyFilePos 1
+click mnuSound
+input "Search For Sound" "Enter Sound To Search: \n\rTHX Dolby Etc." "karin"
+see state CurrentRecNo 2
+see state KeyFilePos 0

@@ -1,0 +1,16 @@
+# Sound search after a hit and a reset that finds nothing tells the end, as the hit is still counted.
+film 1 Title="Film 1" Sound="Nobody"
+film 2 Title="Film 2" Sound="Anna Karina"
+film 3 Title="Film 3" Sound="Banana Split"
+film 4 Title="Film 4" Sound="karina"
+start
+click mnuSound
+input "Search For Sound" "Enter Sound To Search: \n\rTHX Dolby Etc." "karin"
+click cmdReset
+see state RowCursor 1
+see state SoundQuery "KARIN"
+click mnuSound
+input "Search For Sound" "Enter Sound To Search: \n\rTHX Dolby Etc." "xyz"
+beep
+box warning "SOUND RECORDING SEARCH" "End of file!" OK
+see state RowCursor 1

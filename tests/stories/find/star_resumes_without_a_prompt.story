@@ -1,0 +1,17 @@
+# Star search chosen again after Match goes on without asking, from the film on the screen, which it tests again.
+film 1 Title="Film 1" Star1="Nobody"
+film 2 Title="Film 2" Star1="Anna Karina"
+film 3 Title="Film 3" Star1="Banana Split"
+film 4 Title="Film 4" Star1="karina"
+start
+click mnuFindStar
+input "Search For Star" "Enter Star To Search: " "karin"
+click cmdMatch
+see state CurrentRecNo 4
+click mnuFindStar
+see state CurrentRecNo 4
+see state RowCursor 3
+see lblHead "Viewing Files For  karina                        "
+click cmdMatch
+beep
+box warning "STAR  SEARCH" "End of file!" OK

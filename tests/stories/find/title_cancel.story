@@ -1,0 +1,20 @@
+# Title search: Cancel resets the screen with no word and drops the kept text.
+film 1 Title="Nobody"
+film 2 Title="Anna Karina"
+film 3 Title="Banana Split"
+film 4 Title="karina"
+start
+click mnuFindTitle
+input "Search For Title" "Enter Title. To Search: " "karin"
+click mnuFindTitle
+input "Search For Title" "Enter Title. To Search: " cancel
+see state TitleQuery ""
+see state RowCursor 1
+see state KeyFilePos 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""
+click cmdMatch
+see state CurrentRecNo 1

@@ -1,0 +1,34 @@
+# Title search that finds nothing says so with the text in capitals and resets.
+film 1 Title="Nobody"
+film 2 Title="Anna Karina"
+film 3 Title="Banana Split"
+film 4 Title="karina"
+start
+click cmdNext
+click mnuFindTitle
+input "Search For Title" "Enter Title. To Search: " "xYz"
+beep
+box warning "TITLE SEARCH" "The search for\"XYZ\" was not found." OK
+see state RowCursor 0
+see state MatchPos 0
+see state ScanRecNo 5
+see state KeyFilePos 0
+see state TitleQuery "XYZ"
+see state ResumeTitle 0
+see state ResumeDirector 0
+see state ResumeStar 0
+see state ResumeProducer 0
+see state ResumeCinema 0
+see state ResumeWriter 0
+see state ResumeMusic 0
+see state ResumeArt 0
+see state ResumeDance 0
+see state ResumeCostume 0
+see state ResumeAwards 0
+see state ResumeMPAA 0
+see state ResumeSound 0
+see state CurrentRecNo 1
+see state MatchKind ""
+see state SearchState 0
+see state FindPending 0
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

@@ -1,0 +1,16 @@
+# Title search after a hit and a reset that finds nothing says so all the same: on record 1 it counts anew.
+film 1 Title="Nobody"
+film 2 Title="Anna Karina"
+film 3 Title="Banana Split"
+film 4 Title="karina"
+start
+click mnuFindTitle
+input "Search For Title" "Enter Title. To Search: " "karin"
+click cmdReset
+see state RowCursor 1
+see state TitleQuery "KARIN"
+click mnuFindTitle
+input "Search For Title" "Enter Title. To Search: " "xyz"
+beep
+box warning "TITLE SEARCH" "The search for\"XYZ\" was not found." OK
+see state RowCursor 0

@@ -1,0 +1,16 @@
+# Writer search after a hit and a reset that finds nothing tells the end, as the hit is still counted.
+film 1 Title="Film 1" Written="Nobody"
+film 2 Title="Film 2" Written="Anna Karina"
+film 3 Title="Film 3" Written="Banana Split"
+film 4 Title="Film 4" Written="karina"
+start
+click mnuWriter
+input "Search For Writer" "Enter Writer To Search: " "karin"
+click cmdReset
+see state RowCursor 1
+see state WriterQuery "KARIN"
+click mnuWriter
+input "Search For Writer" "Enter Writer To Search: " "xyz"
+beep
+box warning "WRITER SEARCH" "End of file!" OK
+see state RowCursor 1

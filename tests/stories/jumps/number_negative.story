@@ -1,0 +1,6 @@
+# Find By File No. answered with "-2" asks for a record below 1, which stops the program.
+film 1 Title="Alien"
+start
+click mnuFile
+input "Reelora Prima" "Enter File No To Search:" "-2"
+stop "Bad record number"

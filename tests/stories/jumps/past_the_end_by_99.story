@@ -1,0 +1,10 @@
+# A number behind the last slot shows that slot first, then the end under a title with a blank behind it, then record 1.
+films 1 3 Title="Film #"
+start
+click mnuFile
+input "Reelora Prima" "Enter File No To Search:" "99"
+box warning "Reelora Prima " "End of file!" OK
+see state CurrentRecNo 1
+see state ScanRecNo 99
+see txtTitle "Film 1"
+see lblHead "To write a new record click \"New\" button or ALT \"W\""

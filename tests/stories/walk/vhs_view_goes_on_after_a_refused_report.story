@@ -1,0 +1,13 @@
+# VHS view: a report refused in its middle has closed its file; Next opens it again and goes on.
+films 1 4 Title="Film #" Format="V"
+sorted
+start
+click mnuByVHS
+click cmdNext
+click mnuVHS
+box question ANY ANY No
+see state KeyFilePos 2
+see state ViewKind "VHS"
+click cmdNext
+see txtTitle "Film 3"
+see state KeyFilePos 3
