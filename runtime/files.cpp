@@ -41,7 +41,7 @@ std::string_view Files::OpenFile::Fetch(std::int64_t offset) {
     bool in_sequence = AheadLength > 0 && offset >= AheadFrom && offset <= ahead_end;
     std::size_t block = std::max(length, ReadAheadBytes / length * length);
     if (!Ahead) Ahead = std::make_unique_for_overwrite<char[]>(block);
-    Forget();  // a read that fails leaves nothing behind
+    Forget();  // what a failing read has touched is not to be read later
     AheadLength = Handle->Read(Ahead.get(), in_sequence ? block : length, offset);
     AheadFrom = offset;
   }

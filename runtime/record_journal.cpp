@@ -88,7 +88,7 @@ std::optional<Block> ReadBlock(Disk& disk, std::string_view file_name, int recor
   block.OldImage = body.substr(sizeof block.Head, record_length);
   block.NewImage = body.substr(sizeof block.Head + record_length, record_length);
   bool ours = sum == Checksum(body) && Mark.compare({block.Head.Mark.data(), Mark.size()}) == 0 &&
-              block.Head.Name == NameOf(file_name) && block.Head.RecordLength == record_length && block.Head.Slot >= 1;
+              block.Head.Name == NameOf(file_name);
   return ours ? std::optional(block) : std::nullopt;
 }
 
@@ -174,7 +174,7 @@ void RecordJournal::Recover(const Opened& file, int record_length) {
   if (!block) return;
   Stretch stretch = StretchOf(*block);
   std::int64_t length = file.Length();
-  if (length < stretch.LengthBefore || length > stretch.LengthAfter) return;
+  if (length < stretch.LengthBefore) return;
   std::string found(stretch.New.size(), '\0');
   found.resize(file.Read(found.data(), found.size(), stretch.From));
   if (!IsMixture(found, stretch.Old, stretch.New)) return;

@@ -1,6 +1,7 @@
-// What a failing call of the files by number leaves behind.
+// What the calls of the files by number leave behind, failing ones above all.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "runtime/files.h"
@@ -17,13 +18,15 @@ class RefusingDisk final : public PassingDisk {
   using PassingDisk::PassingDisk;
   int Open(const std::string& name, Mode mode) override { return NoOpen ? -EACCES : PassingDisk::Open(name, mode); }
   std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
-    return NoRead ? -EIO : PassingDisk::ReadAt(handle, target, count, offset);
+    if (!NoRead) return PassingDisk::ReadAt(handle, target, count, offset);
+    std::fill_n(target, count, '!');
+    return -EIO;
   }
   bool NoOpen = false;
   bool NoRead = false;
 };
 
-class FailingFiles : public testing::Test {
+class FilesByNumber : public testing::Test {
  protected:
   std::string Read(int number, int record) {
     std::string target(4, '?');
@@ -36,17 +39,18 @@ class FailingFiles : public testing::Test {
   runtime::Files Files{Disk};
 };
 
-TEST_F(FailingFiles, AReadThatFailsLeavesNothingToBeReadLater) {
+TEST_F(FilesByNumber, AReadThatFailsLeavesNothingToBeReadLater) {
   Files.OpenRandom(1, "Data", 4);
   EXPECT_EQ(Read(1, 1), "aaaa");
   Disk.NoRead = true;
   EXPECT_THROW(Read(1, 2), runtime::Failure);
   EXPECT_THROW(Read(1, 2), runtime::Failure);
   Disk.NoRead = false;
+  EXPECT_EQ(Read(1, 1), "aaaa");
   EXPECT_EQ(Read(1, 2), "bbbb");
 }
 
-TEST_F(FailingFiles, AReplacedFileThatCannotBeOpenedStaysTheOldOne) {
+TEST_F(FilesByNumber, AReplacedFileThatCannotBeOpenedStaysTheOldOne) {
   Files.OpenRandom(2, "Data", 4);
   Disk.NoOpen = true;
   EXPECT_THROW(Files.Replaced("Data"), runtime::Failure);
@@ -54,7 +58,7 @@ TEST_F(FailingFiles, AReplacedFileThatCannotBeOpenedStaysTheOldOne) {
   EXPECT_EQ(Read(2, 3), "cccc");
 }
 
-TEST_F(FailingFiles, AReplacedFileIsReadAnew) {
+TEST_F(FilesByNumber, AReplacedFileIsReadAnew) {
   Files.OpenRandom(2, "Data", 4);
   EXPECT_EQ(Read(2, 1), "aaaa");
   Files.OpenOutput(3, "Data");
@@ -63,13 +67,27 @@ TEST_F(FailingFiles, AReplacedFileIsReadAnew) {
   EXPECT_EQ(Read(2, 1), "zz\r\n");
 }
 
-TEST_F(FailingFiles, AnOutputThatIsNotClosedLeavesTheOldFile) {
+TEST_F(FilesByNumber, AnOutputThatIsNotClosedLeavesTheOldFile) {
   Files.OpenOutput(3, "Data");
   Files.WriteLine(3, "zz");
   EXPECT_EQ(Memory.Content().at("Data"), "aaaabbbbccccdddd");
 }
 
-TEST_F(FailingFiles, LeftoversGoAndNothingElse) {
+TEST_F(FilesByNumber, ALeftoverDoesNotGetIntoTheNewFile) {
+  Files.OpenOutput(3, "Other");
+  Files.Close(3);
+  EXPECT_EQ(Memory.Content().at("Other"), "");
+}
+
+TEST_F(FilesByNumber, AWriteIsReadAtOnceWhateverWasReadAhead) {
+  Files.OpenRandom(1, "Data", 4);
+  EXPECT_EQ(Read(1, 1), "aaaa");
+  EXPECT_EQ(Read(1, 2), "bbbb");
+  Files.Put(1, 3, "yyyy");
+  EXPECT_EQ(Read(1, 3), "yyyy");
+}
+
+TEST_F(FilesByNumber, LeftoversGoAndNothingElse) {
   Folder kept = Memory.Content();
   kept.erase(".reelora/Other.new");
   runtime::RemoveLeftovers(Disk);

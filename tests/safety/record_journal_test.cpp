@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstring>
 
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
@@ -44,6 +45,8 @@ std::string With(std::string master, int slot, const std::string& record) {
   return master.replace(static_cast<std::size_t>(slot - 1) * store::RecordLength, record.size(), record);
 }
 
+const std::string Mixed = FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 0).substr(300);
+
 TEST(Recovery, FinishesARecordTornAtAnyByte) {
   std::string old_record = FilmBytes(7, 0), new_record = FilmBytes(7, 1);
   for (std::size_t torn = 1; torn < new_record.size(); ++torn) {
@@ -56,7 +59,11 @@ TEST(Recovery, FinishesARecordTornAtAnyByte) {
 
 TEST(Recovery, LeavesTheOldAndTheNewRecord) {
   EXPECT_EQ(Recovered(Written(), Films(1, 8)), Films(1, 8));
-  EXPECT_EQ(Recovered(Written(), With(Films(1, 8), 7, FilmBytes(7, 1))), With(Films(1, 8), 7, FilmBytes(7, 1)));
+  MemoryDisk disk(Written());
+  Opened file(disk, Master, Disk::Mode::Create);
+  RecordJournal(disk).Recover(file, store::RecordLength);
+  EXPECT_EQ(disk.Content(), Written());
+  EXPECT_EQ(disk.Moments(), 1U) << "something beside the sync";
 }
 
 TEST(Recovery, LeavesARestoredBackupAlone) {
@@ -65,6 +72,44 @@ TEST(Recovery, LeavesARestoredBackupAlone) {
   EXPECT_EQ(Recovered(Written(), Films(1, 6)), Films(1, 6));
   EXPECT_EQ(Recovered(Written(), Films(1, 9)), Films(1, 9));
   EXPECT_EQ(Recovered(Written(), Films(1, 7) + "x"), Films(1, 7) + "x");
+  for (int films : {7, 9}) {
+    std::string longer_or_shorter = With(Films(1, films), 7, Mixed);
+    EXPECT_EQ(Recovered(Written(), longer_or_shorter), longer_or_shorter);
+  }
+}
+
+// The journal with a number at that place of its head, and the sum that belongs to it.
+std::string Forged(std::string journal, std::size_t place, std::int64_t number) {
+  std::memcpy(journal.data() + place, &number, sizeof number);
+  std::uint64_t sum = 0xCBF29CE484222325;
+  for (std::size_t index = 0; index + sizeof sum < journal.size(); ++index)
+    sum = (sum ^ static_cast<unsigned char>(journal[index])) * 0x100000001B3;
+  std::memcpy(journal.data() + journal.size() - sizeof sum, &sum, sizeof sum);
+  return journal;
+}
+
+TEST(Recovery, LeavesTheBlockOfAnotherFormatAlone) {
+  constexpr std::size_t SlotPlace = 40;
+  const std::string master = With(Films(1, 8), 7, Mixed);
+  Folder folder = Written();
+  ASSERT_EQ(Forged(folder[Journal], SlotPlace, 7), folder[Journal]);
+  folder[Journal] = Forged(folder[Journal], 0, 0);
+  EXPECT_EQ(Recovered(folder, master), master);
+}
+
+// Passing over it would leave the torn record, and the next write would take the block's place.
+TEST(Recovery, FailsWhereTheJournalCannotBeRead) {
+  class Unreadable final : public PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    int Open(const std::string& name, Mode mode) override {
+      return name == Journal ? -EACCES : PassingDisk::Open(name, mode);
+    }
+  };
+  MemoryDisk memory(Written());
+  Unreadable disk(memory);
+  Opened file(disk, Master, Disk::Mode::Create);
+  EXPECT_THROW(RecordJournal(disk).Recover(file, store::RecordLength), runtime::Failure);
 }
 
 TEST(Recovery, CutsAnAppendThatStoppedShortAndNothingElse) {
@@ -78,7 +123,7 @@ TEST(Recovery, CutsAnAppendThatStoppedShortAndNothingElse) {
 }
 
 TEST(Recovery, PassesOverAJournalThatIsNotWhole) {
-  const std::string mixed = With(Films(1, 8), 7, FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 0).substr(300));
+  const std::string mixed = With(Films(1, 8), 7, Mixed);
   const std::string whole = Written().at(Journal);
   for (std::size_t place = 0; place < whole.size(); ++place) {
     Folder cut = Written(), garbled = Written();
@@ -90,7 +135,7 @@ TEST(Recovery, PassesOverAJournalThatIsNotWhole) {
 }
 
 TEST(Recovery, LeavesAnotherFileAlone) {
-  const std::string mixed = With(Films(1, 8), 7, FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 0).substr(300));
+  const std::string mixed = With(Films(1, 8), 7, Mixed);
   Folder folder = Written();
   folder["Other.Dat"] = mixed;
   MemoryDisk disk(folder);
@@ -142,6 +187,29 @@ TEST(RecordJournal, PutsBlanksBetweenTheEndAndTheSlot) {
   MemoryDisk disk(Folder{{Master, Films(1, 2)}});
   Write(disk, 5, FilmBytes(5, 1));
   EXPECT_EQ(disk.Content().at(Master), Films(1, 2) + std::string(2 * store::RecordLength, ' ') + FilmBytes(5, 1));
+}
+
+// A run that was killed may have made the files and not have synced the folders.
+TEST(RecordJournal, SyncsTheFoldersAtTheFirstWriteAfterEachOpening) {
+  class Counting final : public PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    int SyncFolder(const std::string& name) override {
+      Synced.push_back(name);
+      return PassingDisk::SyncFolder(name);
+    }
+    std::vector<std::string> Synced;
+  };
+  MemoryDisk memory(Written());
+  Counting disk(memory);
+  RecordJournal journal(disk);
+  Opened file(disk, Master, Disk::Mode::Create);
+  const std::vector<std::string> both = {".reelora", ""}, both_twice = {".reelora", "", ".reelora", ""};
+  for (int version : {2, 3}) journal.Write(file, 7, FilmBytes(7, version));
+  EXPECT_EQ(disk.Synced, both);
+  journal.Recover(file, store::RecordLength);
+  journal.Write(file, 7, FilmBytes(7, 4));
+  EXPECT_EQ(disk.Synced, both_twice);
 }
 
 // A failed sync that is tried again may report success for what the disk has dropped.

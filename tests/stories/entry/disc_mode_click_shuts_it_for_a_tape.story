@@ -1,5 +1,5 @@
 # A click on a disc mode that a tape still has open shuts the box, and its list opens all the same.
-film 1 Title="Alien" Format="L" CLV1="CAV" Color1="Color"
+film 1 Title="Alien" Format="L" CLV1="CLV" Color1="Color"
 start
 click cmdEdit
 click txtFormat

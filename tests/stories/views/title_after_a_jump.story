@@ -7,8 +7,11 @@ sorted
 start
 click mnuByTitle
 click cmdNext
-click mnuLast
+click mnuFile
+input "Reelora Prima" "Enter File No To Search:" "4"
 see txtTitle "Nosferatu"
+see state RecordFound 1
 click mnuByTitle
 see txtTitle "Alien"
 see state KeyFilePos 1
+see state RecordFound 0
