@@ -98,6 +98,5 @@ bool frmPage1::TakeGenreKey() {
     cmdReset_Click();
     return false;
   }
-  TakeScanRecNo();
-  return true;
+  return TakeScanRecNoOrStop();
 }

@@ -8,12 +8,13 @@
 
 void frmPage1::ReadKey() {
   std::string key = runtime::Fixed(KeyRecord, browse::KeyLength);
-  Files.Get(KeyFileNo, KeyFilePos, key.data());
-  KeyRecord = key;
+  if (Files.Get(KeyFileNo, KeyFilePos, key.data())) KeyRecord = key;
 }
 
+// Before the first key of a run has been read there is nothing that could be blank.
 bool frmPage1::KeyIsBlank() const {
-  return std::string_view(KeyRecord).substr(0, browse::KeyTitleWidth).find_first_not_of(' ') == std::string_view::npos;
+  std::string_view title = std::string_view(KeyRecord).substr(0, browse::KeyTitleWidth);
+  return !title.empty() && title.find_first_not_of(' ') == std::string_view::npos;
 }
 
 // One blank key is passed over, a second one in a row is taken as it stands.
@@ -36,12 +37,21 @@ std::int16_t frmPage1::CountKeys() {
 // EditMode is left with the position of "49" in the key: a habit of every reader of keys.
 void frmPage1::TakeScanRecNo() {
   EditMode = static_cast<std::int64_t>(runtime::Position(KeyRecord, "49"));
-  ScanRecNo = runtime::RoundToInt32(runtime::NumericValue(std::string_view(KeyRecord).substr(browse::KeyTitleWidth)));
+  ScanRecNo = runtime::RoundToInt32(
+      runtime::NumericValue(runtime::Fixed(KeyRecord, browse::KeyLength).substr(browse::KeyTitleWidth)));
 }
 
 void frmPage1::OpenKeyFile(std::string_view name) {
   if (std::exchange(KeyFileLeftBySort, false)) Files.Close(KeyFileNo);
   Files.OpenRandom(KeyFileNo, name, browse::KeyLength);
+}
+
+// A key without a number leads nowhere: the focus goes to the title, and the walk is over.
+bool frmPage1::TakeScanRecNoOrStop() {
+  TakeScanRecNo();
+  if (ScanRecNo != 0) return true;
+  txtTitle.SetFocus();
+  return false;
 }
 
 // A search or a report may have closed the key file of a view that goes on.

@@ -7,13 +7,15 @@ using store::FilmField;
 
 void frmPage1::cmdPrev20_Click() {
   HelpContext = cmdPrevious.Keys.HelpId;
-  if (ListShown == 1) cmdNext20.Show();
+  if (ListShown == 1) {
+    cmdNext20.Show();
+    ReopenKeyFile(browse::ListKeyFile(ViewKind, "Titlepra.Dat"));
+  }
   KeyFilePos -= 1;
   if (PageMode == 4) {
     KeyFilePos += 1;
     RowCursor = 19;
   }
-  ReopenKeyFile(browse::ListKeyFile(ViewKind, "Titlepra.Dat"));
   for (;;) {
     MatchPos = 0;
     if (KeyFilePos == 1) {
@@ -21,7 +23,7 @@ void frmPage1::cmdPrev20_Click() {
       return;
     }
     ReadKeyBackward();
-    TakeScanRecNo();
+    if (!TakeScanRecNoOrStop()) return;
     ReadRecord(ScanRecNo);
     ShowRecord();
     MatchGenre();

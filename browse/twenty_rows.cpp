@@ -138,8 +138,7 @@ class ListPage {
       End();
       return false;
     }
-    window_.TakeScanRecNo();
-    return true;
+    return window_.TakeScanRecNoOrStop();
   }
 
   void End() {

@@ -43,6 +43,5 @@ void Program::Deliver(const std::function<void()>& event) {
   }
   if (!Screen.Desk.Ended() && Screen.Front()) return;
   ended_ = true;
-  Files.CloseAll();
   Screen.Desk.Closed();
 }

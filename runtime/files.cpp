@@ -103,10 +103,6 @@ void Files::Close(int number) {
   Replaced(file->Name);
 }
 
-void Files::CloseAll() {
-  for (int number = 1; number <= static_cast<int>(files_.size()); ++number) Close(number);
-}
-
 std::string_view Files::Peek(int number, std::int64_t record) {
   OpenFile& file = At(number);
   if (file.As != OpenFile::Use::Random) throw Failure{BadFileNumber, file.Name};

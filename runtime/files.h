@@ -30,7 +30,6 @@ class Files {
   void OpenOutput(int number, std::string_view name);
   // Nothing on a number that is not open.
   void Close(int number);
-  void CloseAll();
   bool IsOpen(int number) const;
 
   // Record from 1, "Bad record number" below. Past the end nothing is delivered; of a record that the file ends in,

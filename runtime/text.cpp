@@ -106,7 +106,11 @@ double NumericValue(std::string_view text) {
 std::int32_t WholeNumber(std::string_view text, std::string_view file) {
   text = Trim(text);
   if (text.empty() || NumberLength(text) != text.size()) throw Failure{TypeMismatch, std::string(file)};
-  return RoundToInt32(NumericValue(text));
+  try {
+    return RoundToInt32(NumericValue(text));
+  } catch (const Failure& failure) {
+    throw Failure{failure.Name, std::string(file)};
+  }
 }
 
 }  // namespace runtime

@@ -6,7 +6,6 @@
 #include "store/film_codes.h"
 
 using screen::EntryField;
-using store::FilmField;
 
 namespace {
 constexpr std::string_view RefusalText = "Hit edit to change.";

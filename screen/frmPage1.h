@@ -241,6 +241,7 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   bool PastLastKey(int key_length);
   std::int16_t CountKeys();
   void TakeScanRecNo();
+  bool TakeScanRecNoOrStop();
   // Opens a key file as number 2; what a sort run left open there is closed first, anything else stops with
   // "File already open".
   void OpenKeyFile(std::string_view name);

@@ -227,15 +227,6 @@ TEST_F(FilesTest, ANumberReadsTheNewContentsOfAReplacedFile) {
   EXPECT_EQ(files.Length(2), 4);
 }
 
-TEST_F(FilesTest, CloseAllClosesEveryNumber) {
-  files.OpenRandom(1, "Recpra.Dat", 4);
-  files.OpenOutput(3, "Last");
-  files.WriteLine(3, " 5 ");
-  files.CloseAll();
-  for (int number = 1; number <= 5; ++number) EXPECT_FALSE(files.IsOpen(number)) << number;
-  EXPECT_EQ(Bytes("Last"), " 5 \r\n");
-}
-
 TEST_F(FilesTest, LengthsAreInBytes) {
   Lay("Recpra.Dat", "AAAAB");
   files.OpenRandom(1, "Recpra.Dat", 4);

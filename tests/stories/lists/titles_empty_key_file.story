@@ -1,8 +1,10 @@
-# Title list of an empty key file: before any key was read the blank key buffer is passed over, and with it the end.
+# Title list of an empty key file: it ends at its first key, and the reset takes the grid away.
 film 1 Title="Film 01" Genre="DR"
 count Titlepra 1
 file Titlepra.Dat ""
 start
 click mnuAllTitles
 beep
-stop "Bad record number"
+box none "" "End of file!" OK
+see state ViewKind ""
+see Text1(0).Visible no

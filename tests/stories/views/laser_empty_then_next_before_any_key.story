@@ -1,4 +1,4 @@
-# Next in an empty Laser view, no key having been read before: the blank key buffer is passed over and the end with it.
+# Next in an empty Laser view is past its last key at once: it says so and resets.
 film 1 Title="Alien"
 count Laserpra 1
 file Laserpra.Dat ""
@@ -6,6 +6,7 @@ start
 click mnuByLaser
 box warning "ALPHA LASER TITLE SEARCH" "There are No Laser Discs in Library or Files need to Be Sorted" OK
 click cmdNext
-see state KeyFilePos 2
-see focus txtTitle
-see state ViewKind "Laser"
+beep
+box warning "ALPHA LASER TITLE SEARCH" "End of file!" OK
+see state KeyFilePos 0
+see state ViewKind ""

@@ -12,4 +12,4 @@ see state CurrentRecNo 1
 see frmPage1 "Reelora Prima Record  1/ 1      Title Non Sorted"
 click cmdNext
 see focus txtTitle
-see state KeyFilePos 3
+see state KeyFilePos 2
