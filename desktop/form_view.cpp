@@ -9,6 +9,7 @@
 #include "desktop/artwork.h"
 #include "desktop/screen_view.h"
 #include "desktop/text.h"
+#include "forms/screen.h"
 
 namespace desktop {
 namespace {
@@ -37,7 +38,9 @@ FormView::FormView(forms::Window& window, ScreenView& all)
       screen_(all),
       input_(*this, all),
       surface_(this),
-      menu_(window, *this, [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.UserClick(item); }); }) {
+      menu_(
+          window, *this, [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.UserClick(item); }); },
+          [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.Owner().Desk.Help(item.Keys.HelpId); }); }) {
   auto tags = TagsOf(window);
   for (forms::Control* control : window.Controls())
     if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr});

@@ -7,6 +7,20 @@
 #include "desktop/text.h"
 
 namespace desktop {
+namespace {
+
+// Every colour by itself: what a palette leaves open comes from the widget around.
+QPalette PlainColours() {
+  QPalette plain = QApplication::palette();
+  for (int role = 0; role < QPalette::NColorRoles; ++role) {
+    auto colour = static_cast<QPalette::ColorRole>(role);
+    for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+      plain.setBrush(group, colour, plain.brush(group, colour));
+  }
+  return plain;
+}
+
+}  // namespace
 
 ListView::ListView(forms::ListBox& list, QWidget& parent) : QListWidget(&parent), ControlView(list), list_(list) {
   setFocusPolicy(Qt::TabFocus);
@@ -27,7 +41,7 @@ void ListView::Dress(const Grid& grid) {
   colours.setColor(QPalette::Highlight, ToColour(look.Fore));
   colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
   setPalette(colours);
-  verticalScrollBar()->setPalette(QApplication::palette());
+  verticalScrollBar()->setPalette(PlainColours());
 }
 
 void ListView::Fill() {

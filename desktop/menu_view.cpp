@@ -1,8 +1,11 @@
 // Builds the menus by the lines' levels and keeps them as the form says.
 #include "desktop/menu_view.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/text.h"
 
@@ -14,9 +17,10 @@ constexpr int SmallestLetters = 11;  // pixels
 
 }  // namespace
 
-MenuView::MenuView(forms::Window& window, QWidget& parent, const std::function<void(forms::MenuItem&)>& chosen)
-    : bar_(&parent) {
+MenuView::MenuView(forms::Window& window, QWidget& parent, const Told& chosen, Told helped)
+    : helped_(std::move(helped)), bar_(&parent) {
   bar_.setNativeMenuBar(false);
+  bar_.installEventFilter(this);
   std::vector<QAction*> above;  // the last line of each level
   for (forms::Control* control : window.Controls()) {
     if (control->Kind != forms::Kind::MenuItem) continue;
@@ -35,6 +39,7 @@ MenuView::MenuView(forms::Window& window, QWidget& parent, const std::function<v
 QMenu& MenuView::MenuFor(QAction& action) {
   if (!action.menu()) {
     menus_.push_back(std::make_unique<QMenu>());
+    menus_.back()->installEventFilter(this);
     action.setMenu(menus_.back().get());
   }
   return *action.menu();
@@ -66,6 +71,23 @@ void MenuView::Open(const forms::MenuItem& item) {
 QAction* MenuView::ActionOf(const forms::MenuItem& item) const {
   auto found = actions_.find(&item);
   return found == actions_.end() ? nullptr : found->second;
+}
+
+// F1 while the keys go to the bar or to a menu of it. The menus close first, or they would keep the keys.
+bool MenuView::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) return false;
+  forms::MenuItem* item = ActiveItem();
+  if (!item) return false;
+  while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+  bar_.setActiveAction(nullptr);
+  helped_(*item);
+  return true;
+}
+
+forms::MenuItem* MenuView::ActiveItem() const {
+  auto found = std::find_if(lines_.begin(), lines_.end(),
+                            [this](const Line& line) { return line.Action == bar_.activeAction(); });
+  return found == lines_.end() ? nullptr : found->Item;
 }
 
 }  // namespace desktop

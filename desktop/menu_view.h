@@ -12,10 +12,11 @@
 
 namespace desktop {
 
-class MenuView {
+class MenuView final : public QObject {
  public:
-  // Chosen gets the menu line that the user has chosen.
-  MenuView(forms::Window& window, QWidget& parent, const std::function<void(forms::MenuItem&)>& chosen);
+  using Told = std::function<void(forms::MenuItem&)>;
+  // Chosen gets the menu line that the user has chosen; helped gets the line of the bar whose menu F1 was pressed in.
+  MenuView(forms::Window& window, QWidget& parent, const Told& chosen, Told helped);
 
   QMenuBar& Bar() { return bar_; }
   bool Empty() const { return actions_.empty(); }
@@ -27,6 +28,8 @@ class MenuView {
   void Open(const forms::MenuItem& item);
   QAction* ActionOf(const forms::MenuItem& item) const;
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   struct Line {
     forms::MenuItem* Item;
@@ -34,7 +37,9 @@ class MenuView {
     unsigned Seen;
   };
   QMenu& MenuFor(QAction& action);
+  forms::MenuItem* ActiveItem() const;
 
+  Told helped_;
   QMenuBar bar_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   std::vector<Line> lines_;

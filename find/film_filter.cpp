@@ -1,7 +1,10 @@
 // The comparison is a plain loop over bytes without a branch, which the compiler turns into a few wide instructions.
 #include "find/film_filter.h"
 
+#include <algorithm>
+
 #include "runtime/text.h"
+#include "store/film_record.h"
 
 namespace find {
 
@@ -20,9 +23,17 @@ FilmFilter::FilmFilter(std::string_view capitals, int offset, int width)
   }
 }
 
-bool FilmFilter::MayHold(std::string_view record) const {
-  if (takes_any_ || record.size() < offset_ + pairs_ + 1) return true;
-  const char* text = record.data() + offset_;
+std::int64_t FilmFilter::CannotHold(std::string_view records, std::int64_t most) const {
+  if (takes_any_) return 0;
+  std::int64_t whole = std::min(most, static_cast<std::int64_t>(records.size() / store::RecordLength));
+  const char* record = records.data();
+  std::int64_t passed = 0;
+  for (; passed < whole && !MayHold(record); ++passed) record += store::RecordLength;
+  return passed;
+}
+
+bool FilmFilter::MayHold(const char* record) const {
+  const char* text = record + offset_;
   const auto [first, first_small] = bytes_[0];
   const auto [second, second_small] = bytes_[1];
   unsigned char found = 0;

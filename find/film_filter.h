@@ -2,19 +2,21 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 namespace find {
 
 class FilmFilter {
  public:
-  // Capitals: the text sought; the stretch runs from an offset on for so many bytes of the record.
+  // Capitals: the text sought; the stretch runs from an offset on for so many bytes of each record.
   FilmFilter(std::string_view capitals, int offset, int width);
-  // False where the first two characters of the text do not stand side by side in the stretch, in either case. A record
-  // that the file ends in always may.
-  bool MayHold(std::string_view record) const;
+  // How many whole records at the front of these bytes, most at the most, do not have the first two characters of the
+  // text side by side in the stretch, in either case. 0 for a text of fewer characters.
+  std::int64_t CannotHold(std::string_view records, std::int64_t most) const;
 
  private:
+  bool MayHold(const char* record) const;
   bool takes_any_ = false;
   std::size_t offset_;
   std::size_t pairs_;

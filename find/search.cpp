@@ -79,21 +79,18 @@ bool Search::AskText() {
 // behind the last is read before the end is told.
 void Search::Scan() {
   window_.MatchKind = search_.Kind;
-  std::int64_t last = window_.RecordCount;
+  const std::int64_t last = window_.RecordCount;
   const FilmFilter filter = MakeFilter();
   bool passed = false;
   for (window_.ScanRecNo = window_.CurrentRecNo; window_.ScanRecNo <= last + 1; window_.ScanRecNo += 1) {
-    std::string_view film = window_.Files.Peek(static_cast<int>(window_.MasterFileNo), window_.ScanRecNo);
+    passed = PassOver(filter, last) || passed;
+    bool behind_end = Ahead().empty();
     if (window_.ScanRecNo == last + 1) {
       Close();
       return;
     }
     // A slot behind the end of the file reads as the film before it, which has been passed over.
-    if (film.empty() ? passed : !filter.MayHold(film)) {
-      if (!passed) ForgetHits();
-      passed = true;
-      continue;
-    }
+    if (behind_end && passed) continue;
     passed = false;
     window_.ReadRecord(window_.ScanRecNo);
     if (!Hits()) continue;
@@ -105,17 +102,31 @@ void Search::Scan() {
   }
 }
 
+std::string_view Search::Ahead() {
+  return window_.Files.Peek(static_cast<int>(window_.MasterFileNo), window_.ScanRecNo);
+}
+
+// Goes on to the next film that may hit, to the end of the file or behind the last; tells whether films were passed
+// over. They leave behind what testing a film that does not hit leaves.
+bool Search::PassOver(const FilmFilter& filter, std::int64_t last) {
+  std::int64_t first = window_.ScanRecNo;
+  while (window_.ScanRecNo <= last) {
+    std::int64_t films = filter.CannotHold(Ahead(), last + 1 - window_.ScanRecNo);
+    if (films == 0) break;
+    window_.ScanRecNo += films;
+  }
+  if (window_.ScanRecNo == first) return false;
+  window_.MatchPos = 0;
+  if (IsStar()) {
+    for (const StarRow& star : LaterStars) window_.*star.Hit = 0;
+  }
+  return true;
+}
+
 FilmFilter Search::MakeFilter() const {
   const store::FilmFieldRow& first = store::RowOf(search_.Field);
   const store::FilmFieldRow& last = store::RowOf(IsStar() ? FilmField::Star6 : search_.Field);
   return {(window_.*search_.Query).Value(), first.Offset, last.Offset + last.Width - first.Offset};
-}
-
-// What testing a film that does not hit leaves behind.
-void Search::ForgetHits() {
-  window_.MatchPos = 0;
-  if (!IsStar()) return;
-  for (const StarRow& star : LaterStars) window_.*star.Hit = 0;
 }
 
 std::int64_t Search::PositionIn(FilmField field) const {

@@ -40,7 +40,8 @@ class Search {
   bool AskText();
   void Scan();
   FilmFilter MakeFilter() const;
-  void ForgetHits();
+  std::string_view Ahead();
+  bool PassOver(const FilmFilter& filter, std::int64_t last);
   std::int64_t PositionIn(FilmField field) const;
   bool Hits();
   bool StarHits();

@@ -30,7 +30,7 @@ struct Files::OpenFile {
   std::int64_t AheadFrom = 0;
 
   void Forget() { AheadLength = 0; }
-  // The bytes at that offset, up to the record length; fewer where the file ends.
+  // The bytes from that offset on, as far as they have been read ahead: a record or more, fewer where the file ends.
   std::string_view Fetch(std::int64_t offset);
 };
 
@@ -45,7 +45,7 @@ std::string_view Files::OpenFile::Fetch(std::int64_t offset) {
     AheadLength = Handle->Read(Ahead.get(), in_sequence ? block : length, offset);
     AheadFrom = offset;
   }
-  return std::string_view(Ahead.get(), AheadLength).substr(static_cast<std::size_t>(offset - AheadFrom), length);
+  return std::string_view(Ahead.get(), AheadLength).substr(static_cast<std::size_t>(offset - AheadFrom));
 }
 
 Files::Files(runtime::Disk& disk) : disk_(disk), journal_(disk) {}
@@ -111,11 +111,11 @@ std::string_view Files::Peek(int number, std::int64_t record) {
 }
 
 bool Files::Get(int number, std::int64_t record, char* target) {
-  std::string_view bytes = Peek(number, record);
+  const int length = At(number).RecordLength;
+  std::string_view bytes = Peek(number, record).substr(0, static_cast<std::size_t>(length));
   if (bytes.empty()) return false;
-  OpenFile& file = At(number);
   bytes.copy(target, bytes.size());
-  std::memset(target + bytes.size(), ' ', file.RecordLength - bytes.size());
+  std::memset(target + bytes.size(), ' ', static_cast<std::size_t>(length) - bytes.size());
   return true;
 }
 

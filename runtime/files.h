@@ -36,8 +36,8 @@ class Files {
   // what is there is delivered and the rest reads as blanks. Tells whether anything was delivered. Target of the record
   // length.
   bool Get(int number, std::int64_t record, char* target);
-  // The bytes of a record where they were read to, for a look in passing; fewer where the file ends, none behind it.
-  // They stand until the next call.
+  // The bytes from a record on as far as they have been read ahead, at least that record where it is whole, none behind
+  // the end: for a look in passing. They stand until the next call.
   std::string_view Peek(int number, std::int64_t record);
   // Past the end the file is extended with blanks up to the record.
   void Put(int number, std::int64_t record, const char* source);

@@ -72,6 +72,21 @@ TEST_F(Keys, AltAndTheLetterOfALineWithoutItemsRunIt) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(Keys, F1InAnOpenMenuClosesItAndOpensItsTopic) {
+  Key(Qt::Key_F, "f", Qt::AltModifier);
+  QMenu* menu = Drawn().Menu().ActionOf(Form.File)->menu();
+  KeyIn(*menu, Qt::Key_F1);
+  EXPECT_EQ(Desk.HelpTopics, std::vector<int>{400});
+  EXPECT_FALSE(menu->isVisible());
+}
+
+TEST_F(Keys, F1OnALineOfTheBarWithoutItemsOpensItsTopic) {
+  QMenuBar& bar = Drawn().Menu().Bar();
+  bar.setActiveAction(Drawn().Menu().ActionOf(Form.Sort));
+  KeyIn(bar, Qt::Key_F1);
+  EXPECT_EQ(Desk.HelpTopics, std::vector<int>{440});
+}
+
 TEST_F(Keys, TheArrowsMoveTheSelectionOfAListAndOtherKeysRunKeyPress) {
   std::string seen;
   Form.List.Click = [&] { seen += Form.List.Selected() + " "; };

@@ -58,9 +58,9 @@ struct SmallForm : forms::Window {
   forms::OptionButton One{*this, "One", "&One", {4, 0, 0}, {}, {1000, 1000, 900, 300}};
   forms::OptionButton Two{*this, "Two", "&Two", {5, 0, 0}, {}, {2000, 1000, 900, 300}};
   forms::ListBox List{*this, "List", {6, 0, 0}, {}, {100, 2000, 2000, 1000}};
-  forms::MenuItem File{*this, 0, "File", "&File"};
+  forms::MenuItem File{*this, 0, "File", "&File", 400};
   forms::MenuItem Exit{*this, 1, "Exit", "E&xit"};
-  forms::MenuItem Sort{*this, 0, "Sort", "So&rt"};
+  forms::MenuItem Sort{*this, 0, "Sort", "So&rt", 440};
 };
 
 class DrawnWindow {
@@ -81,9 +81,12 @@ class DrawnWindow {
   QWidget* Focus() { return Drawn().focusWidget(); }
 
   void Key(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    KeyIn(*Focus(), key, text, modifiers);
+  }
+  static void KeyIn(QWidget& widget, int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) {
     for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
       QKeyEvent event(type, key, modifiers, text);
-      QApplication::sendEvent(Focus(), &event);
+      QApplication::sendEvent(&widget, &event);
     }
   }
   void Type(const QString& text) {
