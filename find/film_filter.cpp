@@ -1,4 +1,5 @@
-// The comparison is a plain loop over bytes without a branch, which the compiler turns into a few wide instructions.
+// The comparison is a plain loop over bytes without a branch, which the compiler turns into wide instructions, a lane
+// at a time. The last lane may reach beyond the stretch: a film taken for that is looked at in full.
 #include "find/film_filter.h"
 
 #include <algorithm>
@@ -7,20 +8,28 @@
 #include "store/film_record.h"
 
 namespace find {
+namespace {
 
-FilmFilter::FilmFilter(std::string_view capitals, int offset, int width)
-    : offset_(static_cast<std::size_t>(offset)), pairs_(static_cast<std::size_t>(width) - 1) {
-  if (capitals.size() < 2) {
-    takes_any_ = true;
-    return;
+constexpr std::size_t LaneWidth = 16;
+
+}  // namespace
+
+FilmFilter::FilmFilter(std::string_view capitals, int offset, int width) {
+  pairs_ = (static_cast<std::size_t>(width) - 1 + LaneWidth - 1) / LaneWidth * LaneWidth;
+  // A pair is two bytes, and none behind the record is looked at.
+  offset_ = std::min(static_cast<std::size_t>(offset), store::RecordLength - 1 - pairs_);
+  takes_any_ = capitals.size() < 2;
+  if (!takes_any_) tests_ = {TestOf(capitals[0]), TestOf(capitals[1])};
+}
+
+FilmFilter::CharacterTest FilmFilter::TestOf(char capital) {
+  auto bits = static_cast<unsigned char>(capital);
+  unsigned char case_bits = 0;
+  for (int code = 0; code < 256; ++code) {
+    if (runtime::Upper(static_cast<char>(code)) == capital) case_bits |= static_cast<unsigned char>(code ^ bits);
   }
-  for (std::size_t place = 0; place < 2; ++place) {
-    bytes_[place] = {capitals[place], capitals[place]};
-    for (int code = 0; code < 256; ++code) {
-      char byte = static_cast<char>(code);
-      if (byte != capitals[place] && runtime::Upper(byte) == capitals[place]) bytes_[place][1] = byte;
-    }
-  }
+  auto mask = static_cast<unsigned char>(~case_bits);
+  return {mask, static_cast<unsigned char>(bits & mask)};
 }
 
 std::int64_t FilmFilter::CannotHold(std::string_view records, std::int64_t most) const {
@@ -34,12 +43,12 @@ std::int64_t FilmFilter::CannotHold(std::string_view records, std::int64_t most)
 
 bool FilmFilter::MayHold(const char* record) const {
   const char* text = record + offset_;
-  const auto [first, first_small] = bytes_[0];
-  const auto [second, second_small] = bytes_[1];
+  const auto [first, second] = tests_;
   unsigned char found = 0;
   for (std::size_t index = 0; index < pairs_; ++index) {
-    found |= static_cast<unsigned char>(((text[index] == first) | (text[index] == first_small)) &
-                                        ((text[index + 1] == second) | (text[index + 1] == second_small)));
+    auto left = static_cast<unsigned char>(text[index]);
+    auto right = static_cast<unsigned char>(text[index + 1]);
+    found |= static_cast<unsigned char>(((left & first.Mask) == first.Bits) & ((right & second.Mask) == second.Bits));
   }
   return found != 0;
 }

@@ -16,12 +16,19 @@ class FilmFilter {
   std::int64_t CannotHold(std::string_view records, std::int64_t most) const;
 
  private:
+  // A byte is the character, in either case, when the bits that do not tell the case are the same. Now and then another
+  // byte passes, too.
+  struct CharacterTest {
+    unsigned char Mask = 0;
+    unsigned char Bits = 0;
+  };
+  static CharacterTest TestOf(char capital);
   bool MayHold(const char* record) const;
+
   bool takes_any_ = false;
-  std::size_t offset_;
-  std::size_t pairs_;
-  // The one or two bytes that each character has as its capital or as itself.
-  std::array<std::array<char, 2>, 2> bytes_{};
+  std::size_t offset_ = 0;
+  std::size_t pairs_ = 0;
+  std::array<CharacterTest, 2> tests_{};
 };
 
 }  // namespace find
