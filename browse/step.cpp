@@ -7,17 +7,17 @@ namespace {
 struct WalkedView {
   std::string_view Kind;
   void (frmPage1::*Step)();
-  std::string_view NextClears;  // the boxes that Next empties before the step
+  bool NextClearsFormat;  // beside the aspect, which it always empties
   std::string_view TopText;
   std::string_view TopTitle;
 };
 // clang-format off
 constexpr WalkedView WalkedViews[] = {
-  { "Title", &frmPage1::mnuByTitle_Click,   "txtFormat txtLetter", "Beginning of file encounter!",  "ALPHA TITLE SEARCH" },  // alone in clearing the format
-  { "Laser", &frmPage1::mnuByLaser_Click,   "txtLetter",           "Beginning of file encounter!",  "ALPHA LASER TITLE SEARCH" },
-  { "VHS",   &frmPage1::mnuByVHS_Click,     "txtLetter",           "Beginning of file encounter!",  "ALPHA VHS TITLE SEARCH" },
-  { "DVD",   &frmPage1::mnuByDVD_Click,     "txtLetter",           "Begining of file encountered!", "ALPHA DVD TITLE SEARCH" },
-  { "Genre", &frmPage1::mnuFindGenre_Click, "txtLetter",           "Beginning of file encounter!",  "GENRE SEARCH" },
+  { "Title", &frmPage1::mnuByTitle_Click,   true,  "Beginning of file encounter!",  "ALPHA TITLE SEARCH" },  // alone in clearing the format
+  { "Laser", &frmPage1::mnuByLaser_Click,   false, "Beginning of file encounter!",  "ALPHA LASER TITLE SEARCH" },
+  { "VHS",   &frmPage1::mnuByVHS_Click,     false, "Beginning of file encounter!",  "ALPHA VHS TITLE SEARCH" },
+  { "DVD",   &frmPage1::mnuByDVD_Click,     false, "Begining of file encountered!", "ALPHA DVD TITLE SEARCH" },
+  { "Genre", &frmPage1::mnuFindGenre_Click, false, "Beginning of file encounter!",  "GENRE SEARCH" },
 };
 // clang-format on
 
@@ -64,7 +64,7 @@ void frmPage1::cmdNext_Click() {
   }
   KeyFilePos += 1;
   if (ViewKind == "Genre") RowCursor += 1;
-  if (view->NextClears.starts_with("txtFormat")) txtFormat.SetText("");
+  if (view->NextClearsFormat) txtFormat.SetText("");
   txtLetter.SetText("");
   (this->*view->Step)();
 }

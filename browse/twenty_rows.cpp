@@ -6,6 +6,10 @@ using store::FilmField;
 
 namespace {
 
+// Whether a list looks at the genre of a film, and where the genre comes from: it takes every film unseen, it tests
+// with an empty filter that every film passes, or it asks.
+enum class Filter { None, Empty, Asked };
+
 // Everything in which the five lists differ.
 struct TwentyRowList {
   std::string_view Kind;
@@ -15,14 +19,16 @@ struct TwentyRowList {
   std::string_view CanView;  // how the not-sorted text ends
   std::string_view NotSortedTitle;
   std::string_view Heading;
+  Filter By;
+  bool GoesOnUnsorted;  // the box is shown all the same
 };
 
 // clang-format off
-constexpr TwentyRowList AllTitles = { "Title", "Titlepra.Dat", "Titlepra", &frmPage1::TitleCount, "can viewed!",    "Reelora Prima Print Program", "" };
-constexpr TwentyRowList AllDVD    = { "DVD",   "DVDpra.Dat",   "DVDpra",   &frmPage1::DVDCount,   "can viewed!",    "Reelora Prima",               "    Viewing All DVD Titles" };
-constexpr TwentyRowList AllLaser  = { "Laser", "Laserpra.Dat", "Laserpra", &frmPage1::LaserCount, "can be viewed!", "Reelora Prima",               "    Viewing All Titles" };
-constexpr TwentyRowList AllVHS    = { "VHS",   "VHSpra.Dat",   "VHSpra",   &frmPage1::VHSCount,   "can be viewed!", "Reelora Prima",               "    Viewing All Titles" };
-constexpr TwentyRowList AllGenre  = { "Genre", "Titlepra.Dat", "Titlepra", &frmPage1::TitleCount, "can viewed!",    "Reelora Prima Print Program", "    Viewing Files For Genre" };
+constexpr TwentyRowList AllTitles = { "Title", "Titlepra.Dat", "Titlepra", &frmPage1::TitleCount, "can viewed!",    "Reelora Prima Print Program", "", Filter::None, false };
+constexpr TwentyRowList AllDVD    = { "DVD",   "DVDpra.Dat",   "DVDpra",   &frmPage1::DVDCount,   "can viewed!",    "Reelora Prima",               "    Viewing All DVD Titles", Filter::Empty, true };
+constexpr TwentyRowList AllLaser  = { "Laser", "Laserpra.Dat", "Laserpra", &frmPage1::LaserCount, "can be viewed!", "Reelora Prima",               "    Viewing All Titles", Filter::Empty, false };
+constexpr TwentyRowList AllVHS    = { "VHS",   "VHSpra.Dat",   "VHSpra",   &frmPage1::VHSCount,   "can be viewed!", "Reelora Prima",               "    Viewing All Titles", Filter::Empty, false };
+constexpr TwentyRowList AllGenre  = { "Genre", "Titlepra.Dat", "Titlepra", &frmPage1::TitleCount, "can viewed!",    "Reelora Prima Print Program", "    Viewing Files For Genre", Filter::Asked, false };
 
 constexpr std::string_view GenrePrompt =
     "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case";
@@ -35,8 +41,8 @@ class ListPage {
   ListPage(frmPage1& window, const TwentyRowList& list) : window_(window), list_(list) {}
 
   void Run() {
-    if (IsAllTitles()) window_.cmdNext.Hide();
-    if (!AsksGenre()) window_.GenreFilter = "";
+    if (TakesAll()) window_.cmdNext.Hide();
+    if (list_.By != Filter::Asked) window_.GenreFilter = "";
     window_.ViewState = 1;
     window_.SearchState = 1;
     window_.ListShown = 1;
@@ -53,16 +59,15 @@ class ListPage {
   }
 
  private:
-  bool IsAllTitles() const { return &list_ == &AllTitles; }
-  bool AsksGenre() const { return &list_ == &AllGenre; }
+  bool TakesAll() const { return list_.By == Filter::None; }
 
-  // The DVD list alone goes on after the box; it ends at its first key.
+  // A list that goes on after the box ends at its first key.
   bool NotSorted() {
     window_.*list_.Count = window_.ReadOneItem(CountFileNo, list_.CountFile);
     if (window_.*list_.Count != "0") return false;
     std::string text = "Records have not been sorted.  Records must be sorted before records ";
     window_.Desk.MessageBox(forms::Icon::Warning, list_.NotSortedTitle, text.append(list_.CanView));
-    if (&list_ == &AllDVD) return false;
+    if (list_.GoesOnUnsorted) return false;
     window_.cmdReset_Click();
     return true;
   }
@@ -80,12 +85,12 @@ class ListPage {
     window_.cmdPrevious.Enable();
     window_.optNotesoff.Hide();
     window_.optnoteson.Hide();
-    if (!IsAllTitles()) {
+    if (!TakesAll()) {
       for (forms::Button* button : {&window_.cmdDelete, &window_.cmdMatch, &window_.cmdEdit, &window_.cmdSave})
         button->Enable();
       window_.lblHead.SetCaption(list_.Heading);
     }
-    if (AsksGenre()) {
+    if (list_.By == Filter::Asked) {
       window_.GenreFilter = window_.Desk.InputBox("Search", GenrePrompt);
       if (window_.GenreFilter == "") {
         window_.cmdReset_Click();
@@ -129,7 +134,7 @@ class ListPage {
       window_.Desk.MessageBox(forms::Icon::Warning, "", "Top of file encountered!");
       window_.CurrentRecNo = 1;
       window_.cmdReset_Click();
-      if (IsAllTitles()) window_.cmdNew.Show();
+      if (TakesAll()) window_.cmdNew.Show();
       return false;
     }
     if (window_.PastLastKey(browse::KeyLength)) window_.Desk.Beep();
@@ -153,7 +158,7 @@ class ListPage {
 
   // False where the film does not pass the filter, KeyFilePos having moved on (or, walking back, back).
   bool TakeFilm() {
-    if (!IsAllTitles() && window_.NavDirection != 1) {
+    if (!TakesAll() && window_.NavDirection != 1) {
       window_.ReadRecord(window_.ScanRecNo);
       window_.MatchGenre();
       if (window_.MatchPos < 1) {
@@ -164,7 +169,7 @@ class ListPage {
       window_.HitCount += 1;
     }
     window_.ReadRecord(window_.ScanRecNo);
-    if (!IsAllTitles()) {
+    if (!TakesAll()) {
       window_.MatchGenre();
       if (window_.MatchPos < 1) {
         window_.KeyFilePos -= 1;

@@ -13,6 +13,10 @@ enum class MatchButton { Leaves, Enables, EnablesAndNames };
 // the search's own.
 enum class HitText { Whole, Trimmed, Unchanged, Own };
 
+// The searches that go a way of their own: the title search kills Next, the star search looks at six fields, MPAA must
+// equal the text.
+enum class Way { Plain, Title, Stars, Equal };
+
 struct FieldSearch {
   std::string_view Kind;  // MatchKind
   store::FilmField Field;
@@ -28,6 +32,7 @@ struct FieldSearch {
   std::string_view MissedTail;
   HitText AfterHit;
   std::string_view HitHeading;
+  find::Way Way = find::Way::Plain;
 };
 
 using store::FilmField;
@@ -39,13 +44,13 @@ inline constexpr std::string_view Tail = " was not found. ";
 // clang-format off
 inline constexpr FieldSearch TitleSearch = { "Title", FilmField::Title, &State::ResumeTitle, &State::TitleQuery, MatchButton::Enables,
   "    Viewing Files by Title", "Search For Title", "Enter Title. To Search: ",
-  "TITLE SEARCH", "TITLE SEARCH", "The search for", " was not found.", HitText::Whole, "    Viewing Title  - " };
+  "TITLE SEARCH", "TITLE SEARCH", "The search for", " was not found.", HitText::Whole, "    Viewing Title  - ", Way::Title };
 inline constexpr FieldSearch DirectorSearch = { "Director", FilmField::Director, &State::ResumeDirector, &State::DirectorQuery, MatchButton::Enables,
   "    Viewing Files by Director", "Search For Director", "Enter Director. To Search: ",
   "DIRECTOR SEARCH", "DIRECTOR SEARCH", Lead, Tail, HitText::Whole, " Viewing Files for Director " };
 inline constexpr FieldSearch StarSearch = { "Star", FilmField::Star1, &State::ResumeStar, &State::StarQuery, MatchButton::Enables,
   "    Viewing Files by Stars", "Search For Star", "Enter Star To Search: ",
-  "STAR  SEARCH", "STAR 1 SEARCH", Lead, " was not found.", HitText::Own, "Viewing Files For  " };
+  "STAR  SEARCH", "STAR 1 SEARCH", Lead, " was not found.", HitText::Own, "Viewing Files For  ", Way::Stars };
 inline constexpr FieldSearch ProducerSearch = { "Producer", FilmField::Producer, &State::ResumeProducer, &State::ProducerQuery, MatchButton::EnablesAndNames,
   "    Viewing Files by Producers", "Search For Producer", "Enter Producer To Search: ",
   "PRODUCER SEARCH", "PRODUCER SEARCH", Lead, Tail, HitText::Whole, " Produced  By " };
@@ -72,7 +77,7 @@ inline constexpr FieldSearch AwardsSearch = { "Awards", FilmField::Awards, &Stat
   "AWARDS SEARCH", "AWARDS SEARCH", Lead, Tail, HitText::Whole, " Awards/Notes " };
 inline constexpr FieldSearch MPAASearch = { "MPAA", FilmField::Rating, &State::ResumeMPAA, &State::MPAAQuery, MatchButton::Leaves,
   "    Viewing Files by MPAA Or TV Ratings", "Search For MPAA or TV Ratings", "Enter Ratings To Search: ",
-  "MPAA RATINGS SEARCH", "MPAA RATINGS SEARCH", Lead, Tail, HitText::Own, "" };
+  "MPAA RATINGS SEARCH", "MPAA RATINGS SEARCH", Lead, Tail, HitText::Own, "", Way::Equal };
 inline constexpr FieldSearch SoundSearch = { "Sound", FilmField::Sound, &State::ResumeSound, &State::SoundQuery, MatchButton::Leaves,
   "    Viewing Files by Sound", "Search For Sound", "Enter Sound To Search: \n\rTHX Dolby Etc.",
   "SOUND RECORDING SEARCH", "SOUND RECORDING SEARCH", Lead, Tail, HitText::Trimmed, "Viewing Sound Recording in " };

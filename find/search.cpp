@@ -8,23 +8,23 @@ namespace find {
 
 using forms::Icon;
 
-bool Search::IsTitle() const { return search_.Kind == TitleSearch.Kind; }
-bool Search::IsStar() const { return search_.Kind == StarSearch.Kind; }
-bool Search::IsMPAA() const { return search_.Kind == MPAASearch.Kind; }
+bool Search::KillsNext() const { return search_.Way == Way::Title; }
+bool Search::LooksAtStars() const { return search_.Way == Way::Stars; }
+bool Search::MustEqual() const { return search_.Way == Way::Equal; }
 
 void Search::Run() {
   window_.SearchState = 1;
-  if (IsTitle()) window_.FindPending = 1;
+  if (KillsNext()) window_.FindPending = 1;
   window_.Files.Close(KeyFileNo);
   for (auto flag : ResumeFlags) {
-    bool kept = flag == search_.Resume || (flag == &State::ResumeDirector && !IsTitle());
+    bool kept = flag == search_.Resume || (flag == &State::ResumeDirector && !KillsNext());
     if (!kept) window_.*flag = 0;
   }
   window_.lblHead.SetCaption(search_.Heading);
   if (search_.Match != MatchButton::Leaves) window_.cmdMatch.Enable();
   if (search_.Match == MatchButton::EnablesAndNames) window_.cmdMatch.SetCaption("&Match");
-  if ((IsTitle() || IsStar()) && window_.CurrentRecNo == 1) window_.RowCursor = 0;
-  bool resumes = IsTitle() ? TitleResumes() : Resumes();
+  if ((KillsNext() || LooksAtStars()) && window_.CurrentRecNo == 1) window_.RowCursor = 0;
+  bool resumes = KillsNext() ? TitleResumes() : Resumes();
   if (!resumes && !AskText()) return;
   Scan();
 }
@@ -63,7 +63,7 @@ bool Search::TitleResumes() {
 bool Search::AskText() {
   screen::Text& query = window_.*search_.Query;
   std::string answer = window_.Desk.InputBox(search_.Title, search_.Prompt);
-  if (IsStar()) window_.StarTyped = answer;
+  if (LooksAtStars()) window_.StarTyped = answer;
   query = answer;
   if (answer.empty()) {
     window_.cmdReset_Click();
@@ -117,7 +117,7 @@ bool Search::PassOver(const FilmFilter& filter, std::int64_t last) {
   }
   if (window_.ScanRecNo == first) return false;
   window_.MatchPos = 0;
-  if (IsStar()) {
+  if (LooksAtStars()) {
     for (const StarRow& star : LaterStars) window_.*star.Hit = 0;
   }
   return true;
@@ -125,7 +125,7 @@ bool Search::PassOver(const FilmFilter& filter, std::int64_t last) {
 
 FilmFilter Search::MakeFilter() const {
   const store::FilmFieldRow& first = store::RowOf(search_.Field);
-  const store::FilmFieldRow& last = store::RowOf(IsStar() ? FilmField::Star6 : search_.Field);
+  const store::FilmFieldRow& last = store::RowOf(LooksAtStars() ? FilmField::Star6 : search_.Field);
   return {(window_.*search_.Query).Value(), first.Offset, last.Offset + last.Width - first.Offset};
 }
 
@@ -135,8 +135,8 @@ std::int64_t Search::PositionIn(FilmField field) const {
 }
 
 bool Search::Hits() {
-  if (IsStar()) return StarHits();
-  if (IsMPAA()) {
+  if (LooksAtStars()) return StarHits();
+  if (MustEqual()) {
     bool equal = runtime::Upper(runtime::Trim(window_.CurrentFilm.Get(search_.Field))) == window_.MPAAQuery.Value();
     window_.MatchPos = equal ? 1 : 0;
   } else {
@@ -164,8 +164,8 @@ void Search::HeadHit() {
   if (search_.AfterHit == HitText::Unchanged) return;
   if (search_.AfterHit == HitText::Whole) heading += field;
   if (search_.AfterHit == HitText::Trimmed) heading += runtime::Trim(field);
-  if (IsStar()) heading += NameOfStarHit();
-  if (IsMPAA())
+  if (LooksAtStars()) heading += NameOfStarHit();
+  if (MustEqual())
     heading.append(window_.txtRating.Text().starts_with("TV") ? "TV Rating is  " : "MPAA Rating is  ").append(field);
   window_.lblHead.SetCaption(heading);
 }
@@ -186,11 +186,11 @@ void Search::Close() {
     window_.Desk.MessageBox(Icon::Warning, search_.EndTitle, "End of file!");
   } else {
     std::string text(search_.MissedLead);
-    text.append("\"").append(IsStar() ? window_.StarTyped.Value() : (window_.*search_.Query).Value());
+    text.append("\"").append(LooksAtStars() ? window_.StarTyped.Value() : (window_.*search_.Query).Value());
     window_.Desk.MessageBox(Icon::Warning, search_.MissedTitle, text.append("\"").append(search_.MissedTail));
   }
   window_.cmdReset_Click();
-  if (IsTitle() && found_before) window_.cmdReset_Click();
+  if (KillsNext() && found_before) window_.cmdReset_Click();
 }
 
 }  // namespace find

@@ -32,9 +32,9 @@ class Search {
   void Run();
 
  private:
-  bool IsTitle() const;
-  bool IsStar() const;
-  bool IsMPAA() const;
+  bool KillsNext() const;
+  bool LooksAtStars() const;
+  bool MustEqual() const;
   bool Resumes();
   bool TitleResumes();
   bool AskText();

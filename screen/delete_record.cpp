@@ -34,8 +34,8 @@ void frmPage1::cmdDelete_Click() {
 // Empties the boxes. The record's disc mode goes first, or the rule of its box would bring it back.
 void frmPage1::BlankFilm() {
   CurrentFilm.Set(FilmField::CLV1, "");
-  for (const screen::RecordBox& row : screen::ClearingOrder) {
-    (this->*row.Box).SetText("");
-    if (row.Field == FilmField::Genre) txtGenreList.SetText("");
+  for (FilmField field : screen::ClearingOrder) {
+    (this->*screen::BoxOf(field)).SetText("");
+    if (field == FilmField::Genre) txtGenreList.SetText("");
   }
 }

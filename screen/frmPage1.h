@@ -224,7 +224,7 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   void ShowNewHint();
   void ShowFormatLetter();
   void ShowAspect(std::string_view letters);
-  void ShowTrimmed(store::FilmField field, forms::TextBox& box);
+  void ShowTrimmed(store::FilmField field);
   std::string_view TrimField(store::FilmField field);
   void ClearRecord();
   void SetPageVisible(std::span<const screen::PagePair> pairs, bool visible);

@@ -1,51 +1,65 @@
 // Which box shows which field of the record, and which tag stands under it, once.
 #pragma once
 
+#include <cstddef>
+#include <iterator>
+
 #include "screen/controls.h"
 #include "store/film_record.h"
 
 namespace screen {
 
+using store::FilmField;
+
 struct RecordBox {
-  store::FilmField Field;
+  FilmField Field;
   forms::TextBox Page1Controls::*Box;
 };
 
 // clang-format off
-// In the order in which a film is blanked: ShowRecord's clearing, New, Reset and Delete.
-inline constexpr RecordBox ClearingOrder[] = {
-  { store::FilmField::Title,           &Page1Controls::txtTitle },
-  { store::FilmField::Director,        &Page1Controls::txtDirector },
-  { store::FilmField::Star1,           &Page1Controls::txtStar1 },
-  { store::FilmField::Star2,           &Page1Controls::txtStar2 },
-  { store::FilmField::Star3,           &Page1Controls::txtStar3 },
-  { store::FilmField::Star4,           &Page1Controls::txtStar4 },
-  { store::FilmField::Star5,           &Page1Controls::txtStar5 },
-  { store::FilmField::Star6,           &Page1Controls::txtStar6 },
-  { store::FilmField::Label,           &Page1Controls::txtLabel },
-  { store::FilmField::Format,          &Page1Controls::txtFormat },
-  { store::FilmField::NumReel,         &Page1Controls::txtNumReel },
-  { store::FilmField::Genre,           &Page1Controls::txtGenre },
-  { store::FilmField::Time,            &Page1Controls::txtTime },
-  { store::FilmField::Year,            &Page1Controls::txtYear },
-  { store::FilmField::CassNo,          &Page1Controls::txtCassNo },
-  { store::FilmField::Letter,          &Page1Controls::txtLetter },
-  { store::FilmField::Color1,          &Page1Controls::txtColor1 },  // before CLV1, unlike saving
-  { store::FilmField::CLV1,            &Page1Controls::txtCLV1 },
-  { store::FilmField::Producer,        &Page1Controls::txtProducer },
-  { store::FilmField::Cinematographer, &Page1Controls::txtCinematographer },
-  { store::FilmField::Written,         &Page1Controls::txtWritten },
-  { store::FilmField::Music,           &Page1Controls::txtMusic },
-  { store::FilmField::Choreography,    &Page1Controls::txtChoreography },
-  { store::FilmField::SetDirection,    &Page1Controls::txtSetDirection },
-  { store::FilmField::Costume,         &Page1Controls::txtCostume },
-  { store::FilmField::Sound,           &Page1Controls::txtSound },
-  { store::FilmField::Rating,          &Page1Controls::txtRating },
-  { store::FilmField::Awards,          &Page1Controls::txtAwards },
-  { store::FilmField::Package,         &Page1Controls::txtPackage },
-  { store::FilmField::Purchase,        &Page1Controls::txtPurchase },
-  { store::FilmField::Cost,            &Page1Controls::txtCost },
-  { store::FilmField::Ratings,         &Page1Controls::txtRatings },
+// In the order of the record.
+inline constexpr RecordBox RecordBoxes[] = {
+  { FilmField::Title,            &Page1Controls::txtTitle },
+  { FilmField::Director,         &Page1Controls::txtDirector },
+  { FilmField::Star1,            &Page1Controls::txtStar1 },
+  { FilmField::Star2,            &Page1Controls::txtStar2 },
+  { FilmField::Star3,            &Page1Controls::txtStar3 },
+  { FilmField::Star4,            &Page1Controls::txtStar4 },
+  { FilmField::Star5,            &Page1Controls::txtStar5 },
+  { FilmField::Star6,            &Page1Controls::txtStar6 },
+  { FilmField::Label,            &Page1Controls::txtLabel },
+  { FilmField::Format,           &Page1Controls::txtFormat },
+  { FilmField::NumReel,          &Page1Controls::txtNumReel },
+  { FilmField::Genre,            &Page1Controls::txtGenre },
+  { FilmField::Time,             &Page1Controls::txtTime },
+  { FilmField::Year,             &Page1Controls::txtYear },
+  { FilmField::CassNo,           &Page1Controls::txtCassNo },
+  { FilmField::Letter,           &Page1Controls::txtLetter },
+  { FilmField::CLV1,             &Page1Controls::txtCLV1 },
+  { FilmField::Color1,           &Page1Controls::txtColor1 },
+  { FilmField::Producer,         &Page1Controls::txtProducer },
+  { FilmField::Cinematographer,  &Page1Controls::txtCinematographer },
+  { FilmField::Written,          &Page1Controls::txtWritten },
+  { FilmField::Music,            &Page1Controls::txtMusic },
+  { FilmField::Choreography,     &Page1Controls::txtChoreography },
+  { FilmField::SetDirection,     &Page1Controls::txtSetDirection },
+  { FilmField::Costume,          &Page1Controls::txtCostume },
+  { FilmField::Sound,            &Page1Controls::txtSound },
+  { FilmField::Awards,           &Page1Controls::txtAwards },
+  { FilmField::Rating,           &Page1Controls::txtRating },
+  { FilmField::Package,          &Page1Controls::txtPackage },
+  { FilmField::Purchase,         &Page1Controls::txtPurchase },
+  { FilmField::Cost,             &Page1Controls::txtCost },
+  { FilmField::Ratings,          &Page1Controls::txtRatings },
+};
+
+// In the order in which a film is blanked by ShowRecord, New, Reset and Delete: the colour before the disc mode, the rating before the awards.
+inline constexpr FilmField ClearingOrder[] = {
+  FilmField::Title,    FilmField::Director, FilmField::Star1,  FilmField::Star2,  FilmField::Star3,  FilmField::Star4, FilmField::Star5,
+  FilmField::Star6,    FilmField::Label,    FilmField::Format, FilmField::NumReel, FilmField::Genre, FilmField::Time,  FilmField::Year,
+  FilmField::CassNo,   FilmField::Letter,   FilmField::Color1, FilmField::CLV1,   FilmField::Producer, FilmField::Cinematographer,
+  FilmField::Written,  FilmField::Music,    FilmField::Choreography, FilmField::SetDirection, FilmField::Costume, FilmField::Sound,
+  FilmField::Rating,   FilmField::Awards,   FilmField::Package, FilmField::Purchase, FilmField::Cost, FilmField::Ratings,
 };
 
 // A box and its tag: what the page switch shows and hides together.
@@ -95,5 +109,19 @@ inline constexpr PagePair PageTwo[] = {
 // The pairs of page 2 from Producer to Sound; the others hold ratings, notes and the collector's own data.
 inline constexpr std::size_t CreditPairs = 8;
 // clang-format on
+
+static_assert(
+    [] {
+      for (std::size_t row = 0; row < std::size(RecordBoxes); ++row) {
+        if (RecordBoxes[row].Field != FilmField(row)) return false;
+      }
+      return std::size(RecordBoxes) + 1 == store::FilmFields.size() &&
+             std::size(ClearingOrder) == std::size(RecordBoxes);
+    }(),
+    "every field but the tail has its box, in the order of the record");
+
+constexpr forms::TextBox Page1Controls::*BoxOf(FilmField field) {
+  return RecordBoxes[static_cast<std::size_t>(field)].Box;
+}
 
 }  // namespace screen

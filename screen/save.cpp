@@ -23,39 +23,14 @@ constexpr ArticleRow Articles[] = {
   { "A ",   ", A" },  // once more: it catches a second article that the two tests before it have left in front
 };
 
-// Everything behind the title, in file order but for Rating, which is taken before Awards.
-constexpr screen::RecordBox SavingOrder[] = {
-  { FilmField::Director,        &screen::Page1Controls::txtDirector },
-  { FilmField::Star1,           &screen::Page1Controls::txtStar1 },
-  { FilmField::Star2,           &screen::Page1Controls::txtStar2 },
-  { FilmField::Star3,           &screen::Page1Controls::txtStar3 },
-  { FilmField::Star4,           &screen::Page1Controls::txtStar4 },
-  { FilmField::Star5,           &screen::Page1Controls::txtStar5 },
-  { FilmField::Star6,           &screen::Page1Controls::txtStar6 },
-  { FilmField::Label,           &screen::Page1Controls::txtLabel },
-  { FilmField::Format,          &screen::Page1Controls::txtFormat },
-  { FilmField::NumReel,         &screen::Page1Controls::txtNumReel },
-  { FilmField::Genre,           &screen::Page1Controls::txtGenre },
-  { FilmField::Time,            &screen::Page1Controls::txtTime },
-  { FilmField::Year,            &screen::Page1Controls::txtYear },
-  { FilmField::CassNo,          &screen::Page1Controls::txtCassNo },
-  { FilmField::Letter,          &screen::Page1Controls::txtLetter },
-  { FilmField::CLV1,            &screen::Page1Controls::txtCLV1 },
-  { FilmField::Color1,          &screen::Page1Controls::txtColor1 },
-  { FilmField::Producer,        &screen::Page1Controls::txtProducer },
-  { FilmField::Cinematographer, &screen::Page1Controls::txtCinematographer },
-  { FilmField::Written,         &screen::Page1Controls::txtWritten },
-  { FilmField::Music,           &screen::Page1Controls::txtMusic },
-  { FilmField::Choreography,    &screen::Page1Controls::txtChoreography },
-  { FilmField::SetDirection,    &screen::Page1Controls::txtSetDirection },
-  { FilmField::Costume,         &screen::Page1Controls::txtCostume },
-  { FilmField::Sound,           &screen::Page1Controls::txtSound },
-  { FilmField::Rating,          &screen::Page1Controls::txtRating },
-  { FilmField::Awards,          &screen::Page1Controls::txtAwards },
-  { FilmField::Package,         &screen::Page1Controls::txtPackage },
-  { FilmField::Purchase,        &screen::Page1Controls::txtPurchase },
-  { FilmField::Cost,            &screen::Page1Controls::txtCost },
-  { FilmField::Ratings,         &screen::Page1Controls::txtRatings },
+// Everything behind the title, in the order of the record but for the rating, which is taken before the awards.
+constexpr FilmField SavingOrder[] = {
+  FilmField::Director, FilmField::Star1,   FilmField::Star2,        FilmField::Star3,        FilmField::Star4,    FilmField::Star5,
+  FilmField::Star6,    FilmField::Label,   FilmField::Format,       FilmField::NumReel,      FilmField::Genre,    FilmField::Time,
+  FilmField::Year,     FilmField::CassNo,  FilmField::Letter,       FilmField::CLV1,         FilmField::Color1,   FilmField::Producer,
+  FilmField::Cinematographer, FilmField::Written, FilmField::Music, FilmField::Choreography, FilmField::SetDirection, FilmField::Costume,
+  FilmField::Sound,    FilmField::Rating,  FilmField::Awards,       FilmField::Package,      FilmField::Purchase, FilmField::Cost,
+  FilmField::Ratings,
 };
 
 // The boxes that a save centres again; txtCassNo, txtGenre and txtGenreList keep the alignment that they have.
@@ -79,7 +54,7 @@ void frmPage1::SaveRecord() {
   CurrentFilm.Set(FilmField::Title, txtTitle.Text());
   TitleEnd = static_cast<std::int64_t>(runtime::Position(CurrentFilm.Get(FilmField::Title), "  "));
   MoveArticle();
-  for (const screen::RecordBox& row : SavingOrder) CurrentFilm.Set(row.Field, (this->*row.Box).Text());
+  for (FilmField field : SavingOrder) CurrentFilm.Set(field, (this->*screen::BoxOf(field)).Text());
   CurrentFilm.Set(FilmField::Tail, "\r\n");
   if (CurrentRecNo == 0) CurrentRecNo = 1;
   store::WriteRecord(Files, static_cast<int>(MasterFileNo), CurrentRecNo, CurrentFilm);

@@ -10,7 +10,7 @@ using store::FilmField;
 
 namespace {
 
-// Title bar and heading by ViewKind. GenreName: the heading has the words of the genre between its two parts.
+// Title bar and heading by ViewKind; an empty heading leaves lblHead as it was.
 struct ViewTexts {
   std::string_view Kind;
   std::string_view Suffix;
@@ -26,34 +26,16 @@ constexpr ViewTexts Views[] = {
 };
 constexpr std::string_view GenreSuffix = "      Genre Sorted";
 
-// The fields of page 1 up to the format, and those of page 2, in the order in which they are shown.
-constexpr screen::RecordBox FirstBoxes[] = {
-  { FilmField::Title,    &screen::Page1Controls::txtTitle },
-  { FilmField::Director, &screen::Page1Controls::txtDirector },
-  { FilmField::Star1,    &screen::Page1Controls::txtStar1 },
-  { FilmField::Star2,    &screen::Page1Controls::txtStar2 },
-  { FilmField::Star3,    &screen::Page1Controls::txtStar3 },
-  { FilmField::Star4,    &screen::Page1Controls::txtStar4 },
-  { FilmField::Star5,    &screen::Page1Controls::txtStar5 },
-  { FilmField::Star6,    &screen::Page1Controls::txtStar6 },
+// The fields that are shown trimmed and in a row: those of page 1 before the format, and the credits and own data of page 2.
+constexpr FilmField FirstFields[] = {
+  FilmField::Title, FilmField::Director, FilmField::Star1, FilmField::Star2, FilmField::Star3, FilmField::Star4, FilmField::Star5,
+  FilmField::Star6,
 };
-constexpr screen::RecordBox LastBoxes[] = {
-  { FilmField::Producer,        &screen::Page1Controls::txtProducer },
-  { FilmField::Cinematographer, &screen::Page1Controls::txtCinematographer },
-  { FilmField::Written,         &screen::Page1Controls::txtWritten },
-  { FilmField::Music,           &screen::Page1Controls::txtMusic },
-  { FilmField::Choreography,    &screen::Page1Controls::txtChoreography },
-  { FilmField::SetDirection,    &screen::Page1Controls::txtSetDirection },
-  { FilmField::Costume,         &screen::Page1Controls::txtCostume },
-  { FilmField::Awards,          &screen::Page1Controls::txtAwards },
-  { FilmField::Sound,           &screen::Page1Controls::txtSound },
+constexpr FilmField CreditFields[] = {
+  FilmField::Producer, FilmField::Cinematographer, FilmField::Written, FilmField::Music, FilmField::Choreography, FilmField::SetDirection,
+  FilmField::Costume, FilmField::Awards, FilmField::Sound,
 };
-constexpr screen::RecordBox OwnBoxes[] = {
-  { FilmField::Package,  &screen::Page1Controls::txtPackage },
-  { FilmField::Purchase, &screen::Page1Controls::txtPurchase },
-  { FilmField::Cost,     &screen::Page1Controls::txtCost },
-  { FilmField::Ratings,  &screen::Page1Controls::txtRatings },
-};
+constexpr FilmField OwnFields[] = { FilmField::Package, FilmField::Purchase, FilmField::Cost, FilmField::Ratings };
 // clang-format on
 
 }  // namespace
@@ -67,26 +49,26 @@ void frmPage1::ShowRecord() {
   if (EditMode == 0) txtGenreList.Enable();
   ShowHeading();
   txtCLV1.SetText("");
-  for (const screen::RecordBox& row : FirstBoxes) ShowTrimmed(row.Field, this->*row.Box);
+  for (FilmField field : FirstFields) ShowTrimmed(field);
   ShowFormatLetter();
   ShowAspect("WPT");
-  ShowTrimmed(FilmField::Label, txtLabel);
+  ShowTrimmed(FilmField::Label);
   txtFormat.SetText(runtime::Upper(TrimField(FilmField::Format)));
   txtNumReel.SetText(CurrentFilm.Get(FilmField::NumReel));
   if (EditMode == 0) txtGenreList.Enable();
   txtGenre.SetText(runtime::Upper(TrimField(FilmField::Genre)));
-  ShowTrimmed(FilmField::Time, txtTime);
-  ShowTrimmed(FilmField::Year, txtYear);
-  ShowTrimmed(FilmField::CassNo, txtCassNo);
-  ShowTrimmed(FilmField::CLV1, txtCLV1);
-  ShowTrimmed(FilmField::Color1, txtColor1);
+  ShowTrimmed(FilmField::Time);
+  ShowTrimmed(FilmField::Year);
+  ShowTrimmed(FilmField::CassNo);
+  ShowTrimmed(FilmField::CLV1);
+  ShowTrimmed(FilmField::Color1);
   txtCassNo.Enable();
   ShowAspect(EditMode == 1 ? "W" : "WPT");
   txtCLV1.SetText(CurrentFilm.Get(FilmField::CLV1));
   txtColor1.SetText(CurrentFilm.Get(FilmField::Color1));
-  for (const screen::RecordBox& row : LastBoxes) ShowTrimmed(row.Field, this->*row.Box);
+  for (FilmField field : CreditFields) ShowTrimmed(field);
   txtRating.SetText(CurrentFilm.Get(FilmField::Rating));
-  for (const screen::RecordBox& row : OwnBoxes) ShowTrimmed(row.Field, this->*row.Box);
+  for (FilmField field : OwnFields) ShowTrimmed(field);
   CountRollback = 0;
   NewPending = 0;
   Desk.Repaint();
@@ -135,12 +117,12 @@ std::string_view frmPage1::TrimField(FilmField field) {
   return runtime::Trim(whole);
 }
 
-void frmPage1::ShowTrimmed(FilmField field, forms::TextBox& box) { box.SetText(TrimField(field)); }
+void frmPage1::ShowTrimmed(FilmField field) { (this->*screen::BoxOf(field)).SetText(TrimField(field)); }
 
 void frmPage1::ClearRecord() {
-  for (const screen::RecordBox& row : screen::ClearingOrder) {
-    CurrentFilm.Set(row.Field, "");
-    (this->*row.Box).SetText("");
-    if (row.Field == FilmField::Genre) txtGenreList.SetText("");
+  for (FilmField field : screen::ClearingOrder) {
+    CurrentFilm.Set(field, "");
+    (this->*screen::BoxOf(field)).SetText("");
+    if (field == FilmField::Genre) txtGenreList.SetText("");
   }
 }
