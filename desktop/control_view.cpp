@@ -60,4 +60,9 @@ QColor ToColour(forms::Colour colour) {
   return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF), static_cast<int>(colour >> 16 & 0xFF)};
 }
 
+QColor Faded(const QColor& fore, const QColor& back) {
+  auto mixed = [](int one, int other) { return (3 * one + 2 * other) / 5; };
+  return {mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue())};
+}
+
 }  // namespace desktop

@@ -53,6 +53,8 @@ class ControlView {
 std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, bool tag);
 
 QColor ToColour(forms::Colour colour);
+// The letters of what is disabled.
+QColor Faded(const QColor& fore, const QColor& back);
 // What a screen reader says for the control.
 QString AccessibleName(const forms::Control& control);
 

@@ -14,11 +14,6 @@ namespace {
 constexpr double SmallestPart = 0.65;  // of the letters' full size
 constexpr int TextMargin = 4;          // pixels, with the caret's room
 
-QColor Between(const QColor& fore, const QColor& back) {
-  auto mixed = [](int one, int other) { return (3 * one + 2 * other) / 5; };
-  return {mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue())};
-}
-
 }  // namespace
 
 FieldView::FieldView(forms::TextBox& box, QWidget& parent)
@@ -53,7 +48,7 @@ void FieldView::Dress(const Grid& grid) {
   QPalette colours = palette();
   colours.setColor(QPalette::Base, ToColour(look.Back));
   colours.setColor(QPalette::Text, ToColour(look.Fore));
-  colours.setColor(QPalette::Disabled, QPalette::Text, Between(ToColour(look.Fore), ToColour(look.Back)));
+  colours.setColor(QPalette::Disabled, QPalette::Text, Faded(ToColour(look.Fore), ToColour(look.Back)));
   colours.setColor(QPalette::Highlight, ToColour(look.Fore));
   colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
   setPalette(colours);

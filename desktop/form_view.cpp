@@ -40,7 +40,8 @@ FormView::FormView(forms::Window& window, ScreenView& all)
       surface_(this),
       menu_(
           window, *this, [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.UserClick(item); }); },
-          [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.Owner().Desk.Help(item.Keys.HelpId); }); }) {
+          [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.Owner().Desk.Help(item.Keys.HelpId); }); },
+          [this] { screen_.Sync(); }) {
   auto tags = TagsOf(window);
   for (forms::Control* control : window.Controls())
     if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr});
@@ -110,7 +111,7 @@ void FormView::SyncFrame() {
 
 // While the user walks the menu bar with the keys, it keeps the toolkit's focus.
 void FormView::SyncFocus() {
-  if (menu_.Bar().hasFocus()) return;
+  if (menu_.Walked()) return;
   forms::Control* holder = window_.Focus();
   ControlView* view = holder ? ViewOf(*holder) : nullptr;
   QWidget* wanted = view ? &view->Widget() : this;

@@ -28,6 +28,7 @@ ListView::ListView(forms::ListBox& list, QWidget& parent) : QListWidget(&parent)
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideNone);
   setFrameStyle(QFrame::Box | QFrame::Plain);
+  setAutoFillBackground(true);
   setAccessibleName(AccessibleName(list));
   viewport()->setMouseTracking(true);
 }
@@ -36,10 +37,11 @@ void ListView::Dress(const Grid& grid) {
   const forms::Look& look = list_.Look();
   setFont(grid.Font(look));
   QPalette colours = palette();
-  colours.setColor(QPalette::Base, ToColour(look.Back));
+  for (auto role : {QPalette::Base, QPalette::Window}) colours.setColor(role, ToColour(look.Back));
   for (auto role : {QPalette::Text, QPalette::WindowText}) colours.setColor(role, ToColour(look.Fore));
   colours.setColor(QPalette::Highlight, ToColour(look.Fore));
   colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
+  colours.setColor(QPalette::Disabled, QPalette::Text, Faded(ToColour(look.Fore), ToColour(look.Back)));
   setPalette(colours);
   verticalScrollBar()->setPalette(PlainColours());
 }
@@ -51,9 +53,16 @@ void ListView::Fill() {
     clear();
     for (const std::string& item : shown_) addItem(Shown(item));
   }
+  ShowWholeRows();
   if (currentRow() != list_.ListIndex()) setCurrentRow(list_.ListIndex());
   if (currentItem()) scrollToItem(currentItem());
   mirroring_ = false;
+}
+
+// The rest of its height stays bare.
+void ListView::ShowWholeRows() {
+  int row = sizeHintForRow(0);
+  if (row > 0) setViewportMargins(0, 0, 0, (height() - 2 * frameWidth()) % row);
 }
 
 // The toolkit would make the first item the current one where none is; the selection is the form's.

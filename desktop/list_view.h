@@ -23,6 +23,8 @@ class ListView final : public QListWidget, public ControlView {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  void ShowWholeRows();
+
   forms::ListBox& list_;
   std::vector<std::string> shown_;
   bool mirroring_ = false;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -17,8 +18,8 @@ constexpr int SmallestLetters = 11;  // pixels
 
 }  // namespace
 
-MenuView::MenuView(forms::Window& window, QWidget& parent, const Told& chosen, Told helped)
-    : helped_(std::move(helped)), bar_(&parent) {
+MenuView::MenuView(forms::Window& window, QWidget& parent, const Told& chosen, Told helped, std::function<void()> left)
+    : helped_(std::move(helped)), left_(std::move(left)), bar_(&parent) {
   bar_.setNativeMenuBar(false);
   bar_.installEventFilter(this);
   std::vector<QAction*> above;  // the last line of each level
@@ -73,15 +74,33 @@ QAction* MenuView::ActionOf(const forms::MenuItem& item) const {
   return found == actions_.end() ? nullptr : found->second;
 }
 
-// F1 while the keys go to the bar or to a menu of it. The menus close first, or they would keep the keys.
+// The keys that go to the bar or to a menu of it.
 bool MenuView::eventFilter(QObject*, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) return false;
+  if (event->type() != QEvent::KeyPress) return false;
+  if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) return AskedForHelp();
+  QTimer::singleShot(0, this, [this] { PassKeysOn(); });
+  return false;
+}
+
+// The menus close first, or they would keep the keys; Esc gives up the line of the bar too.
+bool MenuView::AskedForHelp() {
   forms::MenuItem* item = ActiveItem();
   if (!item) return false;
   while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
-  bar_.setActiveAction(nullptr);
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  QApplication::sendEvent(&bar_, &escape);
   helped_(*item);
   return true;
+}
+
+// The toolkit leaves the keys with the window when an arrow goes from a menu to a line of the bar that has none.
+void MenuView::PassKeysOn() {
+  if (QApplication::activePopupWidget()) return;
+  if (bar_.activeAction()) {
+    bar_.setFocus(Qt::MenuBarFocusReason);
+  } else if (bar_.hasFocus()) {
+    left_();
+  }
 }
 
 forms::MenuItem* MenuView::ActiveItem() const {

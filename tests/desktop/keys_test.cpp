@@ -85,6 +85,20 @@ TEST_F(Keys, F1OnALineOfTheBarWithoutItemsOpensItsTopic) {
   bar.setActiveAction(Drawn().Menu().ActionOf(Form.Sort));
   KeyIn(bar, Qt::Key_F1);
   EXPECT_EQ(Desk.HelpTopics, std::vector<int>{440});
+  EXPECT_EQ(bar.activeAction(), nullptr);
+}
+
+TEST_F(Keys, ALineOfTheBarWithoutItemsThatAnArrowReachesTakesTheKeys) {
+  int clicks = 0;
+  Form.Sort.Click = [&] { ++clicks; };
+  Key(Qt::Key_F, "f", Qt::AltModifier);
+  KeyIn(*Drawn().Menu().ActionOf(Form.File)->menu(), Qt::Key_Right);
+  QApplication::processEvents();
+  ASSERT_EQ(Focus(), &Drawn().Menu().Bar());
+  Key(Qt::Key_Return, "\r");
+  QApplication::processEvents();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(Focus(), &WidgetOf(Form.Title));
 }
 
 TEST_F(Keys, TheArrowsMoveTheSelectionOfAListAndOtherKeysRunKeyPress) {

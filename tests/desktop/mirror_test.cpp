@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QListWidget>
 
 #include "tests/desktop/small_window.h"
 
@@ -15,6 +16,19 @@ TEST_F(Mirror, AControlGetsItsWidgetWhenItIsFirstShown) {
   Form.List.Show();
   View.Sync();
   EXPECT_TRUE(WidgetOf(Form.List).isVisible());
+}
+
+TEST_F(Mirror, AListShowsWholeRowsInItsPlace) {
+  Form.List.Show();
+  View.Sync();
+  for (int width : {400, 415, 430, 445}) {
+    Drawn().resize(width, width * 2 / 3);
+    QApplication::processEvents();
+    auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+    int rows = list.viewport()->height();
+    EXPECT_EQ(rows % list.sizeHintForRow(0), 0) << width;
+    EXPECT_GT(rows, 0);
+  }
 }
 
 TEST_F(Mirror, ALaterControlLiesOverAnEarlierOneThatWasShownLater) {
