@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <utility>
 
+#include "desktop/help_viewer.h"
 #include "desktop/picture.h"
 #include "desktop/text.h"
 #include "tests/desktop/drawn_check.h"
@@ -177,6 +178,13 @@ void WidgetPlayer::Picture(const std::string& path) {
 
 void WidgetPlayer::PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) {
   if (!desktop::SavePagePicture(job, page, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
+}
+
+void WidgetPlayer::HelpPicture(const std::string& folder, int topic, const std::string& path) {
+  desktop::HelpViewer viewer(folder);
+  viewer.Open(topic);
+  QApplication::processEvents();
+  if (!desktop::SavePicture(viewer, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
 }
 
 }  // namespace story

@@ -25,6 +25,7 @@ class WidgetPlayer final : public Player {
   void Settle() override;
   void Picture(const std::string& path) override;
   void PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) override;
+  void HelpPicture(const std::string& folder, int topic, const std::string& path) override;
 
  private:
   // The widget of a control that can be met with the mouse; nullptr where it cannot.

@@ -33,7 +33,8 @@ TEST(FilmFilter, NeverPassesOverAHit) {
       film.Set(row.Field, text);
       std::size_t begin = random() % (text.size() - 1);
       std::string sought = runtime::Upper(text.substr(begin, 2 + random() % 5));
-      EXPECT_FALSE(Passes(FilterFor(sought, row.Field), film)) << row.Name << " \"" << text << "\" \"" << sought << "\"";
+      EXPECT_FALSE(Passes(FilterFor(sought, row.Field), film))
+          << row.Name << " \"" << text << "\" \"" << sought << "\"";
     }
   }
 }

@@ -46,6 +46,10 @@ class Player {
   virtual void PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) {
     static_cast<void>(job), static_cast<void>(page), static_cast<void>(path);
   }
+  // The same of the help viewer at a topic of the help file in that folder.
+  virtual void HelpPicture(const std::string& folder, int topic, const std::string& path) {
+    static_cast<void>(folder), static_cast<void>(topic), static_cast<void>(path);
+  }
 };
 
 // Called after the program is made and before it is started; the player goes before the program does.

@@ -126,10 +126,12 @@ class Performance {
     actions.at(line.Verb)(*run_->Player, line);
   }
 
-  // picture NAME: the window in front; picture page P NAME: a page of the last document.
+  // picture NAME: the window in front; picture page P NAME: a page of the last document; picture help N NAME: the help
+  // viewer at that topic.
   void TakePicture(const Line& line) {
     std::string path = (options_.Pictures / (line.Arguments.back().Text + ".png")).string();
     if (line.Arguments.size() == 1) return run_->Player->Picture(path);
+    if (line.Text(0) == "help") return run_->Player->HelpPicture(world_.Folder.string(), line.Number32(1), path);
     int page = line.Number32(1);
     if (!world_.Document || page < 1 || page > static_cast<int>(world_.Document->Pages.size()))
       throw Difference{line.Number, Differs("page " + line.Text(1), "a document without it")};

@@ -41,6 +41,7 @@ constexpr VerbRow Verbs[] = {
   { "close",         "",        Role::Action, "" },
   { "close",         "",        Role::Action, "w" },
   { "picture",       "page",    Role::Action, "nw" },
+  { "picture",       "help",    Role::Action, "nw" },
   { "picture",       "",        Role::Action, "w" },
 
   { "box",           "",        Role::Effect, "weew" },

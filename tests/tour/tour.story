@@ -76,3 +76,4 @@ restart
 click mnuCopy
 pick File1 "Recpra.Dat"
 picture 15_copy_files
+picture help 220 16_help_on_save
