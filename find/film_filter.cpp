@@ -46,9 +46,10 @@ bool FilmFilter::MayHold(const char* record) const {
   const auto [first, second] = tests_;
   unsigned char found = 0;
   for (std::size_t index = 0; index < pairs_; ++index) {
-    auto left = static_cast<unsigned char>(text[index]);
-    auto right = static_cast<unsigned char>(text[index + 1]);
-    found |= static_cast<unsigned char>(((left & first.Mask) == first.Bits) & ((right & second.Mask) == second.Bits));
+    // Both differences are 0 where the pair stands.
+    auto left = static_cast<unsigned char>((text[index] & first.Mask) ^ first.Bits);
+    auto right = static_cast<unsigned char>((text[index + 1] & second.Mask) ^ second.Bits);
+    found |= (left | right) == 0 ? 0xFF : 0;
   }
   return found != 0;
 }
