@@ -8,11 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "bench/quiet_desk.h"
 #include "opening/program.h"
 #include "tests/story/fresh_folder.h"
 #include "tests/story/set_up.h"
 
-class BrowsingDesk final : public forms::Desk {
+class BrowsingDesk final : public bench::QuietDesk {
  public:
   // What is typed into every input box.
   std::string Typed;
@@ -27,19 +28,9 @@ class BrowsingDesk final : public forms::Desk {
     return Typed;
   }
   void Beep() override { Shown.emplace_back("beep"); }
-  std::optional<std::uint32_t> ColourDialog(std::uint32_t) override { return std::nullopt; }
-  void PrinterDialog() override {}
-  void Print(const runtime::PrintJob&) override {}
-  void Help(int) override {}
-  std::chrono::local_seconds Now() override { return {}; }
-  std::string DriveLetters() override { return ""; }
-  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
-  void Repaint() override {}
-  void RepaintNow() override {}
-  void Closed() override {}
   void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
 
- protected:
+ private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
     Watch();
     Shown.emplace_back(text);

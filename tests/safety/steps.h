@@ -5,33 +5,16 @@
 #include <optional>
 #include <string>
 
-#include "forms/desk.h"
+#include "bench/quiet_desk.h"
 #include "opening/program.h"
 
 namespace safety {
 
-class YesDesk final : public forms::Desk {
+class YesDesk final : public bench::QuietDesk {
  public:
-  std::string InputBox(std::string_view, std::string_view) override { return ""; }
-  void Beep() override {}
-  std::optional<std::uint32_t> ColourDialog(std::uint32_t) override { return std::nullopt; }
-  void PrinterDialog() override {}
-  void Print(const runtime::PrintJob&) override {}
-  void Help(int) override {}
-  std::chrono::local_seconds Now() override { return {}; }
-  std::string DriveLetters() override { return ""; }
-  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
-  void Repaint() override {}
-  void RepaintNow() override {}
-  void Closed() override {}
   void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
   // What the last failure report named, "" for none.
   std::string Reported;
-
- protected:
-  forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view, forms::Buttons buttons) override {
-    return buttons == forms::Buttons::YesNo ? forms::Answer::Yes : forms::Answer::Ok;
-  }
 };
 
 // A started program with its desk.
