@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "forms/desk.h"
+#include "bench/quiet_desk.h"
 
-class AnsweringDesk final : public forms::Desk {
+class AnsweringDesk final : public bench::QuietDesk {
  public:
   // The answers to come, Yes when there are no more; the colours to come, nothing is Cancel.
   std::deque<forms::Answer> Answers;
@@ -21,34 +21,24 @@ class AnsweringDesk final : public forms::Desk {
   std::vector<std::uint32_t> ColourStarts;
   std::string Reported;
 
-  std::string InputBox(std::string_view, std::string_view) override { return ""; }
-  void Beep() override {}
   std::optional<std::uint32_t> ColourDialog(std::uint32_t start) override {
     ColourStarts.push_back(start);
     return TakeFront(Colours, std::optional<std::uint32_t>());
   }
-  void PrinterDialog() override {}
-  void Print(const runtime::PrintJob&) override {}
-  void Help(int) override {}
-  std::chrono::local_seconds Now() override { return {}; }
   std::string DriveLetters() override {
     std::string letters;
     for (const auto& [letter, folder] : Drives) letters += letter;
     return letters;
   }
   std::optional<std::string> DriveFolder(char letter) override { return Drives[letter]; }
-  void Repaint() override {}
-  void RepaintNow() override {}
-  void Closed() override {}
   void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
 
- protected:
+ private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
     Boxes.emplace_back(text);
     return buttons == forms::Buttons::Ok ? forms::Answer::Ok : TakeFront(Answers, forms::Answer::Yes);
   }
 
- private:
   template <typename Value>
   static Value TakeFront(std::deque<Value>& values, Value otherwise) {
     if (values.empty()) return otherwise;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/quiet_desk.h"
 #include "opening/program.h"
 #include "runtime/clock.h"
 #include "tests/story/fresh_folder.h"
@@ -16,25 +17,14 @@ namespace screen {
 namespace {
 
 // A desk with an eye on the moments of a run; nobody answers its boxes but with No.
-class WatchedDesk final : public forms::Desk {
+class WatchedDesk final : public bench::QuietDesk {
  public:
   std::function<void()> OnPaint = [] {}, OnBeep = [] {};
 
-  std::string InputBox(std::string_view, std::string_view) override { return ""; }
   void Beep() override { OnBeep(); }
-  std::optional<std::uint32_t> ColourDialog(std::uint32_t) override { return std::nullopt; }
-  void PrinterDialog() override {}
-  void Print(const runtime::PrintJob&) override {}
-  void Help(int) override {}
-  std::chrono::local_seconds Now() override { return runtime::LocalTime(); }
-  std::string DriveLetters() override { return ""; }
-  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
-  void Repaint() override {}
   void RepaintNow() override { OnPaint(); }
-  void Closed() override {}
-  void FailureReport(std::string_view, std::string_view) override {}
 
- protected:
+ private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view, forms::Buttons) override {
     return forms::Answer::No;
   }
