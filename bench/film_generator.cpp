@@ -55,6 +55,7 @@ void GenerateFilms(const std::string& source_path, const std::string& target_pat
     offset += static_cast<std::int64_t>(bytes.size());
     block.clear();
   }
+  file.Sync();
 }
 
 }  // namespace bench

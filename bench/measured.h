@@ -21,4 +21,7 @@ double Timed(const std::function<void()>& call);
 // parts; the same number every time. Throws std::runtime_error where a run fails.
 Measured Best(int runs, const std::function<std::vector<double>()>& work);
 
+// The same with all runs in one process, for work that a program does which has long been running.
+Measured BestInOne(int runs, const std::function<std::vector<double>()>& work);
+
 }  // namespace bench

@@ -1,6 +1,8 @@
 // sort_bench SOURCE FOLDER N...: measures the sort run on master files of N films, made in that folder from those of
-// the source, beside a plain read, GNU sort and SQLite, and prints times, ratios and peak memory. The run itself is
-// measured in its process; GNU sort with its start, which is a good part of it where the films are few.
+// the source, beside a plain read, GNU sort and SQLite, and prints times, ratios and peak memory. Each contestant runs
+// several times in a process of its own; GNU sort starts anew each time, which is a good part of it where films are
+// few.
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
@@ -17,7 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int FewRunsFrom = 2'000'000;
+constexpr std::int64_t FilmsInAll = 7'000'000;
+constexpr std::int64_t NoContestantsFrom = 2'000'000;
 
 void Print(const char* what, const bench::Measured& measured, double read_seconds) {
   std::printf("  %-34s %10.6f s  %7.2f x read  %6.1f MiB\n", what, measured.Seconds(),
@@ -31,23 +34,24 @@ void PrintParts(const bench::Measured& sorted, double films) {
 }
 
 void Measure(const std::string& source, const std::string& folder, std::int64_t films) {
-  int runs = films >= FewRunsFrom ? 2 : 7;
+  const int runs = static_cast<int>(std::clamp<std::int64_t>(FilmsInAll / films, 5, 300));
   bench::GenerateFilms(source, folder + "/Recpra.Dat", films);
   std::printf("%lld films\n", static_cast<long long>(films));
-  bench::Measured read = bench::Best(runs, [&] { return bench::ReadMaster(folder); });
+  bench::Measured read = bench::BestInOne(runs, [&] { return bench::ReadMaster(folder); });
   Print("(a) plain read of the master file", read, read.Seconds());
-  bench::Measured sorted = bench::Best(runs, [&] { return bench::SortPasses(folder, false); });
+  bench::Measured sorted = bench::BestInOne(runs, [&] { return bench::SortPasses(folder, false); });
   Print("sort run, four passes", sorted, read.Seconds());
   PrintParts(sorted, static_cast<double>(films));
-  Print("the same with its syncs", bench::Best(2, [&] { return bench::SortPasses(folder, true); }), read.Seconds());
-  if (films < FewRunsFrom) {
+  Print("the same with its syncs", bench::BestInOne(2, [&] { return bench::SortPasses(folder, true); }),
+        read.Seconds());
+  if (films < NoContestantsFrom) {
     bench::PrepareLines(folder);
-    bench::Measured lines = bench::Best(runs, [&] { return bench::SortLines(folder); });
+    bench::Measured lines = bench::BestInOne(runs, [&] { return bench::SortLines(folder); });
     Print("(b) GNU sort, one pass", lines, read.Seconds());
     std::printf("  (b) / sort run: %.2f\n", lines.Seconds() / sorted.Seconds());
 #ifdef REELORA_SQLITE
     bench::PrepareTable(folder);
-    bench::Measured indexes = bench::Best(2, [&] { return bench::MakeIndexes(folder); });
+    bench::Measured indexes = bench::BestInOne(runs, [&] { return bench::MakeIndexes(folder); });
     Print("(c) SQLite, four indexes", indexes, read.Seconds());
     std::printf("  (c) / sort run: %.2f\n", indexes.Seconds() / sorted.Seconds());
 #endif

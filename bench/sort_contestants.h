@@ -21,7 +21,7 @@ void PrepareLines(const std::string& folder);
 std::vector<double> SortLines(const std::string& folder);
 
 #ifdef REELORA_SQLITE
-// A table of titles and formats in record order.
+// A table of the films in record order, a column for each field.
 void PrepareTable(const std::string& folder);
 // The four indexes on that table, one part each, without syncs.
 std::vector<double> MakeIndexes(const std::string& folder);

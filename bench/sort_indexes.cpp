@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "bench/sort_contestants.h"
+#include "runtime/text.h"
 #include "runtime/whole_io.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
@@ -18,6 +19,9 @@ constexpr const char* Indexes[] = {
     "CREATE INDEX lasers ON films(title COLLATE NOCASE) WHERE format = 'L'",
     "CREATE INDEX tapes ON films(title COLLATE NOCASE) WHERE format = 'V'",
 };
+
+// All fields but the line end.
+constexpr int Columns = static_cast<int>(store::FilmField::Tail);
 
 void Run(sqlite3* database, const char* statement) {
   if (sqlite3_exec(database, statement, nullptr, nullptr, nullptr) != SQLITE_OK)
@@ -34,29 +38,36 @@ std::unique_ptr<sqlite3, int (*)(sqlite3*)> OpenDatabase(const std::string& fold
   return database;
 }
 
-void BindText(sqlite3_stmt* statement, int column, std::string_view text) {
-  sqlite3_bind_text(statement, column, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+// The texts of a film, each without its padding, in the columns of the table.
+void Insert(sqlite3_stmt* statement, const store::FilmRecord& film) {
+  for (int column = 0; column < Columns; ++column) {
+    std::string_view text = runtime::Trim(film.Get(store::FilmField(column)));
+    sqlite3_bind_text(statement, column + 1, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+  }
+  if (sqlite3_step(statement) != SQLITE_DONE) throw std::runtime_error(sqlite3_errmsg(sqlite3_db_handle(statement)));
+  sqlite3_reset(statement);
 }
 
 }  // namespace
 
 void PrepareTable(const std::string& folder) {
   auto database = OpenDatabase(folder);
-  Run(database.get(), "DROP TABLE IF EXISTS films; CREATE TABLE films(title TEXT, format TEXT); BEGIN");
+  std::string columns;
+  std::string values;
+  for (int column = 0; column < Columns; ++column) {
+    columns.append(column > 0 ? "," : "").append(store::FilmFields[column].Name).append(" TEXT");
+    values.append(column > 0 ? ",?" : "?");
+  }
+  Run(database.get(), ("DROP TABLE IF EXISTS films; CREATE TABLE films(" + columns + "); BEGIN").c_str());
   sqlite3_stmt* prepared = nullptr;
-  sqlite3_prepare_v2(database.get(), "INSERT INTO films VALUES(?, ?)", -1, &prepared, nullptr);
+  sqlite3_prepare_v2(database.get(), ("INSERT INTO films VALUES(" + values + ")").c_str(), -1, &prepared, nullptr);
   std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> insert(prepared, sqlite3_finalize);
   runtime::RealDisk disk(folder);
   runtime::Opened master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
   std::vector<store::FilmRecord> films(4096);
   std::int64_t offset = 0;
   while (std::size_t length = master.Read(films.front().Bytes.data(), films.size() * store::RecordLength, offset)) {
-    for (std::size_t film = 0; film < length / store::RecordLength; ++film) {
-      BindText(prepared, 1, films[film].Get(store::FilmField::Title));
-      BindText(prepared, 2, films[film].Get(store::FilmField::Format));
-      if (sqlite3_step(prepared) != SQLITE_DONE) throw std::runtime_error(sqlite3_errmsg(database.get()));
-      sqlite3_reset(prepared);
-    }
+    for (std::size_t film = 0; film < length / store::RecordLength; ++film) Insert(prepared, films[film]);
     offset += static_cast<std::int64_t>(length);
   }
   insert.reset();
