@@ -37,12 +37,12 @@ constexpr Pass Passes[] = {
 // too.
 std::vector<double> SortPassesOn(Disk& disk) {
   std::vector<double> seconds;
+  store::Sorter sorter(disk);
   std::int32_t Numrec = 0;
   std::int32_t Retcode = 0;
   for (const Pass& pass : Passes) disk.Remove(std::string(pass.Output));
   for (const Pass& pass : Passes) {
-    seconds.push_back(
-        Timed([&] { store::Sort(disk, store::MasterFileName, pass.Output, pass.Statement, Numrec, Retcode); }));
+    seconds.push_back(Timed([&] { sorter.Sort(store::MasterFileName, pass.Output, pass.Statement, Numrec, Retcode); }));
     if (Retcode != store::SortDone) throw std::runtime_error("the sort has failed");
   }
   return seconds;

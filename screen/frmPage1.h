@@ -16,6 +16,9 @@ struct EntryField;
 struct PagePair;
 struct SortPass;
 }  // namespace screen
+namespace store {
+class Sorter;
+}  // namespace store
 namespace prefs {
 enum class Group;
 enum class Occasion;
@@ -283,7 +286,7 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   // The sort run.
   void BeginSort();
   void MakePasses();
-  void MakePass(const screen::SortPass& pass, std::int32_t& Numrec, std::int32_t& Retcode);
+  void MakePass(const screen::SortPass& pass, store::Sorter& sorter, std::int32_t& Numrec, std::int32_t& Retcode);
 
   // Files and boxes.
   void ReadRecord(std::int64_t record);

@@ -68,8 +68,9 @@ void frmPage1::BeginSort() {
 void frmPage1::MakePasses() {
   std::int32_t Numrec = 0;
   std::int32_t Retcode = 0;
+  store::Sorter sorter(Files.Disk());
   lblSorting.Show();
-  for (const screen::SortPass& pass : Passes) MakePass(pass, Numrec, Retcode);
+  for (const screen::SortPass& pass : Passes) MakePass(pass, sorter, Numrec, Retcode);
   lblNumrec.SetCaption(runtime::S(Numrec));
   Desk.Beep();
   ReadCounts();
@@ -78,13 +79,14 @@ void frmPage1::MakePasses() {
 }
 
 // A pass that fails shows its status and leaves the old key file; its count file is written all the same.
-void frmPage1::MakePass(const screen::SortPass& pass, std::int32_t& Numrec, std::int32_t& Retcode) {
+void frmPage1::MakePass(const screen::SortPass& pass, store::Sorter& sorter, std::int32_t& Numrec,
+                        std::int32_t& Retcode) {
   OpenKeyFile(pass.KeyFile);
   lblSorting.SetCaption("\n\r" + std::string(pass.Doing));
   Desk.RepaintNow();
   SortIncludeValue = pass.IncludeValue;
   SortStatement = StatementOf(pass);
-  store::Sort(Files.Disk(), store::MasterFileName, pass.KeyFile, SortStatement, Numrec, Retcode);
+  sorter.Sort(store::MasterFileName, pass.KeyFile, SortStatement, Numrec, Retcode);
   if (Retcode == store::SortDone) Files.Replaced(pass.KeyFile);
   lblNumrec.SetCaption(runtime::S(Numrec));
   lblRetcode.SetCaption(runtime::S(Retcode));

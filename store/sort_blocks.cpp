@@ -1,6 +1,8 @@
 // The calls on the file, one for a block.
 #include "store/sort_blocks.h"
 
+#include <algorithm>
+
 namespace store {
 
 bool BlockReader::Fill() {
@@ -8,15 +10,15 @@ bool BlockReader::Fill() {
   if (count <= 0) return false;
   std::size_t length = static_cast<std::size_t>(count) * record_length_;
   std::int64_t offset = next_ * static_cast<std::int64_t>(record_length_);
-  if (file_.Read(bytes_.get(), length, offset) < length) throw runtime::Failure{runtime::InputPastEnd, file_.Name()};
+  if (file_.Read(block_, length, offset) < length) throw runtime::Failure{runtime::InputPastEnd, file_.Name()};
   next_ += count;
-  at_ = bytes_.get();
+  at_ = block_;
   filled_ = at_ + length;
   return true;
 }
 
 void BlockWriter::Flush() {
-  file_.Write({bytes_.get(), filled_}, offset_);
+  file_.Write({block_.data(), filled_}, offset_);
   offset_ += static_cast<std::int64_t>(filled_);
   filled_ = 0;
 }

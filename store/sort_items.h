@@ -16,12 +16,16 @@ struct SortItem {
 };
 
 // Calls use(entry) for the entry of each item, in their order; entries as for ItemSorter. Entries lie all over memory,
-// so each is asked for some time before its turn.
+// so both ends of each are asked for some time before its turn.
 template <typename Use>
 void ForEachEntry(std::span<const SortItem> items, const char* entries, std::size_t entry_length, Use&& use) {
   constexpr std::size_t Ahead = 12;
   for (std::size_t at = 0; at < items.size(); ++at) {
-    if (at + Ahead < items.size()) __builtin_prefetch(entries + items[at + Ahead].Entry * entry_length);
+    if (at + Ahead < items.size()) {
+      const char* later = entries + items[at + Ahead].Entry * entry_length;
+      __builtin_prefetch(later);
+      __builtin_prefetch(later + entry_length - 1);
+    }
     use(entries + items[at].Entry * entry_length);
   }
 }
@@ -36,15 +40,15 @@ class ItemSorter {
   void Sort(std::span<SortItem> items, std::span<SortItem> scratch) { SortFrom(items, scratch, 0); }
 
  private:
-  void SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t window);
-  void ByWindow(std::span<SortItem> items, std::span<SortItem> scratch);
-  void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch);
+  // Step: which half of which window, from the upper half of the first on; what stands before is equal.
+  void SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step);
+  void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, unsigned shift);
   void LoadWindow(std::span<SortItem> items, std::size_t window) const;
 
   const SortLayout& layout_;
   const char* entries_;
-  // How often each value of each byte of a window stands in the items; here and not on the stack, which is deep.
-  std::array<std::array<std::uint32_t, 256>, 8> counts_{};
+  // How often each value of each byte of a half stands in the items; here and not on the stack, which is deep.
+  std::array<std::array<std::uint32_t, 256>, 4> counts_{};
 };
 
 }  // namespace store

@@ -1,5 +1,4 @@
-// The spans that are kept are laid together without overlap, so that a title that is both compared and written stands
-// in the entry once.
+// A field to compare is looked up in what the output holds anyway; only what it lacks is kept behind it.
 #include "store/sort_layout.h"
 
 #include <algorithm>
@@ -8,7 +7,6 @@
 namespace store {
 namespace {
 
-constexpr std::size_t NumberBytes = sizeof(std::uint32_t);
 constexpr std::size_t NumberDigits = 7;
 constexpr std::string_view LineEnd = "\r\n";
 
@@ -16,22 +14,14 @@ constexpr std::uint32_t AscendingTable = 0;
 constexpr std::uint32_t DescendingTable = 256;
 constexpr std::uint32_t ZeroTable = 512;
 
-std::size_t LengthOf(const OutputPiece& piece) {
-  switch (piece.As) {
-    case OutputPiece::Kind::RecordNumber:
-      return NumberDigits;
-    case OutputPiece::Kind::LineEnd:
-      return LineEnd.size();
-    default:
-      return piece.Span.Width;
-  }
-}
-
-void WriteNumber(const char* entry, char* target) {
-  std::uint32_t number = 0;
-  std::memcpy(&number, entry, NumberBytes);
-  for (std::size_t digit = NumberDigits; digit-- > 0; number /= 10)
-    target[digit] = static_cast<char>('0' + number % 10);
+// In two halves, whose divisions do not wait for each other.
+void WriteNumber(std::uint32_t number, char* target) {
+  std::uint32_t upper = number / 1000;
+  std::uint32_t lower = number % 1000;
+  for (std::size_t digit = NumberDigits - 3; digit-- > 0; upper /= 10)
+    target[digit] = static_cast<char>('0' + upper % 10);
+  for (std::size_t digit = NumberDigits; digit-- > NumberDigits - 3; lower /= 10)
+    target[digit] = static_cast<char>('0' + lower % 10);
 }
 
 }  // namespace
@@ -42,56 +32,48 @@ SortLayout::SortLayout(const SortStatement& statement, const Weights& weights)
     tables_[AscendingTable + character] = weights[character];
     tables_[DescendingTable + character] = static_cast<unsigned char>(255 - weights[character]);
   }
-  KeepSpans(statement);
+  LayOutOutput(statement);
   LayOutKey(statement);
-  for (OutputPiece piece : statement.Output) {
-    output_length_ += LengthOf(piece);
-    if (piece.As == OutputPiece::Kind::Bytes) piece.Span.Offset = InEntry(piece.Span.Offset);
-    output_.push_back(piece);
-  }
-  keeps_ = {false, true, false};
-  if (!statement.Include) return;
-  const IncludeTest& test = *statement.Include;
-  include_ = test.Span;
-  include_constant_ = test.Constant;
-  include_constant_.resize(std::max(test.Constant.size(), test.Span.Width), ' ');
-  for (char& character : include_constant_)
-    character = static_cast<char>(weights[static_cast<unsigned char>(character)]);
-  keeps_ = {test.KeepsLess, test.KeepsEqual, test.KeepsGreater};
 }
 
-void SortLayout::KeepSpans(const SortStatement& statement) {
-  std::vector<RecordSpan> spans;
-  for (const SortField& field : statement.Fields) spans.push_back(field.Span);
+void SortLayout::LayOutOutput(const SortStatement& statement) {
   for (const OutputPiece& piece : statement.Output) {
-    if (piece.As == OutputPiece::Kind::Bytes) spans.push_back(piece.Span);
-  }
-  std::sort(spans.begin(), spans.end(),
-            [](const RecordSpan& left, const RecordSpan& right) { return left.Offset < right.Offset; });
-  entry_length_ = NumberBytes;
-  for (const RecordSpan& span : spans) {
-    std::size_t kept_to = kept_.empty() ? 0 : kept_.back().From.Offset + kept_.back().From.Width;
-    std::size_t end = span.Offset + span.Width;
-    if (kept_.empty() || span.Offset > kept_to) {
-      kept_.push_back({span, entry_length_});
-      entry_length_ += span.Width;
-    } else if (end > kept_to) {
-      kept_.back().From.Width += end - kept_to;
-      entry_length_ += end - kept_to;
+    switch (piece.As) {
+      case OutputPiece::Kind::RecordNumber:
+        numbers_.push_back(entry_length_);
+        entry_length_ += NumberDigits;
+        break;
+      case OutputPiece::Kind::LineEnd:
+        line_ends_.push_back(entry_length_);
+        entry_length_ += LineEnd.size();
+        break;
+      default:
+        Keep(piece.Span);
     }
   }
+  output_length_ = entry_length_;
+  if (!numbers_.empty()) return;
+  numbers_.push_back(entry_length_);
+  entry_length_ += NumberDigits;
 }
 
-std::size_t SortLayout::InEntry(std::size_t record_offset) const {
-  auto span = std::upper_bound(kept_.begin(), kept_.end(), record_offset,
-                               [](std::size_t offset, const KeptSpan& kept) { return offset < kept.From.Offset; });
-  --span;
-  return record_offset - span->From.Offset + span->To;
+std::size_t SortLayout::Keep(const RecordSpan& span) {
+  kept_.push_back({span, entry_length_});
+  entry_length_ += span.Width;
+  return kept_.back().To;
+}
+
+std::size_t SortLayout::InEntry(const RecordSpan& span) {
+  for (const KeptSpan& kept : kept_) {
+    if (span.Offset >= kept.From.Offset && span.Offset + span.Width <= kept.From.Offset + kept.From.Width)
+      return kept.To + span.Offset - kept.From.Offset;
+  }
+  return Keep(span);
 }
 
 void SortLayout::LayOutKey(const SortStatement& statement) {
   for (const SortField& field : statement.Fields) {
-    auto offset = static_cast<std::uint32_t>(InEntry(field.Span.Offset));
+    auto offset = static_cast<std::uint32_t>(InEntry(field.Span));
     for (std::uint32_t byte = 0; byte < field.Span.Width; ++byte)
       key_.push_back({offset + byte, field.Descending ? DescendingTable : AscendingTable});
   }
@@ -107,19 +89,16 @@ void SortLayout::LayOutKey(const SortStatement& statement) {
   }
 }
 
-bool SortLayout::Keeps(const char* record) const {
-  const char* field = record + include_.Offset;
-  for (std::size_t at = 0; at < include_constant_.size(); ++at) {
-    unsigned char weight = tables_[static_cast<unsigned char>(at < include_.Width ? field[at] : ' ')];
-    auto constant = static_cast<unsigned char>(include_constant_[at]);
-    if (weight != constant) return keeps_[weight < constant ? 0 : 2];
-  }
-  return keeps_[1];
+void SortLayout::MakeEntry(const char* record, std::uint32_t number, char* entry) const {
+  for (const KeptSpan& span : kept_) std::memcpy(entry + span.To, record + span.From.Offset, span.From.Width);
+  for (std::size_t place : numbers_) WriteNumber(number, entry + place);
+  for (std::size_t place : line_ends_) LineEnd.copy(entry + place, LineEnd.size());
 }
 
-void SortLayout::MakeEntry(const char* record, std::uint32_t number, char* entry) const {
-  std::memcpy(entry, &number, NumberBytes);
-  for (const KeptSpan& span : kept_) std::memcpy(entry + span.To, record + span.From.Offset, span.From.Width);
+bool SortLayout::IsEntryOf(const char* record, const char* entry) const {
+  return std::all_of(kept_.begin(), kept_.end(), [&](const KeptSpan& span) {
+    return std::memcmp(entry + span.To, record + span.From.Offset, span.From.Width) == 0;
+  });
 }
 
 std::uint64_t SortLayout::Window(const char* entry, std::size_t index) const {
@@ -146,20 +125,8 @@ int SortLayout::Compare(const char* left, const char* right, std::size_t from_wi
   return 0;
 }
 
-void SortLayout::WriteOutput(const char* entry, char* target) const {
-  for (const OutputPiece& piece : output_) {
-    switch (piece.As) {
-      case OutputPiece::Kind::RecordNumber:
-        WriteNumber(entry, target);
-        break;
-      case OutputPiece::Kind::LineEnd:
-        LineEnd.copy(target, LineEnd.size());
-        break;
-      default:
-        std::memcpy(target, entry + piece.Span.Offset, piece.Span.Width);
-    }
-    target += LengthOf(piece);
-  }
+int SortLayout::CompareNumbers(const char* left, const char* right) const {
+  return std::memcmp(left + numbers_.front(), right + numbers_.front(), NumberDigits);
 }
 
 }  // namespace store

@@ -6,13 +6,14 @@
 #include <cerrno>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "runtime/whole_io.h"
 #include "store/sort_blocks.h"
-#include "store/sort_chunk.h"
 #include "store/sort_layout.h"
 #include "store/sort_runs.h"
 #include "store/sort_statement.h"
+#include "store/sort_table.h"
 
 namespace store {
 namespace {
@@ -43,74 +44,25 @@ std::optional<Weights> ReadWeights(Disk& disk, const std::optional<std::string>&
   }
 }
 
-class SortRun {
- public:
-  SortRun(Disk& disk, const SortLayout& layout, const Opened& input, const SortLimits& limits)
-      : disk_(disk),
-        layout_(layout),
-        input_(input),
-        limits_(limits),
-        records_(input.Length() / static_cast<std::int64_t>(layout.RecordLength())),
-        two_workers_(records_ >= limits.TwoWorkersFrom) {}
-
-  std::int64_t Records() const { return records_; }
-  // Writes the whole output to an empty file and tells how many records; runs_name: of the file of the runs.
-  std::int64_t Write(const Opened& output, const std::string& runs_name) const;
-
- private:
-  std::int64_t WriteThroughRuns(const Opened& output, SortRuns runs, std::int64_t room) const;
-
-  Disk& disk_;
-  const SortLayout& layout_;
-  const Opened& input_;
-  const SortLimits& limits_;
-  std::int64_t records_;
-  bool two_workers_;
-};
-
-std::int64_t SortRun::Write(const Opened& output, const std::string& runs_name) const {
-  auto in_memory = static_cast<std::int64_t>(limits_.MemoryBytes / SortChunk::BytesPerRecord(layout_));
-  std::int64_t room = std::min(records_, std::max<std::int64_t>(1, in_memory));
-  if (room < records_) return WriteThroughRuns(output, SortRuns(layout_, OpenEmpty(disk_, runs_name)), room);
-  SortChunk chunk(layout_, room, two_workers_);
-  chunk.Load(input_, 0, records_);
-  chunk.Sort([&](std::span<const SortItem> items, const char* entries, std::int64_t place) {
-    BlockWriter writer(output, layout_.OutputLength(), place);
-    ForEachEntry(items, entries, layout_.EntryLength(),
-                 [&](const char* entry) { layout_.WriteOutput(entry, writer.Next()); });
-    writer.Flush();
-  });
-  return chunk.Kept();
-}
-
-std::int64_t SortRun::WriteThroughRuns(const Opened& output, SortRuns runs, std::int64_t room) const {
-  {
-    SortChunk chunk(layout_, room, two_workers_);
-    for (std::int64_t first = 0; first < records_; first += room) {
-      chunk.Load(input_, first, std::min(room, records_ - first));
-      chunk.Sort([&](std::span<const SortItem> items, const char* entries, std::int64_t place) {
-        const std::size_t length = layout_.EntryLength();
-        BlockWriter writer(runs.File(), length, runs.Count() + place);
-        ForEachEntry(items, entries, length, [&](const char* entry) { std::copy_n(entry, length, writer.Next()); });
-        writer.Flush();
-      });
-      runs.Add(chunk.Kept());
-    }
-  }
-  runs.Merge(output, limits_.MemoryBytes, two_workers_);
-  return runs.Count();
+// Records that memory holds at a time; each of two workers needs room for one.
+std::int64_t RoomFor(const SortLayout& layout, std::int64_t records, const SortLimits& limits) {
+  auto in_memory = static_cast<std::int64_t>(limits.MemoryBytes / SortTable::BytesPerRecord(layout));
+  return std::min(records, std::max<std::int64_t>(2, in_memory));
 }
 
 // One call of the operation: its files and what has come of it.
 class SortCall {
  public:
-  SortCall(Disk& disk, std::string_view input, std::string_view output, const SortLimits& limits)
+  SortCall(Disk& disk, std::string_view input, std::string_view output, const SortLimits& limits, SortWorkers& workers,
+           std::optional<SortTable>& last)
       : disk_(disk),
         input_(input),
         output_(output),
         aside_(runtime::InSafetyFolder(output_ + std::string(runtime::AsideEnding))),
         runs_(runtime::InSafetyFolder(output_ + ".runs" + std::string(runtime::AsideEnding))),
-        limits_(limits) {}
+        limits_(limits),
+        workers_(workers),
+        last_(last) {}
 
   // The status; unless it is SortDone, the output is as it was and nothing is left aside.
   std::int32_t Replace(std::string_view statement);
@@ -119,6 +71,9 @@ class SortCall {
 
  private:
   std::int32_t BuildAside(std::string_view statement);
+  // Writes the whole output to an empty file, from a sorted table on, and tells how many records.
+  std::int64_t WriteThroughRuns(SortTable& table, const SortInclude& include, const Opened& input, const Opened& output,
+                                SortWorkers* workers) const;
   // A file that cannot be removed now goes at the next start.
   void Drop(const std::string& name) {
     while (disk_.Remove(name) == -EINTR) {
@@ -128,8 +83,23 @@ class SortCall {
   Disk& disk_;
   std::string input_, output_, aside_, runs_;
   const SortLimits& limits_;
+  SortWorkers& workers_;
+  std::optional<SortTable>& last_;
   std::int64_t written_ = 0;
 };
+
+std::int64_t SortCall::WriteThroughRuns(SortTable& table, const SortInclude& include, const Opened& input,
+                                        const Opened& output, SortWorkers* workers) const {
+  SortRuns runs(table.Layout(), OpenEmpty(disk_, runs_));
+  for (;;) {
+    runs.Add(table.WriteEntries(runs.File(), runs.Count()));
+    if (table.AtEnd()) break;
+    table.Load(input, include);
+    table.Sort();
+  }
+  runs.Merge(output, limits_.MemoryBytes, workers);
+  return runs.Count();
+}
 
 std::int32_t SortCall::BuildAside(std::string_view statement) {
   std::optional<SortStatement> parsed = ParseSortStatement(statement);
@@ -138,12 +108,21 @@ std::int32_t SortCall::BuildAside(std::string_view statement) {
   std::optional<Weights> weights = ReadWeights(disk_, parsed->WeightsFile);
   if (!weights) return SortWeightsUnreadable;
   const SortLayout layout(*parsed, *weights);
-  const SortRun run(disk_, layout, input, limits_);
-  if (run.Records() > MostSortRecords) return SortInputUnreadable;
+  const SortInclude include(parsed->Include, *weights);
+  const std::int64_t records = input.Length() / static_cast<std::int64_t>(layout.RecordLength());
+  if (records > MostSortRecords) return SortInputUnreadable;
   runtime::MakeSafetyFolder(disk_);
   Opened aside = OpenEmpty(disk_, aside_);
-  written_ = run.Write(aside, runs_);
+  SortWorkers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
+  std::optional<SortTable> table = std::exchange(last_, std::nullopt);
+  if (!table || !table->Suits(layout, records) || !table->Reload(input, include)) {
+    table.emplace(layout, records, RoomFor(layout, records, limits_), workers);
+    table->Load(input, include);
+    table->Sort();
+  }
+  written_ = table->AtEnd() ? table->WriteOutput(aside) : WriteThroughRuns(*table, include, input, aside, workers);
   aside.Sync();
+  if (table->HoldsAll()) last_ = std::move(table);
   return SortDone;
 }
 
@@ -163,13 +142,13 @@ std::int32_t SortCall::Replace(std::string_view statement) {
 
 }  // namespace
 
-void Sort(Disk& disk, std::string_view input, std::string_view output, std::string_view statement, std::int32_t& Numrec,
-          std::int32_t& Retcode, const SortLimits& limits) {
-  SortCall call(disk, input, output, limits);
+void Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement, std::int32_t& Numrec,
+                  std::int32_t& Retcode) {
+  SortCall call(disk_, input, output, limits_, workers_, last_);
   Retcode = call.Replace(statement);
   if (Retcode != SortDone) return;
   Numrec = static_cast<std::int32_t>(call.Records());
-  runtime::SyncFolders(disk, output);
+  runtime::SyncFolders(disk_, output);
 }
 
 }  // namespace store

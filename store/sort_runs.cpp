@@ -3,10 +3,9 @@
 #include "store/sort_runs.h"
 
 #include <algorithm>
-#include <deque>
+#include <memory>
 
 #include "store/sort_blocks.h"
-#include "store/sort_workers.h"
 
 namespace store {
 namespace {
@@ -45,7 +44,7 @@ class Heads {
   bool Before(const Head& left, const Head& right) const {
     if (left.Window != right.Window) return left.Window < right.Window;
     int order = layout_.Compare(left.Entry, right.Entry, 1);
-    return order != 0 ? order < 0 : left.Run < right.Run;
+    return order != 0 ? order < 0 : layout_.CompareNumbers(left.Entry, right.Entry) < 0;
   }
   void SinkFirst() {
     for (std::size_t at = 0;;) {
@@ -66,37 +65,43 @@ class Heads {
 
 void SortRuns::Add(std::int64_t count) { runs_.push_back({Count(), Count() + count}); }
 
-void SortRuns::Merge(const runtime::Opened& output, std::size_t memory, bool two_workers) const {
+void SortRuns::Merge(const runtime::Opened& output, std::size_t memory, SortWorkers* workers) const {
   std::size_t block = std::min(BlockBytes, memory / (2 * (runs_.size() + 1)));
-  if (!two_workers) {
+  if (!workers) {
     MergeRanges(runs_, output, 0, block);
     return;
   }
   const std::array<Ranges, 2> halves = Halves();
   std::int64_t lower_count = 0;
   for (const EntryRange& range : halves[0]) lower_count += range.End - range.First;
-  Twice(true, [&](int half) { MergeRanges(halves.at(half), output, half == 0 ? 0 : lower_count, block); });
+  workers->Twice([&](int half) { MergeRanges(halves.at(half), output, half == 0 ? 0 : lower_count, block); });
 }
 
 void SortRuns::MergeRanges(const Ranges& ranges, const runtime::Opened& output, std::int64_t place,
                            std::size_t block) const {
-  std::deque<BlockReader> readers;
+  const std::size_t length = std::max(block, layout_.EntryLength());
+  auto blocks = std::make_unique_for_overwrite<char[]>(length * (ranges.size() + 1));
+  char* next_block = blocks.get();
+  std::vector<BlockReader> readers;
   Heads heads(layout_, ranges.size());
   for (const EntryRange& range : ranges) {
-    BlockReader& reader =
-        readers.emplace_back(file_, layout_.EntryLength(), range.First, range.End - range.First, block);
-    if (const char* entry = reader.Next()) heads.Add(readers.size() - 1, entry);
+    readers.emplace_back(file_, layout_.EntryLength(), range.First, range.End - range.First,
+                         std::span(next_block, length));
+    next_block += length;
+    if (const char* entry = readers.back().Next()) heads.Add(readers.size() - 1, entry);
   }
-  BlockWriter writer(output, layout_.OutputLength(), place, block);
+  BlockWriter writer(output, layout_.OutputLength(), place, {next_block, length});
   while (!heads.Empty()) {
-    layout_.WriteOutput(heads.Foremost().Entry, writer.Next());
+    std::copy_n(heads.Foremost().Entry, layout_.OutputLength(), writer.Next());
     heads.Replace(readers[heads.Foremost().Run].Next());
   }
   writer.Flush();
 }
 
 std::string SortRuns::EntryAt(std::int64_t entry) const {
-  return std::string(BlockReader(file_, layout_.EntryLength(), entry, 1).Next(), layout_.EntryLength());
+  std::string bytes(layout_.EntryLength(), '\0');
+  BlockReader(file_, bytes.size(), entry, 1, bytes).Next();
+  return bytes;
 }
 
 std::array<SortRuns::Ranges, 2> SortRuns::Halves() const {

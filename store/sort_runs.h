@@ -8,6 +8,7 @@
 
 #include "runtime/whole_io.h"
 #include "store/sort_layout.h"
+#include "store/sort_workers.h"
 
 namespace store {
 
@@ -27,9 +28,9 @@ class SortRuns {
   // The next so many entries of the file, which are written already, are a run.
   void Add(std::int64_t count);
 
-  // Writes all entries in their order as output records; equal ones in the order of the runs. Memory: in bytes, for the
-  // blocks of all runs.
-  void Merge(const runtime::Opened& output, std::size_t memory, bool two_workers) const;
+  // Writes all entries in their order as output records; equal ones by their numbers. Memory: in bytes, for the
+  // blocks of all runs; workers: nullptr for one.
+  void Merge(const runtime::Opened& output, std::size_t memory, SortWorkers* workers) const;
 
  private:
   using Ranges = std::vector<EntryRange>;

@@ -9,6 +9,7 @@
 // Positions count from 1. Words may be in capitals or not, and blanks may stand between all parts.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -17,10 +18,14 @@
 
 namespace store {
 
+// By character.
+using Weights = std::array<unsigned char, 256>;
+
 // Bytes of an input record, from 0.
 struct RecordSpan {
   std::size_t Offset = 0;
   std::size_t Width = 0;
+  bool operator==(const RecordSpan&) const = default;
 };
 
 struct SortField {
@@ -31,6 +36,7 @@ struct SortField {
 struct OutputPiece {
   enum class Kind { Bytes, RecordNumber, LineEnd } As = Kind::Bytes;
   RecordSpan Span = {};  // of Bytes
+  bool operator==(const OutputPiece&) const = default;
 };
 
 // The record is kept where what stands before the constant in this row of relations holds.

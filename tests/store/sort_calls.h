@@ -23,6 +23,11 @@ struct SortOutcome {
 
 SortOutcome SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement,
                    const SortLimits& limits = {});
+// One of several sorts of the same sorter.
+SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view statement);
+
+// Of the sort run's passes in the order of the reference's pairs.
+std::string StatementOfPass(std::size_t pass);
 
 // The weights as delivered.
 std::string DeliveredWeights();
@@ -51,8 +56,8 @@ class SharedDisk final : public safety::PassingDisk {
   std::mutex mutex_;
 };
 
-// The four passes with these limits make what the reference makes of the same master file; a googletest failure where
-// they do not.
+// The four passes with these limits make what the reference makes of the same master file, each for itself and one
+// after the other by one sorter; a googletest failure where they do not.
 void ExpectAsReference(const std::string& master, const SortLimits& limits);
 
 }  // namespace store

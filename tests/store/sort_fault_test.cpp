@@ -52,12 +52,17 @@ std::size_t CallsOf(const SortLimits& limits) {
 }
 
 // Nothing where the failure of a folder's sync stopped it.
-std::optional<SortOutcome> SortWith(safety::FaultyDisk& disk, const SortLimits& limits) {
+std::optional<SortOutcome> TrySort(Sorter& sorter) {
   try {
-    return SortOn(disk, "Titlepra.Dat", TitlesStatement, limits);
+    return SortWith(sorter, "Titlepra.Dat", TitlesStatement);
   } catch (const runtime::Failure&) {
     return std::nullopt;
   }
+}
+
+std::optional<SortOutcome> TrySortOn(safety::FaultyDisk& disk, const SortLimits& limits) {
+  Sorter sorter(disk, limits);
+  return TrySort(sorter);
 }
 
 void ExpectSortsAfterwards(safety::MemoryDisk& memory) {
@@ -77,7 +82,7 @@ TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
         SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
         safety::MemoryDisk memory(Before());
         safety::FaultyDisk disk(memory, {fault, at, from_then_on});
-        std::optional<SortOutcome> outcome = SortWith(disk, GetParam());
+        std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
         bool replaced = !outcome || outcome->Retcode == SortDone;
         ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
         if (outcome) {
@@ -94,7 +99,7 @@ TEST_P(EveryCallOfASort, LeavesNothingAsideAfterAFailureThatGoesBy) {
   for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
     safety::MemoryDisk memory(Before());
     safety::FaultyDisk disk(memory, {Fault::Full, at});
-    std::optional<SortOutcome> outcome = SortWith(disk, GetParam());
+    std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
     if (outcome && outcome->Retcode != SortDone) {
       EXPECT_EQ(Leftovers(memory), "") << "at call " << at;
     }
@@ -107,7 +112,7 @@ TEST_P(EveryCallOfASort, GoesOnAfterAnInterruptionOrAShortOne) {
       SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
       safety::MemoryDisk memory(Before());
       safety::FaultyDisk disk(memory, {fault, at, fault == Fault::Short});
-      std::optional<SortOutcome> outcome = SortWith(disk, GetParam());
+      std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
       ASSERT_TRUE(outcome);
       ASSERT_EQ(outcome->Retcode, SortDone);
       ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
@@ -122,7 +127,7 @@ TEST_P(EveryCallOfASort, IsKilledToTheOldOrTheNewOutput) {
       SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
       safety::MemoryDisk memory(Before());
       safety::FaultyDisk disk(memory, {fault, at});
-      ASSERT_THROW(SortWith(disk, GetParam()), safety::Killed);
+      ASSERT_THROW(TrySortOn(disk, GetParam()), safety::Killed);
       std::string keys = FileOn(memory, "Titlepra.Dat");
       ASSERT_TRUE(keys == OldKeys || keys == NewKeys());
       ExpectSortsAfterwards(memory);
@@ -145,11 +150,31 @@ TEST_P(EveryCallOfASort, LosesPowerToTheOldOrTheNewOutput) {
     ASSERT_EQ(folder.at("Titlepra.Dat"), NewKeys()) << "what the sort has reported must stay";
 }
 
+// What a sorter has learnt from the sort before does not outlive a failure that it could not see through.
+TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
+  const std::size_t calls = CallsOf(GetParam());
+  for (Fault fault : {Fault::Full, Fault::Error, Fault::ShortThenFull}) {
+    for (std::size_t at = calls; at < 2 * calls; ++at) {
+      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+      safety::MemoryDisk memory(Before());
+      safety::FaultyDisk disk(memory, {fault, at});
+      Sorter sorter(disk, GetParam());
+      ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
+      runtime::ReplaceFile(memory, "Titlepra.Dat", OldKeys);
+      std::optional<SortOutcome> outcome = TrySort(sorter);
+      bool replaced = !outcome || outcome->Retcode == SortDone;
+      ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
+      ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
+      ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
+    }
+  }
+}
+
 TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
   // Open and length of the input, open and read of the weights stand before all others.
   safety::MemoryDisk memory(Before());
   safety::FaultyDisk disk(memory, {Fault::Error, 0});
-  EXPECT_EQ(SortWith(disk, {})->Retcode, SortInputUnreadable);
+  EXPECT_EQ(TrySortOn(disk, {})->Retcode, SortInputUnreadable);
   class ReadlessInput final : public safety::PassingDisk {
    public:
     using PassingDisk::PassingDisk;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+
 #include "store/film_record.h"
 #include "tests/store/sort_calls.h"
 
@@ -90,7 +92,7 @@ class LongInput final : public safety::PassingDisk {
 
  private:
   std::int64_t more_records_;
-  int reads_ = 0;
+  std::atomic<int> reads_ = 0;  // of two threads
 };
 
 TEST(SortOperation, GivesStatus2ForMoreRecordsThanSevenDigitsNumber) {
