@@ -9,6 +9,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "bench/collection.h"
 #include "bench/film_generator.h"
 #include "bench/measured.h"
 #include "bench/quiet_desk.h"
@@ -120,12 +121,6 @@ int main(int argc, char** argv) {
   std::vector<std::int64_t> sizes;
   for (int index = 2; index < argc; ++index) sizes.push_back(std::atoll(argv[index]));
   if (sizes.empty()) sizes = {32767, 100000, 1000000};
-  const files::path folder = files::temp_directory_path() / "reelora_find_bench";
-  files::remove_all(folder);
-  files::create_directories(folder);
-  for (const auto& entry : files::directory_iterator(REELORA_DELIVERED)) {
-    if (entry.is_regular_file()) files::copy(entry.path(), folder);
-  }
-  for (std::int64_t films : sizes) Compare(source, folder, films);
-  files::remove_all(folder);
+  const bench::Collection collection("reelora_find_bench");
+  for (std::int64_t films : sizes) Compare(source, collection.Folder(), films);
 }

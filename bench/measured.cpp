@@ -7,6 +7,7 @@
 
 #include <array>
 #include <chrono>
+#include <ctime>
 #include <exception>
 #include <iostream>
 #include <numeric>
@@ -59,6 +60,12 @@ double Timed(const std::function<void()>& call) {
   auto begin = std::chrono::steady_clock::now();
   call();
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+double ProcessorSeconds(const std::function<void()>& call) {
+  std::clock_t begin = std::clock();
+  call();
+  return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
 Measured Best(int runs, const std::function<std::vector<double>()>& work) {

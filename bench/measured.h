@@ -16,6 +16,8 @@ struct Measured {
 
 // Seconds that the call takes.
 double Timed(const std::function<void()>& call);
+// The same of the processor.
+double ProcessorSeconds(const std::function<void()>& call);
 
 // Runs the work in a process of its own, so many times; the run that took the least. Work: returns the seconds of its
 // parts; the same number every time. Throws std::runtime_error where a run fails.

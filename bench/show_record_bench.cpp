@@ -6,6 +6,7 @@
 #include <fstream>
 #include <vector>
 
+#include "bench/collection.h"
 #include "bench/measured.h"
 #include "bench/quiet_desk.h"
 #include "opening/program.h"
@@ -47,14 +48,9 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "no films to show\n");
     return 1;
   }
-  std::filesystem::path folder = std::filesystem::temp_directory_path() / "reelora_show_record_bench";
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
-  for (const auto& entry : std::filesystem::directory_iterator(REELORA_DELIVERED)) {
-    if (entry.is_regular_file()) std::filesystem::copy(entry.path(), folder);
-  }
+  const bench::Collection collection("reelora_show_record_bench");
   bench::QuietDesk desk;
-  runtime::RealDisk disk(folder);
+  runtime::RealDisk disk(collection.Folder());
   Program program(desk, disk);
   program.StartRecordScreen();
   frmPage1& window = program.RecordScreen;
@@ -80,7 +76,6 @@ int main(int argc, char** argv) {
                         }
                       }));
   }
-  std::filesystem::remove_all(folder);
   std::printf("ShowRecord  %6.2f us a film\n", shown / Films * 1e6);
   std::printf("copying     %6.2f us a film (%zu bytes of titles)\n", copied / Films * 1e6, copied_bytes);
   std::printf("ratio       %6.2f (goal: at most 4)\n", shown / copied);

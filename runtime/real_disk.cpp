@@ -68,11 +68,9 @@ int RealDisk::Rename(const std::string& from, const std::string& to) {
 int RealDisk::Remove(const std::string& name) { return static_cast<int>(OrError(::unlink(PathOf(name).c_str()))); }
 
 int RealDisk::MakeFolder(const std::string& name) {
-  if (::mkdir(PathOf(name).c_str(), 0777) == 0) return 0;
-  int error = errno;
   struct stat status {};
-  bool there = error == EEXIST && ::stat(PathOf(name).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-  return there ? 0 : -error;
+  if (::stat(PathOf(name).c_str(), &status) == 0 && S_ISDIR(status.st_mode)) return 0;
+  return static_cast<int>(OrError(::mkdir(PathOf(name).c_str(), 0777)));
 }
 
 int RealDisk::SyncFolder(const std::string& name) {

@@ -6,11 +6,12 @@
 #include <QPdfWriter>
 #include <chrono>
 #include <cstdio>
-#include <ctime>
 #include <filesystem>
 #include <optional>
 
+#include "bench/collection.h"
 #include "bench/film_generator.h"
+#include "bench/measured.h"
 #include "bench/quiet_desk.h"
 #include "bench/unsynced_disk.h"
 #include "desktop/page_painter.h"
@@ -22,12 +23,6 @@ namespace {
 
 constexpr int Films = 32766;
 constexpr std::chrono::milliseconds DisplayFrame(16);
-
-double ProcessorSeconds(const std::function<void()>& call) {
-  std::clock_t start = std::clock();
-  call();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 // The bytes of a job's text, and the memory that the job holds for it.
 struct JobBytes {
@@ -74,7 +69,7 @@ struct Reports {
     Running.StartRecordScreen();
   }
   double Run(const forms::MenuItem& item) {
-    return ProcessorSeconds([&] { Running.Deliver([&] { item.Click(); }); });
+    return bench::ProcessorSeconds([&] { Running.Deliver([&] { item.Click(); }); });
   }
 };
 
@@ -93,7 +88,7 @@ void MeasureReport(const std::filesystem::path& folder, const char* name,
     QBuffer pdf;
     pdf.open(QIODevice::WriteOnly);
     QPdfWriter writer(&pdf);
-    double painted = ProcessorSeconds([&] { desktop::PaintPages(job, writer); });
+    double painted = bench::ProcessorSeconds([&] { desktop::PaintPages(job, writer); });
     std::printf("%-9s PDF of %4.1f MB %5.1f us a film (goal for the full list: 150)\n", name,
                 static_cast<double>(pdf.size()) / 1e6, painted / Films * 1e6);
   }
@@ -112,11 +107,8 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  std::filesystem::path folder = std::filesystem::temp_directory_path() / "reelora_report_bench";
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
-  for (const auto& entry : std::filesystem::directory_iterator(REELORA_DELIVERED))
-    if (entry.is_regular_file()) std::filesystem::copy(entry.path(), folder);
+  const bench::Collection collection("reelora_report_bench");
+  const std::filesystem::path& folder = collection.Folder();
   bench::GenerateFilms(argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat", folder / "Recpra.Dat", Films);
   {
     Reports sorting(folder);
@@ -124,5 +116,4 @@ int main(int argc, char** argv) {
   }
   MeasureReport(folder, "full", &screen::Page1Controls::mnuAll);
   MeasureReport(folder, "abridged", &screen::Page1Controls::mnuShort);
-  std::filesystem::remove_all(folder);
 }

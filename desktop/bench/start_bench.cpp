@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "bench/collection.h"
 #include "bench/film_generator.h"
 #include "bench/measured.h"
 #include "desktop/application_look.h"
@@ -106,12 +107,6 @@ int main(int argc, char** argv) {
     int status = first == "--plain" ? StartPlain(argc, argv) : StartProgram(argc, argv, argv[2]);
     return status;
   }
-  const std::filesystem::path folder = std::filesystem::temp_directory_path() / "reelora_start_bench";
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
-  for (const auto& entry : std::filesystem::directory_iterator(REELORA_DELIVERED)) {
-    if (entry.is_regular_file()) std::filesystem::copy(entry.path(), folder);
-  }
-  Compare(first, folder);
-  std::filesystem::remove_all(folder);
+  const bench::Collection collection("reelora_start_bench");
+  Compare(first, collection.Folder());
 }
