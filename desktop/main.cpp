@@ -4,7 +4,7 @@
 #include <QMessageBox>
 
 #include "desktop/application_look.h"
-#include "desktop/folder_lock.h"
+#include "runtime/folder_lock.h"
 #include "desktop/qt_desk.h"
 #include "desktop/screen_view.h"
 #include "opening/program.h"
@@ -13,7 +13,7 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   desktop::SetUpLook();
-  desktop::FolderLock lock(".");
+  runtime::FolderLock lock(".");
   if (!lock.Held()) {
     QMessageBox(QMessageBox::NoIcon, "Reelora Prima", "This collection is open already.", QMessageBox::Ok).exec();
     return 1;

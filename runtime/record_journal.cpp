@@ -34,7 +34,7 @@ struct Block {
 constexpr std::int64_t WidestGap = std::int64_t{1} << 30;
 
 std::string JournalName() { return InSafetyFolder("journal"); }
-std::string HistoryName() { return InSafetyFolder("history"); }
+std::string HistoryName() { return InSafetyFolder(HistoryFile); }
 
 bool IsFilm(std::string_view record) {
   return record.substr(0, HistoryKeyWidth).find_first_not_of(' ') != std::string_view::npos;

@@ -16,6 +16,8 @@ namespace runtime {
 
 // A slot whose first bytes are blank to this width holds no film: its old image is not kept.
 inline constexpr int HistoryKeyWidth = 40;
+// Its file in the safety folder.
+inline constexpr std::string_view HistoryFile = "history";
 // "2026-11-21 05:30:00 0000007 " before the record.
 inline constexpr int HistoryHeadLength = 28;
 

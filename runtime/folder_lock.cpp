@@ -1,5 +1,5 @@
 // An advisory lock on the open file, so that it goes with the process, however that ends.
-#include "desktop/folder_lock.h"
+#include "runtime/folder_lock.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -8,7 +8,7 @@
 
 #include <cerrno>
 
-namespace desktop {
+namespace runtime {
 
 FolderLock::FolderLock(const std::string& folder) {
   std::string own = folder + "/.reelora";
@@ -21,4 +21,4 @@ FolderLock::~FolderLock() {
   if (file_ >= 0) close(file_);
 }
 
-}  // namespace desktop
+}  // namespace runtime

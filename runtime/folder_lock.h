@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace desktop {
+namespace runtime {
 
 class FolderLock {
  public:
@@ -21,4 +21,4 @@ class FolderLock {
   bool held_ = true;
 };
 
-}  // namespace desktop
+}  // namespace runtime

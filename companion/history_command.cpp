@@ -1,0 +1,102 @@
+// A list of the entries, or one film back into its slot; the latter only while the program does not run on the folder.
+#include "companion/history_command.h"
+
+#include <charconv>
+#include <iomanip>
+#include <optional>
+
+#include "runtime/code_page.h"
+#include "runtime/folder_lock.h"
+#include "runtime/text.h"
+#include "store/history.h"
+#include "store/master_file.h"
+
+namespace companion {
+namespace {
+
+constexpr std::string_view Usage =
+    "usage: reelora-history [FOLDER]              lists the films that were overwritten\n"
+    "       reelora-history [FOLDER] undo NUMBER  puts one of them back\n";
+
+struct Request {
+  std::string Folder = ".";
+  std::optional<std::int64_t> Undo;  // the number of an entry
+};
+
+std::optional<Request> Understood(std::vector<std::string> arguments) {
+  Request request;
+  if (arguments.size() >= 2 && arguments[arguments.size() - 2] == "undo") {
+    const std::string& text = arguments.back();
+    std::int64_t number = 0;
+    auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    request.Undo = number;
+    arguments.resize(arguments.size() - 2);
+  }
+  if (arguments.size() > 1 || (arguments.size() == 1 && arguments[0].starts_with("-"))) return std::nullopt;
+  if (arguments.size() == 1) request.Folder = arguments[0];
+  return request;
+}
+
+std::string TitleOf(const store::FilmRecord& film) {
+  std::string_view title = runtime::Trim(film.Get(store::FilmField::Title));
+  return title.empty() ? "nothing" : runtime::ToUtf8(title);
+}
+
+store::FilmRecord Present(const runtime::Opened& master, std::int64_t slot) {
+  store::FilmRecord film;
+  master.Read(film.Bytes.data(), film.Bytes.size(), (slot - 1) * store::RecordLength);
+  return film;
+}
+
+void List(const std::vector<store::KeptFilm>& films, const runtime::Opened& master, std::ostream& out) {
+  if (films.empty()) {
+    out << "No film has been overwritten.\n";
+    return;
+  }
+  out << "   No.  overwritten          record  film, and what stands there now\n";
+  for (const store::KeptFilm& kept : films) {
+    store::FilmRecord present = Present(master, kept.Slot);
+    out << std::setw(6) << kept.Number << "  " << kept.When << std::setw(8) << kept.Slot << "  " << TitleOf(kept.Film)
+        << (present.Bytes == kept.Film.Bytes ? " - this film" : " - " + TitleOf(present)) << "\n";
+  }
+}
+
+int Undo(runtime::Disk& disk, std::int64_t number, std::ostream& out, std::ostream& complaints) {
+  for (const store::KeptFilm& kept : store::ReadHistory(disk)) {
+    if (kept.Number != number) continue;
+    runtime::Files files(disk);
+    store::PutBack(files, kept);
+    out << "Record " << kept.Slot << " holds " << TitleOf(kept.Film)
+        << " again. Sort in the program, so that views and lists show it.\n";
+    return 0;
+  }
+  complaints << "There is no entry " << number << ".\n";
+  return 1;
+}
+
+}  // namespace
+
+int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& complaints) {
+  std::optional<Request> request = Understood(arguments);
+  if (!request) {
+    complaints << Usage;
+    return 2;
+  }
+  try {
+    runtime::RealDisk disk(request->Folder);
+    runtime::Opened master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
+    if (!request->Undo) {
+      List(store::ReadHistory(disk), master, out);
+      return 0;
+    }
+    runtime::FolderLock lock(request->Folder);
+    if (lock.Held()) return Undo(disk, *request->Undo, out, complaints);
+    complaints << "This collection is open already.\n";
+  } catch (const runtime::Failure& failure) {
+    complaints << failure.Name << ": " << request->Folder << "/" << failure.File << "\n";
+  }
+  return 1;
+}
+
+}  // namespace companion

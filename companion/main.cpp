@@ -1,0 +1,6 @@
+// The command as a process.
+#include <iostream>
+
+#include "companion/history_command.h"
+
+int main(int argc, char** argv) { return companion::RunHistoryCommand({argv + 1, argv + argc}, std::cout, std::cerr); }

@@ -1,0 +1,140 @@
+// What the companion command shows of the history and puts back, on a real folder.
+#include "companion/history_command.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "runtime/files.h"
+#include "runtime/folder_lock.h"
+#include "store/master_file.h"
+#include "tests/story/fresh_folder.h"
+#include "tests/story/world.h"
+
+namespace companion {
+namespace {
+
+store::FilmRecord Film(std::string_view title) {
+  store::FilmRecord film;
+  film.Set(store::FilmField::Title, title);
+  film.Set(store::FilmField::Tail, "\r\n");
+  return film;
+}
+
+class HistoryCommand : public testing::Test {
+ protected:
+  HistoryCommand() {
+    Put(1, Film("Alien"));
+    Put(2, Film("Solaris"));
+  }
+
+  void Put(std::int64_t slot, const store::FilmRecord& film) {
+    runtime::Files files(Disk);
+    store::OpenMaster(files, 1);
+    store::WriteRecord(files, 1, slot, film);
+  }
+  std::string Master() { return story::ReadBytes(Folder.Path() / "Recpra.Dat").value_or(""); }
+  std::string HistoryPath() { return Folder.Path() / ".reelora/history"; }
+  int Run(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), Folder.Path().string());
+    return RunBare(arguments);
+  }
+  int RunBare(const std::vector<std::string>& arguments) {
+    Out.str("");
+    Complaints.str("");
+    return RunHistoryCommand(arguments, Out, Complaints);
+  }
+  // The lines below the heading, without their times.
+  std::vector<std::string> Listed() {
+    EXPECT_EQ(Run({}), 0);
+    std::vector<std::string> lines;
+    std::istringstream text(Out.str());
+    std::string line;
+    std::getline(text, line);
+    while (std::getline(text, line)) lines.push_back(line.erase(8, 19));
+    return lines;
+  }
+
+  story::FreshFolder Folder;
+  runtime::RealDisk Disk{Folder.Path().string()};
+  std::ostringstream Out, Complaints;
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(HistoryCommand, ListsWhatWasOverwrittenAndWhatStandsThereNow) {
+  EXPECT_EQ(Run({}), 0);
+  EXPECT_EQ(Out.str(), "No film has been overwritten.\n");
+  Put(2, Film("Brazil"));
+  Put(1, Film(""));
+  Put(1, Film("Am\xE9lie"));
+  Put(2, Film("Solaris"));
+  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - this film", "     2         1  Alien - Amélie",
+                             "     3         2  Brazil - Solaris"}));
+}
+
+TEST_F(HistoryCommand, PutsAFilmBackIntoItsSlotAndNothingElse) {
+  std::string before = Master();
+  Put(2, Film("Brazil"));
+  EXPECT_EQ(Run({"undo", "1"}), 0);
+  EXPECT_EQ(Out.str(), "Record 2 holds Solaris again. Sort in the program, so that views and lists show it.\n");
+  EXPECT_EQ(Master(), before);
+}
+
+TEST_F(HistoryCommand, CanUndoItsOwnDoing) {
+  Put(2, Film("Brazil"));
+  std::string before = Master();
+  ASSERT_EQ(Run({"undo", "1"}), 0);
+  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - this film", "     2         2  Brazil - Solaris"}));
+  EXPECT_EQ(Run({"undo", "2"}), 0);
+  EXPECT_EQ(Master(), before);
+}
+
+TEST_F(HistoryCommand, PutsADeletedFilmBack) {
+  std::string before = Master();
+  Put(1, Film(""));
+  EXPECT_EQ(Listed(), Lines{"     1         1  Alien - nothing"});
+  EXPECT_EQ(Run({"undo", "1"}), 0);
+  EXPECT_EQ(Master(), before);
+}
+
+TEST_F(HistoryCommand, DoesNothingWhileTheProgramRunsOnTheFolder) {
+  Put(2, Film("Brazil"));
+  std::string before = Master();
+  runtime::FolderLock lock(Folder.Path().string());
+  EXPECT_EQ(Run({"undo", "1"}), 1);
+  EXPECT_EQ(Complaints.str(), "This collection is open already.\n");
+  EXPECT_EQ(Master(), before);
+  EXPECT_EQ(Run({}), 0);
+}
+
+TEST_F(HistoryCommand, NamesAnEntryAFolderAndASlotThatAreNotThere) {
+  Put(2, Film("Brazil"));
+  EXPECT_EQ(Run({"undo", "2"}), 1);
+  EXPECT_EQ(Complaints.str(), "There is no entry 2.\n");
+  EXPECT_EQ(RunBare({"/nowhere", "undo", "1"}), 1);
+  EXPECT_EQ(Complaints.str(), "File not found: /nowhere/Recpra.Dat\n");
+  std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", 2 * store::RecordLength - 1);
+  EXPECT_EQ(Run({"undo", "1"}), 1);
+  EXPECT_EQ(Complaints.str(), "Bad record number: " + Folder.Path().string() + "/Recpra.Dat\n");
+}
+
+TEST_F(HistoryCommand, PassesOverAnEntryThatWasNeverFinished) {
+  Put(2, Film("Brazil"));
+  std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << std::string(677, '\0');
+  Put(2, Film("Ran"));
+  std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << "2026-11-21 05:30:00 00000";
+  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     3         2  Brazil - Ran"}));
+}
+
+TEST_F(HistoryCommand, RefusesArgumentsThatItDoesNotKnow) {
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"undo", "one"}, {"undo", "1x"}, {"a", "b"}, {"--help"}, {"a", "b", "undo", "1"}}) {
+    EXPECT_EQ(RunBare(arguments), 2);
+    EXPECT_TRUE(Complaints.str().starts_with("usage: reelora-history"));
+  }
+}
+
+}  // namespace
+}  // namespace companion

@@ -1,0 +1,32 @@
+// Two runs on one folder.
+#include "runtime/folder_lock.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/story/fresh_folder.h"
+
+namespace runtime {
+namespace {
+
+TEST(FolderLock, HoldsTheFolderAgainstASecondRunUntilItGoes) {
+  story::FreshFolder folder;
+  {
+    FolderLock first(folder.Path().string());
+    EXPECT_TRUE(first.Held());
+    EXPECT_FALSE(FolderLock(folder.Path().string()).Held());
+  }
+  EXPECT_TRUE(FolderLock(folder.Path().string()).Held());
+}
+
+TEST(FolderLock, LiesInTheFoldersOwnSubfolder) {
+  story::FreshFolder folder;
+  FolderLock lock(folder.Path().string());
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / ".reelora/lock"));
+}
+
+TEST(FolderLock, DoesNotStandInTheWayWhereNoneCanBeMade) { EXPECT_TRUE(FolderLock("/nowhere/at/all").Held()); }
+
+}  // namespace
+}  // namespace runtime
