@@ -80,6 +80,8 @@ bool Search::AskText() {
 void Search::Scan() {
   window_.MatchKind = search_.Kind;
   const std::int64_t last = window_.RecordCount;
+  // The stars report may have left the kept text in small letters.
+  if (LooksAtStars() && window_.CurrentRecNo <= last) window_.StarQuery = runtime::Upper(window_.StarQuery);
   const FilmFilter filter = MakeFilter();
   bool passed = false;
   for (window_.ScanRecNo = window_.CurrentRecNo; window_.ScanRecNo <= last + 1; window_.ScanRecNo += 1) {

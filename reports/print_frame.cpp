@@ -6,6 +6,7 @@
 
 #include "browse/key_walk.h"
 #include "runtime/clock.h"
+#include "runtime/text.h"
 
 namespace reports {
 namespace {
@@ -51,7 +52,7 @@ double PrintFrame::Keys() const { return static_cast<double>(Page.Files.Length(K
 void PrintFrame::TakeKey() {
   Page.KeyLengthWord = browse::KeyLength;
   Page.TakeScanRecNo();
-  Page.KeyRecNoText = std::string_view(Page.KeyRecord).substr(browse::KeyTitleWidth);
+  Page.KeyRecNoText = runtime::Fixed(Page.KeyRecord, browse::KeyLength).substr(browse::KeyTitleWidth);
   Page.KeyFilePos += 1;
 }
 

@@ -69,7 +69,6 @@ void frmPage1::MakePasses() {
   std::int32_t Numrec = 0;
   std::int32_t Retcode = 0;
   store::Sorter sorter(Files.Disk());
-  lblSorting.Show();
   for (const screen::SortPass& pass : Passes) MakePass(pass, sorter, Numrec, Retcode);
   lblNumrec.SetCaption(runtime::S(Numrec));
   Desk.Beep();
@@ -82,6 +81,7 @@ void frmPage1::MakePasses() {
 void frmPage1::MakePass(const screen::SortPass& pass, store::Sorter& sorter, std::int32_t& Numrec,
                         std::int32_t& Retcode) {
   OpenKeyFile(pass.KeyFile);
+  lblSorting.Show();
   lblSorting.SetCaption("\n\r" + std::string(pass.Doing));
   Desk.RepaintNow();
   SortIncludeValue = pass.IncludeValue;

@@ -1,0 +1,11 @@
+# A view without keys has left a position behind the first and nothing read: the list goes on from there and stops at record 0.
+film 1 Title="Solaris" Format="D"
+count Titlepra 1
+start
+click mnuByTitle
+see state KeyFilePos 1
+click cmdNext
+see state KeyFilePos 2
+click mnuShort
+box question ANY ANY Yes
+stop "Bad record number"
