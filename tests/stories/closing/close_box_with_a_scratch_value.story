@@ -1,8 +1,9 @@
-# After a key with "49" in it EditMode holds a position: the close box asks nothing and saves nothing, and the window goes.
-films 1 49 Title="Film ##" Format="D"
+# After a key with "49" in its number EditMode holds a position: the close box asks nothing and saves nothing, and the
+# window goes.
+film 49 Title="Solaris" Format="D"
 sorted
 start
 click mnuByTitle
-see state EditMode 0
+see state EditMode 46
 close
 end

@@ -1,0 +1,8 @@
+# Until it comes up the record screen has the caption of its form and nothing in it.
+start opener
+see frmPage1 "Form1"
+see frmPage1.Visible no
+see lblHead ""
+see state ViewState 0
+click cmdStart
+see state ViewState 1
