@@ -1,10 +1,21 @@
 // The story runner: plays stories on the bare forms, and with --desktop on the drawn widgets, without a display.
 #include <QApplication>
+#include <iostream>
 #include <memory>
 
 #include "desktop/application_look.h"
 #include "tests/desktop/widget_player.h"
 #include "tests/story/story_main.h"
+
+namespace {
+
+// Without a display the toolkit says at every turn that it cannot raise a window.
+void SayWhatMatters(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (!text.startsWith("This plugin does not support"))
+    std::cerr << qFormatLogMessage(type, context, text).toStdString() << "\n";
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   int qt_argc = 1;
@@ -13,6 +24,7 @@ int main(int argc, char** argv) {
   auto make_widget_player = [&](Program& program) -> std::unique_ptr<story::Player> {
     if (!application) {
       if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+      qInstallMessageHandler(SayWhatMatters);
       application = std::make_unique<QApplication>(qt_argc, argv);
       desktop::SetUpLook();
     }
