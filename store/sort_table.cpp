@@ -14,7 +14,8 @@ SortTable::SortTable(const SortLayout& layout, std::int64_t records, std::int64_
       records_(records),
       holds_all_(room >= records),
       workers_(workers),
-      blocks_(std::make_unique_for_overwrite<char[]>((workers ? 2 : 1) * BlockBytes)),
+      block_length_(std::max(BlockBytes, layout.EntryLength())),
+      blocks_(std::make_unique_for_overwrite<char[]>((workers ? 2 : 1) * block_length_)),
       entries_(std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(room) * layout.EntryLength())),
       included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),
       items_(std::make_unique_for_overwrite<SortItem[]>(static_cast<std::size_t>(room))),
@@ -26,7 +27,7 @@ SortTable::SortTable(const SortLayout& layout, std::int64_t records, std::int64_
 }
 
 std::span<char> SortTable::Block(int worker) {
-  return {blocks_.get() + (workers_ ? static_cast<std::size_t>(worker) : 0) * BlockBytes, BlockBytes};
+  return {blocks_.get() + (workers_ ? static_cast<std::size_t>(worker) : 0) * block_length_, block_length_};
 }
 
 std::span<SortItem> SortTable::Loaded(int worker) {

@@ -72,6 +72,7 @@ class SortTable {
   bool holds_all_;
   SortWorkers* workers_;
   std::array<Part, 2> parts_;
+  std::size_t block_length_;
   std::unique_ptr<char[]> blocks_, entries_;
   std::unique_ptr<unsigned char[]> included_;  // 1 or 0 for each entry
   std::unique_ptr<SortItem[]> items_, scratch_;

@@ -154,6 +154,26 @@ TEST(SortOperation, ComparesAConstantAsIfPaddedWithBlanks) {
   EXPECT_EQ(FileOn(disk, "out"), "Ran  0000001Rango0000002");
 }
 
+// Longer than the blocks in which files are read and written.
+TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
+  std::string records;
+  for (char letter : {'b', 'a'}) records += std::string(LongestRecord, letter);
+  std::string pieces;
+  std::string expected;
+  for (char letter : {'a', 'b'}) expected += std::string(12 * LongestRecord, letter);
+  for (int piece = 0; piece < 12; ++piece) pieces += piece == 0 ? "1,32767" : ",1,32767";
+  for (std::int64_t two_workers_from : {1, 100}) {
+    for (std::size_t memory : {std::size_t{1}, std::size_t{64} << 20}) {
+      safety::MemoryDisk memory_disk(FolderWith(records));
+      SharedDisk disk(memory_disk);
+      SortOutcome outcome =
+          SortOn(disk, "out", "S(1,1,C,A) OUTREC(" + pieces + ") Record(32767)", {memory, two_workers_from});
+      EXPECT_EQ(outcome.Numrec, 2);
+      EXPECT_TRUE(FileOn(memory_disk, "out") == expected);
+    }
+  }
+}
+
 TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
   safety::Folder folder = OldFolder();
   folder[".reelora/Titlepra.Dat.new"] = std::string(5000, '?');
