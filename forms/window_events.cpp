@@ -11,6 +11,11 @@ bool Reachable(const Window& window, const Control& control) {
   return window.Visible() && control.Visible() && control.Enabled();
 }
 
+// What goes down and up with the mouse, twice on a double click.
+bool IsPressed(const Control& control) {
+  return control.Kind == Kind::Button || control.Kind == Kind::OptionButton || control.Kind == Kind::CheckBox;
+}
+
 void PressControl(Control& control) {
   if (control.Kind == Kind::OptionButton) {
     static_cast<OptionButton&>(control).SelectAndClick();
@@ -26,6 +31,10 @@ void PressControl(Control& control) {
 }  // namespace
 
 void Window::UserClick(Control& control) {
+  if (control.Kind == Kind::ListBox) {
+    auto& list = static_cast<ListBox&>(control);
+    if (list.ListIndex() >= 0) return UserPick(list, list.ListIndex());
+  }
   if (!Reachable(*this, control) || !FocusByUser(control)) return;
   PressControl(control);
   Run(control.MouseUp);
@@ -33,7 +42,11 @@ void Window::UserClick(Control& control) {
 
 void Window::UserDblClick(Control& control) {
   UserClick(control);
-  if (Reachable(*this, control)) Run(control.DblClick);
+  if (IsPressed(control)) {
+    UserClick(control);
+  } else if (Reachable(*this, control)) {
+    Run(control.DblClick);
+  }
 }
 
 void Window::UserMove(Control* control) {

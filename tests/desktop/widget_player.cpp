@@ -39,6 +39,16 @@ void ClickAt(QWidget& widget, const QPoint& position) {
   SendMouse(widget, QEvent::MouseButtonRelease, Qt::LeftButton, position);
 }
 
+// The middle of a control, of the selected item of a list.
+QPoint SpotOn(const forms::Control& control, QWidget& face) {
+  if (control.Kind != forms::Kind::ListBox || static_cast<const forms::ListBox&>(control).ListIndex() < 0)
+    return face.rect().center();
+  auto& widget = dynamic_cast<QListWidget&>(*face.parentWidget());
+  QListWidgetItem* row = widget.item(static_cast<const forms::ListBox&>(control).ListIndex());
+  widget.scrollToItem(row);
+  return widget.visualItemRect(row).center();
+}
+
 bool InTextBox(const forms::Window& window) { return window.Focus() && window.Focus()->Kind == forms::Kind::TextBox; }
 
 }  // namespace
@@ -58,17 +68,18 @@ void WidgetPlayer::Click(const std::string& name) {
   if (control.Kind == forms::Kind::MenuItem) {
     ChooseFromMenu(static_cast<forms::MenuItem&>(control));
   } else if (QWidget* face = FaceOf(control)) {
-    ClickAt(*face, face->rect().center());
+    ClickAt(*face, SpotOn(control, *face));
   }
   Settle();
 }
 
 void WidgetPlayer::DblClick(const std::string& name) {
-  if (QWidget* face = FaceOf(ControlNamed(program_.Screen, name))) {
-    QPoint centre = face->rect().center();
-    ClickAt(*face, centre);
-    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonDblClick, Qt::LeftButton, centre);
-    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonRelease, Qt::LeftButton, centre);
+  forms::Control& control = ControlNamed(program_.Screen, name);
+  if (QWidget* face = FaceOf(control)) {
+    QPoint spot = SpotOn(control, *face);
+    ClickAt(*face, spot);
+    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonDblClick, Qt::LeftButton, spot);
+    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonRelease, Qt::LeftButton, spot);
   }
   Settle();
 }
