@@ -109,8 +109,8 @@ bool UserInput::MousePressed(ControlView* view, QMouseEvent& mouse) {
 
 void UserInput::PickAt(ControlView& view, const QPoint& position) {
   auto* list = dynamic_cast<ListView*>(&view);
-  if (!list || !list->indexAt(position).isValid()) return;
-  int row = list->indexAt(position).row();
+  if (!list) return;
+  int row = list->indexAt(position).row();  // -1 beside the items
   Deliver(view, [&] { Window().UserPick(list->List(), row); });
 }
 
@@ -142,12 +142,12 @@ bool UserInput::MouseMoved(ControlView* view, QMouseEvent& mouse) {
   return true;
 }
 
-// The first of the two clicks has been delivered when this comes. On a button the second is a click like the first.
+// The first of the two clicks has been delivered when this comes. On a button the second is a click like the first; on
+// a list it is no second press.
 bool UserInput::MouseDoubled(ControlView* view, QMouseEvent& mouse) {
   if (!view || mouse.button() != Qt::LeftButton) return false;
   if (dynamic_cast<QAbstractButton*>(&view->Widget())) return MousePressed(view, mouse);
   if (AsField(view)) LetEdit(*AsField(view), mouse);
-  PickAt(*view, mouse.position().toPoint());
   forms::Control& control = view->Control();
   Deliver(*view, [&] {
     if (control.Visible() && control.Enabled()) forms::Run(control.DblClick);

@@ -47,13 +47,12 @@ class Window {
   Screen& Owner() const { return *screen_; }
 
   // The user's doings. Where a control is hidden or disabled, or the window is not visible, nothing happens.
-  // On a list, a press on the selected item, where there is one.
   void UserClick(Control& control);
   // A second click on a button, an option or a check box; DblClick elsewhere.
   void UserDblClick(Control& control);
   // The pointer is over the control; nullptr: over the bare window.
   void UserMove(Control* control);
-  // A press on the item at that position of the list, from 0.
+  // A press on the item at that position of the list, from 0; below 0 beside them, which only takes the focus.
   void UserPick(ListBox& list, int index);
   void UserKey(Key key);
   // The menu that opens, where no control has the letter; nullptr for none.

@@ -31,10 +31,6 @@ void PressControl(Control& control) {
 }  // namespace
 
 void Window::UserClick(Control& control) {
-  if (control.Kind == Kind::ListBox) {
-    auto& list = static_cast<ListBox&>(control);
-    if (list.ListIndex() >= 0) return UserPick(list, list.ListIndex());
-  }
   if (!Reachable(*this, control) || !FocusByUser(control)) return;
   PressControl(control);
   Run(control.MouseUp);
@@ -55,7 +51,7 @@ void Window::UserMove(Control* control) {
 }
 
 void Window::UserPick(ListBox& list, int index) {
-  if (!Reachable(*this, list) || !FocusByUser(list)) return;
+  if (!Reachable(*this, list) || !FocusByUser(list) || index < 0) return;
   list.Select(index);
   Run(list.MouseDown);
 }

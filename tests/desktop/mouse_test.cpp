@@ -105,6 +105,32 @@ TEST_F(MouseOn, APressPicksTheItemBeneathIt) {
   EXPECT_FALSE(list.isVisible());
 }
 
+TEST_F(MouseOn, ADoubleClickOnAnItemPicksItOnce) {
+  std::string seen;
+  Form.List.MouseDown = [&] { seen += "down "; };
+  Form.List.DblClick = [&] { seen += "double"; };
+  Form.List.Show();
+  View.Sync();
+  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+  QPoint item = list.visualItemRect(list.item(1)).center();
+  ClickAt(*list.viewport(), item);
+  Mouse(*list.viewport(), QEvent::MouseButtonDblClick, item);
+  EXPECT_EQ(seen, "down double");
+}
+
+TEST_F(MouseOn, APressBesideTheItemsOnlyTakesTheFocus) {
+  std::string seen;
+  Form.List.Click = [&] { seen += "click "; };
+  Form.List.MouseDown = [&] { seen += "down "; };
+  Form.List.Empty();
+  Form.List.Show();
+  View.Sync();
+  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+  Click(*list.viewport());
+  EXPECT_EQ(seen, "");
+  EXPECT_TRUE(Form.List.HoldsFocus());
+}
+
 TEST_F(MouseOn, AnOptionShowsWhatTheFormSays) {
   Form.Two.Click = [&] { Form.One.Select(); };
   Click(WidgetOf(Form.Two));

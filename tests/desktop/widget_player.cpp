@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMouseEvent>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/help_viewer.h"
@@ -39,14 +40,10 @@ void ClickAt(QWidget& widget, const QPoint& position) {
   SendMouse(widget, QEvent::MouseButtonRelease, Qt::LeftButton, position);
 }
 
-// The middle of a control, of the selected item of a list.
-QPoint SpotOn(const forms::Control& control, QWidget& face) {
-  if (control.Kind != forms::Kind::ListBox || static_cast<const forms::ListBox&>(control).ListIndex() < 0)
-    return face.rect().center();
+QPoint SpotOnItem(QWidget& face, int index) {
   auto& widget = dynamic_cast<QListWidget&>(*face.parentWidget());
-  QListWidgetItem* row = widget.item(static_cast<const forms::ListBox&>(control).ListIndex());
-  widget.scrollToItem(row);
-  return widget.visualItemRect(row).center();
+  widget.scrollToItem(widget.item(index));
+  return widget.visualItemRect(widget.item(index)).center();
 }
 
 bool InTextBox(const forms::Window& window) { return window.Focus() && window.Focus()->Kind == forms::Kind::TextBox; }
@@ -65,23 +62,35 @@ QWidget* WidgetPlayer::FaceOf(const forms::Control& control) const {
 
 void WidgetPlayer::Click(const std::string& name) {
   forms::Control& control = ControlNamed(program_.Screen, name);
+  QWidget* face = FaceOf(control);
   if (control.Kind == forms::Kind::MenuItem) {
     ChooseFromMenu(static_cast<forms::MenuItem&>(control));
-  } else if (QWidget* face = FaceOf(control)) {
-    ClickAt(*face, SpotOn(control, *face));
+  } else if (face && control.Kind == forms::Kind::ListBox) {
+    ClickList(control, &forms::Window::UserClick);
+  } else if (face) {
+    ClickAt(*face, face->rect().center());
   }
   Settle();
 }
 
 void WidgetPlayer::DblClick(const std::string& name) {
   forms::Control& control = ControlNamed(program_.Screen, name);
-  if (QWidget* face = FaceOf(control)) {
-    QPoint spot = SpotOn(control, *face);
-    ClickAt(*face, spot);
-    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonDblClick, Qt::LeftButton, spot);
-    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonRelease, Qt::LeftButton, spot);
+  QWidget* face = FaceOf(control);
+  if (control.Kind == forms::Kind::MenuItem) {
+    ChooseFromMenu(static_cast<forms::MenuItem&>(control));
+  } else if (face && control.Kind == forms::Kind::ListBox) {
+    ClickList(control, &forms::Window::UserDblClick);
+  } else if (face) {
+    QPoint centre = face->rect().center();
+    ClickAt(*face, centre);
+    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonDblClick, Qt::LeftButton, centre);
+    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonRelease, Qt::LeftButton, centre);
   }
   Settle();
+}
+
+void WidgetPlayer::ClickList(forms::Control& list, void (forms::Window::*click)(forms::Control&)) {
+  program_.Deliver([&] { (list.Owner().*click)(list); });
 }
 
 void WidgetPlayer::Move(const std::string& name) {
@@ -99,10 +108,7 @@ void WidgetPlayer::Pick(const std::string& list, const std::string& item) {
   forms::ListBox& box = ListNamed(program_.Screen, list);
   QWidget* face = FaceOf(box);
   if (!face || !box.Enabled() || program_.Ended()) return;
-  auto& widget = dynamic_cast<QListWidget&>(*face->parentWidget());
-  QListWidgetItem* row = widget.item(ItemNamed(box, item));
-  widget.scrollToItem(row);
-  ClickAt(*face, widget.visualItemRect(row).center());
+  ClickAt(*face, SpotOnItem(*face, ItemNamed(box, item)));
   Settle();
 }
 

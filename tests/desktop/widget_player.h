@@ -30,6 +30,8 @@ class WidgetPlayer final : public Player {
  private:
   // The widget of a control that can be met with the mouse; nullptr where it cannot.
   QWidget* FaceOf(const forms::Control& control) const;
+  // Each spot of a list that is full is an item; a click on none of them is handed to the form.
+  void ClickList(forms::Control& list, void (forms::Window::*click)(forms::Control&));
   void ChooseFromMenu(const forms::MenuItem& item);
   void Press(int key, Qt::KeyboardModifiers modifiers, const QString& characters);
   void PressCharacter(char character);

@@ -77,6 +77,21 @@ TEST_F(UserEventsTest, ADoubleClickIsAClickAndThenADoubleClick) {
   EXPECT_EQ(Taken(), (Events{"List.Click", "List.MouseUp", "List.DblClick"}));
 }
 
+TEST_F(UserEventsTest, ADoubleClickOnAButtonIsTwoClicks) {
+  ShowWithFocus(Window.First);
+  Window.UserDblClick(Window.Push);
+  EXPECT_EQ(Taken(),
+            (Events{"First.LostFocus", "Push.GotFocus", "Push.Click", "Push.MouseUp", "Push.Click", "Push.MouseUp"}));
+}
+
+TEST_F(UserEventsTest, APressBesideTheItemsOnlyTakesTheFocus) {
+  Window.List.Add({"a", "b"});
+  ShowWithFocus(Window.First);
+  Window.UserPick(Window.List, -1);
+  EXPECT_EQ(Taken(), (Events{"First.LostFocus", "List.GotFocus"}));
+  EXPECT_EQ(Window.List.ListIndex(), -1);
+}
+
 TEST_F(UserEventsTest, APressOnAnItemSelectsItAndRunsMouseDown) {
   Window.List.Add({"a", "b"});
   ShowWithFocus(Window.First);
