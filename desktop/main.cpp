@@ -4,11 +4,11 @@
 #include <QMessageBox>
 
 #include "desktop/application_look.h"
-#include "runtime/folder_lock.h"
 #include "desktop/qt_desk.h"
 #include "desktop/screen_view.h"
 #include "opening/program.h"
 #include "runtime/disk.h"
+#include "runtime/folder_lock.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
