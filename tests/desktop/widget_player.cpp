@@ -60,37 +60,22 @@ QWidget* WidgetPlayer::FaceOf(const forms::Control& control) const {
   return view && view->Widget().isVisible() ? &view->Face() : nullptr;
 }
 
-void WidgetPlayer::Click(const std::string& name) {
+void WidgetPlayer::ClickOn(const std::string& name, bool twice) {
   forms::Control& control = ControlNamed(program_.Screen, name);
   QWidget* face = FaceOf(control);
   if (control.Kind == forms::Kind::MenuItem) {
     ChooseFromMenu(static_cast<forms::MenuItem&>(control));
   } else if (face && control.Kind == forms::Kind::ListBox) {
-    ClickList(control, &forms::Window::UserClick);
-  } else if (face) {
-    ClickAt(*face, face->rect().center());
-  }
-  Settle();
-}
-
-void WidgetPlayer::DblClick(const std::string& name) {
-  forms::Control& control = ControlNamed(program_.Screen, name);
-  QWidget* face = FaceOf(control);
-  if (control.Kind == forms::Kind::MenuItem) {
-    ChooseFromMenu(static_cast<forms::MenuItem&>(control));
-  } else if (face && control.Kind == forms::Kind::ListBox) {
-    ClickList(control, &forms::Window::UserDblClick);
+    // Each spot of a list that is full is an item; a click on none of them is handed to the form.
+    auto click = twice ? &forms::Window::UserDblClick : &forms::Window::UserClick;
+    program_.Deliver([&] { (control.Owner().*click)(control); });
   } else if (face) {
     QPoint centre = face->rect().center();
     ClickAt(*face, centre);
-    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonDblClick, Qt::LeftButton, centre);
-    if (face->isVisible()) SendMouse(*face, QEvent::MouseButtonRelease, Qt::LeftButton, centre);
+    if (twice && face->isVisible()) SendMouse(*face, QEvent::MouseButtonDblClick, Qt::LeftButton, centre);
+    if (twice && face->isVisible()) SendMouse(*face, QEvent::MouseButtonRelease, Qt::LeftButton, centre);
   }
   Settle();
-}
-
-void WidgetPlayer::ClickList(forms::Control& list, void (forms::Window::*click)(forms::Control&)) {
-  program_.Deliver([&] { (list.Owner().*click)(list); });
 }
 
 void WidgetPlayer::Move(const std::string& name) {

@@ -14,8 +14,8 @@ class WidgetPlayer final : public Player {
   // An application object must be there.
   explicit WidgetPlayer(Program& program);
 
-  void Click(const std::string& name) override;
-  void DblClick(const std::string& name) override;
+  void Click(const std::string& name) override { ClickOn(name, false); }
+  void DblClick(const std::string& name) override { ClickOn(name, true); }
   void Move(const std::string& name) override;
   void Pick(const std::string& list, const std::string& item) override;
   void Key(const std::string& key) override;
@@ -30,8 +30,7 @@ class WidgetPlayer final : public Player {
  private:
   // The widget of a control that can be met with the mouse; nullptr where it cannot.
   QWidget* FaceOf(const forms::Control& control) const;
-  // Each spot of a list that is full is an item; a click on none of them is handed to the form.
-  void ClickList(forms::Control& list, void (forms::Window::*click)(forms::Control&));
+  void ClickOn(const std::string& name, bool twice);
   void ChooseFromMenu(const forms::MenuItem& item);
   void Press(int key, Qt::KeyboardModifiers modifiers, const QString& characters);
   void PressCharacter(char character);
