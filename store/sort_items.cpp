@@ -9,28 +9,29 @@ namespace store {
 namespace {
 
 constexpr std::size_t FewItems = 192;
-constexpr unsigned HalfBits = 32;
 
-unsigned Digit(std::uint64_t window, std::size_t byte, unsigned shift) {
-  return static_cast<unsigned>(window >> (8 * byte + shift)) & 255;
-}
+std::uint32_t Digit(std::uint32_t half, std::size_t byte) { return half >> (8 * byte) & 255; }
+
+std::uint32_t SortItem::*HalfOf(std::size_t step) { return step % 2 == 0 ? &SortItem::Upper : &SortItem::Lower; }
 
 }  // namespace
 
 void ItemSorter::SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step) {
   if (items.size() > FewItems) {
-    ByDigits(items, scratch, step % 2 == 0 ? HalfBits : 0);
+    ByDigits(items, scratch, HalfOf(step));
   } else {
     std::sort(items.begin(), items.end(), [](const SortItem& left, const SortItem& right) {
-      return left.Window != right.Window ? left.Window < right.Window : left.Entry < right.Entry;
+      return left.Window() != right.Window() ? left.Window() < right.Window() : left.Entry < right.Entry;
     });
     step |= 1;
   }
-  const unsigned shift = step % 2 == 0 ? HalfBits : 0;
+  const bool only_upper = step % 2 == 0;
   if (++step >= 2 * layout_.Windows()) return;
   for (std::size_t first = 0; first < items.size();) {
     std::size_t end = first + 1;
-    while (end < items.size() && items[end].Window >> shift == items[first].Window >> shift) ++end;
+    while (end < items.size() && items[end].Upper == items[first].Upper &&
+           (only_upper || items[end].Lower == items[first].Lower))
+      ++end;
     if (end - first > 1) {
       std::span<SortItem> equal = items.subspan(first, end - first);
       if (step % 2 == 0) LoadWindow(equal, step / 2);
@@ -43,22 +44,22 @@ void ItemSorter::SortFrom(std::span<SortItem> items, std::span<SortItem> scratch
 void ItemSorter::LoadWindow(std::span<SortItem> items, std::size_t window) const {
   SortItem* item = items.data();
   ForEachEntry(items, entries_, layout_.EntryLength(),
-               [&](const char* entry) { (item++)->Window = layout_.Window(entry, window); });
+               [&](const char* entry) { (item++)->SetWindow(layout_.Window(entry, window)); });
 }
 
-void ItemSorter::ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, unsigned shift) {
+void ItemSorter::ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, std::uint32_t SortItem::*half) {
   for (auto& counts : counts_) counts.fill(0);
   for (const SortItem& item : items) {
-    for (std::size_t byte = 0; byte < counts_.size(); ++byte) ++counts_[byte][Digit(item.Window, byte, shift)];
+    for (std::size_t byte = 0; byte < counts_.size(); ++byte) ++counts_[byte][Digit(item.*half, byte)];
   }
   std::span<SortItem> from = items;
   std::span<SortItem> to = scratch;
   for (std::size_t byte = 0; byte < counts_.size(); ++byte) {
     auto& counts = counts_[byte];
-    if (counts[Digit(items[0].Window, byte, shift)] == items.size()) continue;
+    if (counts[Digit(items[0].*half, byte)] == items.size()) continue;
     std::uint32_t place = 0;
     for (std::uint32_t& count : counts) place += std::exchange(count, place);
-    for (const SortItem& item : from) to[counts[Digit(item.Window, byte, shift)]++] = item;
+    for (const SortItem& item : from) to[counts[Digit(item.*half, byte)]++] = item;
     std::swap(from, to);
   }
   if (from.data() != items.data()) std::copy(from.begin(), from.end(), items.begin());

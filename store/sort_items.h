@@ -11,8 +11,14 @@ namespace store {
 
 // An entry by its place in the table of entries, with a window of what is compared.
 struct SortItem {
-  std::uint64_t Window;
+  std::uint32_t Upper, Lower;  // the halves of the window
   std::uint32_t Entry;
+
+  std::uint64_t Window() const { return std::uint64_t{Upper} << 32 | Lower; }
+  void SetWindow(std::uint64_t window) {
+    Upper = static_cast<std::uint32_t>(window >> 32);
+    Lower = static_cast<std::uint32_t>(window);
+  }
 };
 
 // Calls use(entry) for the entry of each item, in their order; entries as for ItemSorter. Entries lie all over memory,
@@ -42,7 +48,7 @@ class ItemSorter {
  private:
   // Step: which half of which window, from the upper half of the first on; what stands before is equal.
   void SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step);
-  void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, unsigned shift);
+  void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, std::uint32_t SortItem::*half);
   void LoadWindow(std::span<SortItem> items, std::size_t window) const;
 
   const SortLayout& layout_;

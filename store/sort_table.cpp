@@ -54,7 +54,8 @@ void SortTable::LoadPart(const runtime::Opened& input, const SortInclude& includ
     if (!kept && !holds_all_) continue;
     layout_.MakeEntry(record, number, entry);
     included_[place] = kept ? 1 : 0;
-    items_[place] = {layout_.Window(entry, 0), static_cast<std::uint32_t>(place)};
+    items_[place].SetWindow(layout_.Window(entry, 0));
+    items_[place].Entry = static_cast<std::uint32_t>(place);
     entry += length;
     ++place;
   }
@@ -105,7 +106,7 @@ std::uint64_t SortTable::MiddleWindow() {
   for (int worker : {0, 1}) {
     std::span<const SortItem> items = Loaded(worker);
     std::size_t step = items.size() / SampleSize + 1;
-    for (std::size_t at = 0; at < items.size(); at += step) sample.push_back(items[at].Window);
+    for (std::size_t at = 0; at < items.size(); at += step) sample.push_back(items[at].Window());
   }
   auto middle = sample.begin() + static_cast<std::ptrdiff_t>(sample.size() / 2);
   std::nth_element(sample.begin(), middle, sample.end());
@@ -116,7 +117,7 @@ std::size_t SortTable::CountBelow(std::uint64_t window) {
   std::array<std::size_t, 2> counts{};
   Twice(workers_, [&](int worker) {
     std::size_t count = 0;
-    for (const SortItem& item : Loaded(worker)) count += item.Window < window ? 1 : 0;
+    for (const SortItem& item : Loaded(worker)) count += item.Window() < window ? 1 : 0;
     counts.at(worker) = count;
   });
   return counts[0] + counts[1];
@@ -135,7 +136,7 @@ void SortTable::SortHalves() {
     for (int worker : {0, 1}) {
       for (const SortItem& item : Loaded(worker)) {
         *target = item;
-        target += (item.Window < middle) == (half == 0) ? 1 : 0;
+        target += (item.Window() < middle) == (half == 0) ? 1 : 0;
       }
     }
   });
