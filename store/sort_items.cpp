@@ -17,28 +17,43 @@ std::uint32_t SortItem::*HalfOf(std::size_t step) { return step % 2 == 0 ? &Sort
 }  // namespace
 
 void ItemSorter::SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step) {
+  while (items.size() > 1) {
+    step = SortHalf(items, scratch, step);
+    if (step >= 2 * layout_.Windows()) return;
+    const bool only_upper = step % 2 != 0;
+    // Only the smaller groups are gone into, so that the stack stays low however long the key is.
+    Group largest;
+    for (Group group; group.First < items.size(); group.First += group.Count) {
+      const SortItem& first = items[group.First];
+      group.Count = 1;
+      for (const SortItem& item : items.subspan(group.First + 1)) {
+        if (item.Upper != first.Upper || (!only_upper && item.Lower != first.Lower)) break;
+        ++group.Count;
+      }
+      const Group smaller = group.Count > largest.Count ? std::exchange(largest, group) : group;
+      if (smaller.Count > 1) SortGroup(items, scratch, smaller, step);
+    }
+    items = items.subspan(largest.First, largest.Count);
+    scratch = scratch.subspan(largest.First, largest.Count);
+    if (step % 2 == 0) LoadWindow(items, step / 2);
+  }
+}
+
+std::size_t ItemSorter::SortHalf(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step) {
   if (items.size() > FewItems) {
     ByDigits(items, scratch, HalfOf(step));
-  } else {
-    std::sort(items.begin(), items.end(), [](const SortItem& left, const SortItem& right) {
-      return left.Window() != right.Window() ? left.Window() < right.Window() : left.Entry < right.Entry;
-    });
-    step |= 1;
+    return step + 1;
   }
-  const bool only_upper = step % 2 == 0;
-  if (++step >= 2 * layout_.Windows()) return;
-  for (std::size_t first = 0; first < items.size();) {
-    std::size_t end = first + 1;
-    while (end < items.size() && items[end].Upper == items[first].Upper &&
-           (only_upper || items[end].Lower == items[first].Lower))
-      ++end;
-    if (end - first > 1) {
-      std::span<SortItem> equal = items.subspan(first, end - first);
-      if (step % 2 == 0) LoadWindow(equal, step / 2);
-      SortFrom(equal, scratch.subspan(first, end - first), step);
-    }
-    first = end;
-  }
+  std::sort(items.begin(), items.end(), [](const SortItem& left, const SortItem& right) {
+    return left.Window() != right.Window() ? left.Window() < right.Window() : left.Entry < right.Entry;
+  });
+  return (step | 1) + 1;
+}
+
+void ItemSorter::SortGroup(std::span<SortItem> items, std::span<SortItem> scratch, Group group, std::size_t step) {
+  std::span<SortItem> equal = items.subspan(group.First, group.Count);
+  if (step % 2 == 0) LoadWindow(equal, step / 2);
+  SortFrom(equal, scratch.subspan(group.First, group.Count), step);
 }
 
 void ItemSorter::LoadWindow(std::span<SortItem> items, std::size_t window) const {

@@ -46,14 +46,22 @@ class ItemSorter {
   void Sort(std::span<SortItem> items, std::span<SortItem> scratch) { SortFrom(items, scratch, 0); }
 
  private:
+  // Items that are equal up to a step.
+  struct Group {
+    std::size_t First = 0, Count = 0;
+  };
+
   // Step: which half of which window, from the upper half of the first on; what stands before is equal.
   void SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step);
+  // By that half, or the whole window of few items; the step that is next.
+  std::size_t SortHalf(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step);
+  void SortGroup(std::span<SortItem> items, std::span<SortItem> scratch, Group group, std::size_t step);
   void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, std::uint32_t SortItem::*half);
   void LoadWindow(std::span<SortItem> items, std::size_t window) const;
 
   const SortLayout& layout_;
   const char* entries_;
-  // How often each value of each byte of a half stands in the items; here and not on the stack, which is deep.
+  // How often each value of each byte of a half stands in the items.
   std::array<std::array<std::uint32_t, 256>, 4> counts_{};
 };
 

@@ -174,6 +174,17 @@ TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
   }
 }
 
+// Equal to the last byte of a key of two million, which are compared a few at a time.
+TEST(SortOperation, KeepsTheOrderOfRecordsThatAreEqualInALongKey) {
+  std::string records(3 * LongestRecord, 'a');
+  std::string fields = "1,32767,C,A";
+  for (int field = 1; field < 64; ++field) fields += ",1,32767,C,A";
+  safety::MemoryDisk disk(FolderWith(records));
+  SortOutcome outcome = SortOn(disk, "out", "S(" + fields + ") OUTREC(Arrn) Record(32767)");
+  EXPECT_EQ(outcome.Retcode, SortDone);
+  EXPECT_EQ(FileOn(disk, "out"), "000000100000020000003");
+}
+
 TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
   safety::Folder folder = OldFolder();
   folder[".reelora/Titlepra.Dat.new"] = std::string(5000, '?');
