@@ -16,8 +16,10 @@ constexpr std::size_t EntryLength = runtime::HistoryHeadLength + RecordLength;
 
 constexpr int MasterNo = 1;
 
-bool IsNumber(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char digit) { return digit >= '0' && digit <= '9'; });
+// Digits that name a slot; slots count from 1.
+bool IsSlot(std::string_view text) {
+  bool number = std::all_of(text.begin(), text.end(), [](char digit) { return digit >= '0' && digit <= '9'; });
+  return number && text.find_first_not_of('0') != std::string_view::npos;
 }
 
 }  // namespace
@@ -31,7 +33,7 @@ std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
       if (history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) < EntryLength)
         return films;
       std::string_view slot = std::string_view(entry).substr(SlotAt, SlotWidth);
-      if (!IsNumber(slot)) continue;
+      if (!IsSlot(slot)) continue;
       KeptFilm& kept = films.emplace_back();
       kept.Number = number;
       kept.When = entry.substr(0, StampWidth);
@@ -45,7 +47,7 @@ std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
 }
 
 void PutBack(runtime::Files& files, const KeptFilm& kept) {
-  if (kept.Slot < 1 || kept.Slot > files.Length(MasterFileName) / RecordLength)
+  if (kept.Slot > files.Length(MasterFileName) / RecordLength)
     throw runtime::Failure{runtime::BadRecordNumber, std::string(MasterFileName)};
   OpenMaster(files, MasterNo);
   WriteRecord(files, MasterNo, kept.Slot, kept.Film);

@@ -123,9 +123,11 @@ TEST_F(HistoryCommand, NamesAnEntryAFolderAndASlotThatAreNotThere) {
 TEST_F(HistoryCommand, PassesOverAnEntryThatWasNeverFinished) {
   Put(2, Film("Brazil"));
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << std::string(677, '\0');
+  std::ofstream(HistoryPath(), std::ios::app | std::ios::binary)
+      << "2026-11-21 05:30:00 0000000 " << std::string(649, ' ');
   Put(2, Film("Ran"));
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << "2026-11-21 05:30:00 00000";
-  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     3         2  Brazil - Ran"}));
+  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     4         2  Brazil - Ran"}));
 }
 
 TEST_F(HistoryCommand, RefusesArgumentsThatItDoesNotKnow) {

@@ -40,6 +40,7 @@ const std::vector<Road>& Roads() {
         {"new films at the end", FolderOfFilms(12), {NewFilm(13, 1), NewFilm(14, 2)}},
         {"edited films", FolderOfFilms(9), {EditFilm(7, 1), EditFilm(8, 2), EditFilm(8, 3)}},
         {"a deleted film and a new one in its slot", FolderOfFilms(9), {DeleteFilm(7), NewFilm(7, 1)}},
+        {"an edited film put back", FolderOfFilms(9), {EditFilm(7, 1), PutFilmBack(), PutFilmBack()}},
         {"a new film over a short trailing part", FolderOfFilms(12, half.substr(0, 200)), {NewFilm(13, 1)}},
         {"a new film behind a long trailing part", FolderOfFilms(12, half.substr(0, 500)), {NewFilm(14, 1)}},
         {"the first film of an empty file", FolderOfFilms(0), {NewFilm(1, 1), NewFilm(2, 2)}},

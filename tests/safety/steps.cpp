@@ -1,6 +1,7 @@
 // Each step is one or more events of the user.
 #include "tests/safety/steps.h"
 
+#include "store/history.h"
 #include "tests/safety/films.h"
 
 namespace safety {
@@ -55,6 +56,15 @@ Step DeleteFilm(int slot) {
 
 Step SortFilms() {
   return [](Program& program) { Click(program, program.RecordScreen.cmdSort); };
+}
+
+Step PutFilmBack() {
+  return [](Program& program) {
+    program.Deliver([&] {
+      runtime::Files files(program.Files.Disk());
+      store::PutBack(files, store::ReadHistory(files.Disk()).back());
+    });
+  };
 }
 
 Step WriteSmallFile(const std::string& name, const std::string& line) {

@@ -34,6 +34,8 @@ Step EditFilm(int slot, int version);
 Step EditAndClose(int slot, int version);
 Step DeleteFilm(int slot);
 Step SortFilms();
+// The film that was overwritten last goes back into its slot.
+Step PutFilmBack();
 // One line into a file opened for output, as settings and counts are written.
 Step WriteSmallFile(const std::string& name, const std::string& line);
 // Goes on to the slot.
