@@ -20,7 +20,7 @@ constexpr std::size_t FilmsInBlock = 4096;
 
 std::vector<store::FilmRecord> ReadFilms(const fs::path& path) {
   runtime::RealDisk disk(path.parent_path().string());
-  runtime::Opened file(disk, path.filename().string(), runtime::Disk::Mode::Read);
+  runtime::OpenFile file(disk, path.filename().string(), runtime::Disk::Mode::Read);
   std::vector<store::FilmRecord> films(static_cast<std::size_t>(file.Length()) / store::RecordLength);
   if (films.empty()) throw runtime::Failure{runtime::InputPastEnd, path.string()};
   file.Read(films.front().Bytes.data(), films.size() * store::RecordLength, 0);
@@ -28,7 +28,7 @@ std::vector<store::FilmRecord> ReadFilms(const fs::path& path) {
 }
 
 void NumberTitle(store::FilmRecord& film, std::int64_t round) {
-  std::string number = runtime::S(round);
+  std::string number = runtime::NumberText(round);
   std::string_view title = runtime::Trim(film.Get(FilmField::Title));
   std::size_t room = static_cast<std::size_t>(store::RowOf(FilmField::Title).Width) - number.size();
   film.Set(FilmField::Title, std::string(title.substr(0, room)) + number);
@@ -40,7 +40,7 @@ void GenerateFilms(const std::string& source_path, const std::string& target_pat
   const std::vector<store::FilmRecord> films = ReadFilms(fs::absolute(source_path));
   const fs::path target = fs::absolute(target_path);
   runtime::RealDisk disk(target.parent_path().string());
-  runtime::Opened file(disk, target.filename().string(), runtime::Disk::Mode::Create);
+  runtime::OpenFile file(disk, target.filename().string(), runtime::Disk::Mode::Create);
   file.Truncate(0);
   std::vector<store::FilmRecord> block;
   std::int64_t offset = 0;

@@ -9,11 +9,11 @@
 #include <memory>
 #include <stdexcept>
 
+#include "app/program.h"
 #include "bench/collection.h"
 #include "bench/film_generator.h"
 #include "bench/measured.h"
 #include "bench/quiet_desk.h"
-#include "opening/program.h"
 #include "store/master_file.h"
 #ifdef REELORA_SQLITE
 #include <sqlite3.h>

@@ -6,10 +6,10 @@
 #include <fstream>
 #include <vector>
 
+#include "app/program.h"
 #include "bench/collection.h"
 #include "bench/measured.h"
 #include "bench/quiet_desk.h"
-#include "opening/program.h"
 #include "store/film_codes.h"
 
 namespace {
@@ -35,8 +35,8 @@ void CopyTexts(const store::FilmRecord& film, std::size_t number, Texts& texts) 
   for (std::size_t field = 0; field < 32; ++field) texts[field] = runtime::Trim(film.Get(store::FilmField(field)));
   const store::GenreRow* genre = store::GenreOf(texts[static_cast<std::size_t>(store::FilmField::Genre)]);
   texts[32] = genre ? genre->Name : "";
-  texts[33] = "Reelora Prima Record " + runtime::S(static_cast<std::int64_t>(number)) + "/" + runtime::S(Films) +
-              "      Title Non Sorted";
+  texts[33] = "Reelora Prima Record " + runtime::NumberText(static_cast<std::int64_t>(number)) + "/" +
+              runtime::NumberText(Films) + "      Title Non Sorted";
   texts[34] = "To write a new record click \"New\" button or ALT \"W\"";
 }
 

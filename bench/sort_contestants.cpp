@@ -8,15 +8,15 @@
 
 #include "bench/unsynced_disk.h"
 #include "runtime/whole_io.h"
+#include "sort/operation.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "store/sort_operation.h"
 
 namespace bench {
 namespace {
 
 using runtime::Disk;
-using runtime::Opened;
+using runtime::OpenFile;
 
 constexpr std::string_view LinesFile = "lines";
 
@@ -37,13 +37,13 @@ constexpr Pass Passes[] = {
 // too.
 std::vector<double> SortPassesOn(Disk& disk) {
   std::vector<double> seconds;
-  store::Sorter sorter(disk);
+  sort::Sorter sorter(disk);
   std::int32_t Numrec = 0;
   std::int32_t Retcode = 0;
   for (const Pass& pass : Passes) disk.Remove(std::string(pass.Output));
   for (const Pass& pass : Passes) {
     seconds.push_back(Timed([&] { sorter.Sort(store::MasterFileName, pass.Output, pass.Statement, Numrec, Retcode); }));
-    if (Retcode != store::SortDone) throw std::runtime_error("the sort has failed");
+    if (Retcode != sort::SortDone) throw std::runtime_error("the sort has failed");
   }
   return seconds;
 }
@@ -52,7 +52,7 @@ std::vector<double> SortPassesOn(Disk& disk) {
 
 std::vector<double> ReadMaster(const std::string& folder) {
   runtime::RealDisk disk(folder);
-  Opened master(disk, std::string(store::MasterFileName), Disk::Mode::Read);
+  OpenFile master(disk, std::string(store::MasterFileName), Disk::Mode::Read);
   std::string block(128 * 1024, '\0');
   return {Timed([&] {
     std::int64_t offset = 0;
@@ -69,8 +69,8 @@ std::vector<double> SortPasses(const std::string& folder, bool synced) {
 
 void PrepareLines(const std::string& folder) {
   runtime::RealDisk disk(folder);
-  Opened master(disk, std::string(store::MasterFileName), Disk::Mode::Read);
-  Opened lines(disk, std::string(LinesFile), Disk::Mode::Create);
+  OpenFile master(disk, std::string(store::MasterFileName), Disk::Mode::Read);
+  OpenFile lines(disk, std::string(LinesFile), Disk::Mode::Create);
   lines.Truncate(0);
   std::vector<store::FilmRecord> films(4096);
   std::string text;

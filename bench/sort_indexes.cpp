@@ -64,7 +64,7 @@ void PrepareTable(const std::string& folder) {
   sqlite3_prepare_v2(database.get(), ("INSERT INTO films VALUES(" + values + ")").c_str(), -1, &prepared, nullptr);
   std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> insert(prepared, sqlite3_finalize);
   runtime::RealDisk disk(folder);
-  runtime::Opened master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
+  runtime::OpenFile master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
   std::vector<store::FilmRecord> films(4096);
   std::int64_t offset = 0;
   while (std::size_t length = master.Read(films.front().Bytes.data(), films.size() * store::RecordLength, offset)) {

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "runtime/words.h"
+#include "runtime/checked_int.h"
 
 void frmPage1::ReadKey() {
   std::string key = runtime::Fixed(KeyRecord, browse::KeyLength);

@@ -6,7 +6,7 @@
 using store::FilmField;
 
 void frmPage1::cmdPrev20_Click() {
-  HelpContext = cmdPrevious.Keys.HelpId;
+  HelpContext = cmdPrevious.Ids.HelpId;
   if (ListShown == 1) {
     cmdNext20.Show();
     ReopenKeyFile(browse::ListKeyFile(ViewKind, "Titlepra.Dat"));

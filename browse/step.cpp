@@ -35,7 +35,7 @@ void frmPage1::WireBrowse() {
   WIRE(cmdPrevious, Click);
   WIRE(cmdNext20, Click);
   WIRE(cmdPrev20, Click);
-  cmdPrev20.GotFocus = [this] { HelpContext = cmdPrevious.Keys.HelpId; };
+  cmdPrev20.GotFocus = [this] { HelpContext = cmdPrevious.Ids.HelpId; };
   WIRE(mnuByTitle, Click);
   WIRE(mnuByDVD, Click);
   WIRE(mnuByLaser, Click);
@@ -49,7 +49,7 @@ void frmPage1::WireBrowse() {
 }
 
 void frmPage1::cmdNext_Click() {
-  HelpContext = cmdNext.Keys.HelpId;
+  HelpContext = cmdNext.Ids.HelpId;
   if (FindPending == 1) return;
   NavFlag2 = 0;
   EditMode = 0;
@@ -84,7 +84,7 @@ void frmPage1::StepOn() {
 }
 
 void frmPage1::cmdPrevious_Click() {
-  HelpContext = cmdPrevious.Keys.HelpId;
+  HelpContext = cmdPrevious.Ids.HelpId;
   if (SearchState == 1) return;
   for (forms::TextBox* box : {&txtDirector, &txtColor1, &txtCLV1, &txtFormat}) box->SetText("");
   EditMode = 0;

@@ -43,13 +43,13 @@ std::string TitleOf(const store::FilmRecord& film) {
   return title.empty() ? "nothing" : runtime::ToUtf8(title);
 }
 
-store::FilmRecord Present(const runtime::Opened& master, std::int64_t slot) {
+store::FilmRecord Present(const runtime::OpenFile& master, std::int64_t slot) {
   store::FilmRecord film;
   master.Read(film.Bytes.data(), film.Bytes.size(), (slot - 1) * store::RecordLength);
   return film;
 }
 
-void List(const std::vector<store::KeptFilm>& films, const runtime::Opened& master, std::ostream& out) {
+void List(const std::vector<store::KeptFilm>& films, const runtime::OpenFile& master, std::ostream& out) {
   if (films.empty()) {
     out << "No film has been overwritten.\n";
     return;
@@ -85,7 +85,7 @@ int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& o
   }
   try {
     runtime::RealDisk disk(request->Folder);
-    runtime::Opened master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
+    runtime::OpenFile master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
     if (!request->Undo) {
       List(store::ReadHistory(disk), master, out);
       return 0;

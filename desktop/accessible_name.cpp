@@ -12,8 +12,8 @@ namespace {
 const forms::TextBox* FieldBefore(const forms::Control& list) {
   const forms::TextBox* field = nullptr;
   for (const forms::Control* control : list.Owner().Controls()) {
-    if (control->Kind != forms::Kind::TextBox || control->Keys.Tab >= list.Keys.Tab) continue;
-    if (!field || control->Keys.Tab > field->Keys.Tab) field = static_cast<const forms::TextBox*>(control);
+    if (control->Kind != forms::Kind::TextBox || control->Ids.Tab >= list.Ids.Tab) continue;
+    if (!field || control->Ids.Tab > field->Ids.Tab) field = static_cast<const forms::TextBox*>(control);
   }
   return field;
 }

@@ -5,8 +5,8 @@
 #include <QPainter>
 
 #include "desktop/text.h"
-#include "forms/screen.h"
 #include "forms/window.h"
+#include "forms/window_stack.h"
 
 namespace desktop {
 namespace {

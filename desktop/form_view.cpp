@@ -9,7 +9,7 @@
 #include "desktop/artwork.h"
 #include "desktop/screen_view.h"
 #include "desktop/text.h"
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
 namespace desktop {
 namespace {
@@ -40,7 +40,7 @@ FormView::FormView(forms::Window& window, ScreenView& all)
       surface_(this),
       menu_(
           window, *this, [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.UserClick(item); }); },
-          [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.Owner().Desk.Help(item.Keys.HelpId); }); },
+          [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.Owner().Desk.Help(item.Ids.HelpId); }); },
           [this] { screen_.Sync(); }) {
   auto tags = TagsOf(window);
   for (forms::Control* control : window.Controls())

@@ -10,15 +10,15 @@ QString Link(int topic, const QString& words) {
   return QStringLiteral("<a href=\"%1\">%2</a>").arg(AddressOf(topic), words);
 }
 
-QString LinkTo(const opening::HelpTopic& topic) {
+QString LinkTo(const help::HelpTopic& topic) {
   return topic.Numbers.empty() ? Escaped(topic.Title) : Link(topic.Numbers.front(), Escaped(topic.Title));
 }
 
 QString Heading(const QString& words) { return QStringLiteral("<h2>%1</h2>").arg(words); }
 
-QString Words(const opening::HelpParagraph& paragraph) {
+QString Words(const help::HelpParagraph& paragraph) {
   QString words;
-  for (const opening::HelpPiece& piece : paragraph.Pieces) {
+  for (const help::HelpPiece& piece : paragraph.Pieces) {
     QString text = Escaped(piece.Text);
     words += piece.Link ? Link(piece.Link, text) : text;
   }
@@ -33,10 +33,10 @@ int TopicOf(const QString& address) { return address.startsWith(QLatin1String("t
 
 QString NoticePage(const QString& text) { return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()); }
 
-QString TopicPage(const opening::HelpTopic& topic) {
+QString TopicPage(const help::HelpTopic& topic) {
   QString page = QStringLiteral("<p><small>%1</small></p>").arg(Escaped(topic.Chapter)) + Heading(Escaped(topic.Title));
   bool in_list = false;
-  for (const opening::HelpParagraph& paragraph : topic.Paragraphs) {
+  for (const help::HelpParagraph& paragraph : topic.Paragraphs) {
     if (paragraph.Item != in_list) page += paragraph.Item ? "<ul>" : "</ul>";
     in_list = paragraph.Item;
     page += QStringLiteral("<%1>%2</%1>").arg(QLatin1String(in_list ? "li" : "p"), Words(paragraph));
@@ -44,10 +44,10 @@ QString TopicPage(const opening::HelpTopic& topic) {
   return page + (in_list ? "</ul>" : "");
 }
 
-QString ContentsPage(const opening::HelpFile& file) {
+QString ContentsPage(const help::HelpFile& file) {
   QString page = Heading(QStringLiteral("Contents"));
   const std::string* chapter = nullptr;
-  for (const opening::HelpTopic& topic : file.Topics) {
+  for (const help::HelpTopic& topic : file.Topics) {
     if (!chapter || *chapter != topic.Chapter) {
       page += QStringLiteral("%1<h3>%2</h3><ul>").arg(QLatin1String(chapter ? "</ul>" : ""), Escaped(topic.Chapter));
       chapter = &topic.Chapter;
@@ -57,9 +57,9 @@ QString ContentsPage(const opening::HelpFile& file) {
   return page + (chapter ? "</ul>" : "");
 }
 
-QString FoundPage(const opening::HelpFile& file, const QString& words) {
+QString FoundPage(const help::HelpFile& file, const QString& words) {
   QString items;
-  for (const opening::HelpTopic& topic : file.Topics) {
+  for (const help::HelpTopic& topic : file.Topics) {
     if (topic.Holds(words.simplified().toStdString())) items += QStringLiteral("<li>%1</li>").arg(LinkTo(topic));
   }
   QString heading = Heading(QStringLiteral("Topics with \u201c%1\u201d").arg(words.toHtmlEscaped()));

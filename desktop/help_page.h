@@ -3,13 +3,13 @@
 
 #include <QString>
 
-#include "opening/help_file.h"
+#include "help/help_file.h"
 
 namespace desktop {
 
-QString TopicPage(const opening::HelpTopic& topic);
-QString ContentsPage(const opening::HelpFile& file);
-QString FoundPage(const opening::HelpFile& file, const QString& words);
+QString TopicPage(const help::HelpTopic& topic);
+QString ContentsPage(const help::HelpFile& file);
+QString FoundPage(const help::HelpFile& file, const QString& words);
 // A page that only says something.
 QString NoticePage(const QString& text);
 

@@ -17,7 +17,7 @@ constexpr QRect StartPlace(256, 256, 512, 512);
 constexpr int PageMargin = 12;
 
 QString HelpFile() {
-  return QString::fromUtf8(opening::HelpFileName.data(), static_cast<qsizetype>(opening::HelpFileName.size()));
+  return QString::fromUtf8(help::HelpFileName.data(), static_cast<qsizetype>(help::HelpFileName.size()));
 }
 
 }  // namespace
@@ -55,7 +55,7 @@ HelpViewer::HelpViewer(std::string folder)
 bool HelpViewer::ReadFile() {
   QFile file(QStringLiteral("%1/%2").arg(QFile::decodeName(folder_.c_str()), HelpFile()));
   if (!file.open(QIODevice::ReadOnly)) return false;
-  file_ = opening::ParseHelp(file.readAll().toStdString());
+  file_ = help::ParseHelp(file.readAll().toStdString());
   return true;
 }
 
@@ -96,7 +96,7 @@ void HelpViewer::Show(const Place& place) {
 QString HelpViewer::PageOf(const Place& place) const {
   if (!there_) return NoticePage(QStringLiteral("The help file %1 is missing.").arg(HelpFile()));
   if (const QString* words = std::get_if<QString>(&place)) return FoundPage(file_, *words);
-  const opening::HelpTopic* topic = file_.Find(std::get<int>(place));
+  const help::HelpTopic* topic = file_.Find(std::get<int>(place));
   return topic ? TopicPage(*topic) : ContentsPage(file_);
 }
 

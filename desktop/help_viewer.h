@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "opening/help_file.h"
+#include "help/help_file.h"
 
 namespace desktop {
 
@@ -40,7 +40,7 @@ class HelpViewer final : public QWidget {
   bool ReadFile();
 
   std::string folder_;
-  opening::HelpFile file_;
+  help::HelpFile file_;
   bool there_ = false;
   std::vector<Place> visited_;  // the present one last
   QPushButton contents_, back_, search_;

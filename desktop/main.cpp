@@ -3,10 +3,10 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "app/program.h"
 #include "desktop/application_look.h"
 #include "desktop/qt_desk.h"
 #include "desktop/screen_view.h"
-#include "opening/program.h"
 #include "runtime/disk.h"
 #include "runtime/folder_lock.h"
 
@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
   runtime::RealDisk disk(".");
   desktop::QtDesk desk(".");
   Program program(desk, disk);
-  desktop::ScreenView view(program.Screen, [&program](const std::function<void()>& event) { program.Deliver(event); });
+  desktop::ScreenView view(program.Windows, [&program](const std::function<void()>& event) { program.Deliver(event); });
   desk.DrawOn(view);
   program.StartOpener();
   view.Sync();

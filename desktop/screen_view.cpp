@@ -8,7 +8,8 @@
 
 namespace desktop {
 
-ScreenView::ScreenView(forms::Screen& screen, Delivery deliver) : screen_(screen), deliver_(std::move(deliver)) {}
+ScreenView::ScreenView(forms::WindowStack& windows, Delivery deliver)
+    : windows_(windows), deliver_(std::move(deliver)) {}
 
 void ScreenView::Deliver(const std::function<void()>& event) {
   if (delivering_) return;
@@ -19,7 +20,7 @@ void ScreenView::Deliver(const std::function<void()>& event) {
 }
 
 void ScreenView::Sync() {
-  for (forms::Window* window : screen_.Windows()) {
+  for (forms::Window* window : windows_.All()) {
     std::unique_ptr<FormView>* view = nullptr;
     if (auto found = views_.find(window); found != views_.end()) {
       view = &found->second;
@@ -28,7 +29,7 @@ void ScreenView::Sync() {
     }
     if (view) (*view)->Sync();
   }
-  const forms::Window* front = screen_.Front();
+  const forms::Window* front = windows_.Front();
   if (std::exchange(front_, front) == front || !front) return;
   FormView& view = *ViewOf(*front);
   view.raise();
@@ -46,7 +47,7 @@ FormView* ScreenView::ViewOf(const forms::Window& window) const {
 }
 
 FormView* ScreenView::Front() const {
-  const forms::Window* front = screen_.Front();
+  const forms::Window* front = windows_.Front();
   return front ? ViewOf(*front) : nullptr;
 }
 

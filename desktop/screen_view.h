@@ -6,7 +6,7 @@
 #include <unordered_map>
 
 #include "desktop/form_view.h"
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
 namespace desktop {
 
@@ -14,7 +14,7 @@ class ScreenView {
  public:
   // Hands one event of the user to the program.
   using Delivery = std::function<void(const std::function<void()>&)>;
-  ScreenView(forms::Screen& screen, Delivery deliver);
+  ScreenView(forms::WindowStack& windows, Delivery deliver);
 
   // Runs the event and then brings what is drawn up to date. Nothing while another event runs.
   void Deliver(const std::function<void()>& event);
@@ -29,7 +29,7 @@ class ScreenView {
   FormView* Front() const;
 
  private:
-  forms::Screen& screen_;
+  forms::WindowStack& windows_;
   Delivery deliver_;
   bool delivering_ = false;
   const forms::Window* front_ = nullptr;

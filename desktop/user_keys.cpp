@@ -8,7 +8,7 @@
 #include "desktop/screen_view.h"
 #include "desktop/text.h"
 #include "desktop/user_input.h"
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
 namespace desktop {
 namespace {

@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::size_t BlockBytes = 256 * 1024;
 
-void WriteAside(const runtime::Opened& source, runtime::Disk& target_disk, const std::string& aside) {
-  runtime::Opened target(target_disk, aside, runtime::Disk::Mode::Create);
+void WriteAside(const runtime::OpenFile& source, runtime::Disk& target_disk, const std::string& aside) {
+  runtime::OpenFile target(target_disk, aside, runtime::Disk::Mode::Create);
   target.Truncate(0);
   std::string block(BlockBytes, '\0');
   std::int64_t offset = 0;
@@ -28,7 +28,7 @@ void WriteAside(const runtime::Opened& source, runtime::Disk& target_disk, const
 
 void CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
               const std::string& target_name) {
-  runtime::Opened source(source_disk, source_name, runtime::Disk::Mode::Read);
+  runtime::OpenFile source(source_disk, source_name, runtime::Disk::Mode::Read);
   std::string aside = "." + target_name + std::string(runtime::AsideEnding);
   try {
     WriteAside(source, target_disk, aside);
@@ -41,7 +41,7 @@ void CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtim
 }
 
 FileFacts FactsOf(runtime::Disk& disk, const std::string& name) {
-  runtime::Opened file(disk, name, runtime::Disk::Mode::Read);
+  runtime::OpenFile file(disk, name, runtime::Disk::Mode::Read);
   return {runtime::LocalTime(runtime::Checked(disk.Modified(name), name)), file.Length()};
 }
 

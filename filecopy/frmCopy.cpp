@@ -2,7 +2,7 @@
 // leads to. The master file is closed while the window is open.
 #include "filecopy/frmCopy.h"
 
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 #include "runtime/code_page.h"
 #include "store/master_file.h"
 
@@ -16,8 +16,8 @@ constexpr std::string_view NoDiskText =
 
 }  // namespace
 
-frmCopy::frmCopy(forms::Screen& screen, frmPage1& record_screen)
-    : Window(screen, "frmCopy", "Copy Files", 7200, 4800),
+frmCopy::frmCopy(forms::WindowStack& windows, frmPage1& record_screen)
+    : Window(windows, "frmCopy", "Copy Files", 7200, 4800),
       RecordScreen(record_screen),
       DiskIn([](const std::string& folder) { return std::make_unique<runtime::RealDisk>(folder); }) {
   Load = [this] { frmCopy_Load(); };
@@ -30,13 +30,6 @@ frmCopy::frmCopy(forms::Screen& screen, frmPage1& record_screen)
   WIRE(Drive1, LostFocus);
   WIRE(Drive1, Change);
 }
-
-void frmPage1::mnuCopy_Click() {
-  Files.Close(MasterNo);
-  if (frmCopy) frmCopy->Open();
-}
-
-void frmPage1::WireCopy() { WIRE(mnuCopy, Click); }
 
 // A window that was closed begins afresh; one that was only hidden is as it was left.
 void frmCopy::Open() {

@@ -25,7 +25,7 @@ inline constexpr forms::Look PickerLook  = { forms::Black,  forms::White, false,
 
 // clang-format off
 struct frmCopy : forms::Window {
-  frmCopy(forms::Screen& screen, frmPage1& record_screen);
+  frmCopy(forms::WindowStack& windows, frmPage1& record_screen);
 
   frmPage1& RecordScreen;
   // Makes the disk of a drive's folder.

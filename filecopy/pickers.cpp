@@ -25,9 +25,9 @@ bool IsFolder(runtime::Disk& disk, const std::string& name) {
 
 }  // namespace
 
-DriveList::DriveList(forms::Window& owner, std::string name, forms::Keys keys, const forms::Look& look,
+DriveList::DriveList(forms::Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look,
                      forms::Place place)
-    : ListBox(owner, std::move(name), keys, look, place) {
+    : ListBox(owner, std::move(name), ids, look, place) {
   Click = [this] { forms::Run(Change); };
 }
 
@@ -64,9 +64,9 @@ void FolderList::Refresh() {
   }
 }
 
-FileList::FileList(forms::Window& owner, std::string name, forms::Keys keys, const forms::Look& look,
+FileList::FileList(forms::Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look,
                    forms::Place place, runtime::Disk& disk, std::string_view ending)
-    : ListBox(owner, std::move(name), keys, look, place, Order::Sorted), disk_(disk), ending_(runtime::Upper(ending)) {}
+    : ListBox(owner, std::move(name), ids, look, place, Order::Sorted), disk_(disk), ending_(runtime::Upper(ending)) {}
 
 void FileList::SetPath(std::string_view path) {
   if (path == path_) return;

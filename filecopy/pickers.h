@@ -12,7 +12,7 @@ namespace filecopy {
 // "a:", "b:", "c:": a click on a drive is its Change.
 class DriveList : public forms::ListBox {
  public:
-  DriveList(forms::Window& owner, std::string name, forms::Keys keys, const forms::Look& look, forms::Place place);
+  DriveList(forms::Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, forms::Place place);
   // Adds the drives that it does not show yet.
   void Refresh(std::string_view letters);
 };
@@ -34,7 +34,7 @@ class FolderList : public forms::ListBox {
 // The files in a folder whose names end as the pattern says, in any case of letters.
 class FileList : public forms::ListBox {
  public:
-  FileList(forms::Window& owner, std::string name, forms::Keys keys, const forms::Look& look, forms::Place place,
+  FileList(forms::Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, forms::Place place,
            runtime::Disk& disk, std::string_view ending);
   // Reads the folder where the path differs from the present one.
   void SetPath(std::string_view path);

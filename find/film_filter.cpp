@@ -32,7 +32,7 @@ FilmFilter::CharacterTest FilmFilter::TestOf(char capital) {
   return {mask, static_cast<unsigned char>(bits & mask)};
 }
 
-std::int64_t FilmFilter::CannotHold(std::string_view records, std::int64_t most) const {
+std::int64_t FilmFilter::CountNonMatches(std::string_view records, std::int64_t most) const {
   if (takes_any_) return 0;
   std::int64_t whole = std::min(most, static_cast<std::int64_t>(records.size() / store::RecordLength));
   const char* record = records.data();

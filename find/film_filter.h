@@ -13,7 +13,7 @@ class FilmFilter {
   FilmFilter(std::string_view capitals, int offset, int width);
   // How many whole records at the front of these bytes, most at the most, do not have the first two characters of the
   // text side by side in the stretch, in either case. 0 for a text of fewer characters.
-  std::int64_t CannotHold(std::string_view records, std::int64_t most) const;
+  std::int64_t CountNonMatches(std::string_view records, std::int64_t most) const;
 
  private:
   // A byte is the character, in either case, when the bits that do not tell the case are the same. Now and then another

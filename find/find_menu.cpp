@@ -68,7 +68,7 @@ void frmPage1::mnuMPAA_Click() { find::Search(*this, find::MPAASearch).Run(); }
 void frmPage1::mnuSound_Click() { find::Search(*this, find::SoundSearch).Run(); }
 
 void frmPage1::cmdMatch_Click() {
-  HelpContext = cmdMatch.Keys.HelpId;
+  HelpContext = cmdMatch.Ids.HelpId;
   if (SearchState == 3) return;
   optNotesoff_Click();
   optNotesoff.Select();

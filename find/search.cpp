@@ -113,7 +113,7 @@ std::string_view Search::Ahead() {
 bool Search::PassOver(const FilmFilter& filter, std::int64_t last) {
   std::int64_t first = window_.ScanRecNo;
   while (window_.ScanRecNo <= last) {
-    std::int64_t films = filter.CannotHold(Ahead(), last + 1 - window_.ScanRecNo);
+    std::int64_t films = filter.CountNonMatches(Ahead(), last + 1 - window_.ScanRecNo);
     if (films == 0) break;
     window_.ScanRecNo += films;
   }

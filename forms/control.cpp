@@ -7,9 +7,9 @@
 
 namespace forms {
 
-Control::Control(Window& owner, std::string name, forms::Kind kind, forms::Keys keys, const forms::Look& look,
+Control::Control(Window& owner, std::string name, forms::Kind kind, forms::ControlIds ids, const forms::Look& look,
                  forms::Place place)
-    : Name(std::move(name)), Kind(kind), Keys(keys), Place(place), owner_(&owner), look_(look) {
+    : Name(std::move(name)), Kind(kind), Ids(ids), Place(place), owner_(&owner), look_(look) {
   owner.Enlist(*this);
 }
 

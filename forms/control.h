@@ -43,7 +43,7 @@ struct Look {
 // Tab: position in the tab order, NoTab for none. HelpId: help context stored with the control, TopicId: a field's own
 // topic; 0 for none.
 inline constexpr int NoTab = -1;
-struct Keys {
+struct ControlIds {
   int Tab = NoTab;
   int HelpId = 0;
   int TopicId = 0;
@@ -56,7 +56,7 @@ class Control {
 
   const std::string Name;
   const forms::Kind Kind;
-  const forms::Keys Keys;
+  const forms::ControlIds Ids;
   const forms::Place Place;
 
   Handler Click, DblClick, GotFocus, LostFocus, MouseUp, MouseMove, KeyPress, MouseDown, Change;
@@ -86,7 +86,7 @@ class Control {
   Window& Owner() const { return *owner_; }
 
  protected:
-  Control(Window& owner, std::string name, forms::Kind kind, forms::Keys keys, const forms::Look& look,
+  Control(Window& owner, std::string name, forms::Kind kind, forms::ControlIds ids, const forms::Look& look,
           forms::Place place);
   ~Control() = default;
   void Touch() { ++version_; }

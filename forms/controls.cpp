@@ -8,9 +8,9 @@
 
 namespace forms {
 
-TextBox::TextBox(Window& owner, std::string name, forms::Keys keys, const forms::Look& look, Align align,
+TextBox::TextBox(Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, Align align,
                  forms::Place place)
-    : Control(owner, std::move(name), Kind::TextBox, keys, look, place), align_(align) {}
+    : Control(owner, std::move(name), Kind::TextBox, ids, look, place), align_(align) {}
 
 void TextBox::SetText(std::string_view text) {
   if (text == text_) return;
@@ -25,9 +25,9 @@ void TextBox::SetAlignment(Align align) {
   Touch();
 }
 
-Captioned::Captioned(Window& owner, std::string name, forms::Kind kind, std::string_view caption, forms::Keys keys,
+Captioned::Captioned(Window& owner, std::string name, forms::Kind kind, std::string_view caption, forms::ControlIds ids,
                      const forms::Look& look, forms::Place place)
-    : Control(owner, std::move(name), kind, keys, look, place), caption_(caption) {}
+    : Control(owner, std::move(name), kind, ids, look, place), caption_(caption) {}
 
 void Captioned::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
@@ -35,17 +35,17 @@ void Captioned::SetCaption(std::string_view caption) {
   Touch();
 }
 
-Label::Label(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
+Label::Label(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids, const forms::Look& look,
              forms::Place place)
-    : Captioned(owner, std::move(name), Kind::Label, caption, keys, look, place) {}
+    : Captioned(owner, std::move(name), Kind::Label, caption, ids, look, place) {}
 
-Button::Button(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
-               forms::Place place, std::string_view icon)
-    : Captioned(owner, std::move(name), Kind::Button, caption, keys, look, place), Icon(icon) {}
+Button::Button(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids,
+               const forms::Look& look, forms::Place place, std::string_view icon)
+    : Captioned(owner, std::move(name), Kind::Button, caption, ids, look, place), Icon(icon) {}
 
-OptionButton::OptionButton(Window& owner, std::string name, std::string_view caption, forms::Keys keys,
+OptionButton::OptionButton(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids,
                            const forms::Look& look, forms::Place place)
-    : Captioned(owner, std::move(name), Kind::OptionButton, caption, keys, look, place) {}
+    : Captioned(owner, std::move(name), Kind::OptionButton, caption, ids, look, place) {}
 
 void OptionButton::TakeSelection() {
   for (Control* control : Owner().Controls()) {
@@ -67,9 +67,9 @@ void OptionButton::SelectAndClick() {
   Run(Click);
 }
 
-CheckBox::CheckBox(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
-                   forms::Place place)
-    : Captioned(owner, std::move(name), Kind::CheckBox, caption, keys, look, place) {}
+CheckBox::CheckBox(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids,
+                   const forms::Look& look, forms::Place place)
+    : Captioned(owner, std::move(name), Kind::CheckBox, caption, ids, look, place) {}
 
 void CheckBox::SetValue(bool value) {
   if (value == value_) return;
@@ -77,9 +77,9 @@ void CheckBox::SetValue(bool value) {
   Touch();
 }
 
-ListBox::ListBox(Window& owner, std::string name, forms::Keys keys, const forms::Look& look, forms::Place place,
+ListBox::ListBox(Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, forms::Place place,
                  Order order)
-    : Control(owner, std::move(name), Kind::ListBox, keys, look, place), order_(order) {}
+    : Control(owner, std::move(name), Kind::ListBox, ids, look, place), order_(order) {}
 
 void ListBox::Add(std::string_view item) {
   if (std::find(items_.begin(), items_.end(), item) != items_.end()) return;

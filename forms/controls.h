@@ -16,7 +16,8 @@ class Label;
 // nothing.
 class TextBox : public Control {
  public:
-  TextBox(Window& owner, std::string name, forms::Keys keys, const forms::Look& look, Align align, forms::Place place);
+  TextBox(Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, Align align,
+          forms::Place place);
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
   Align Alignment() const { return align_; }
@@ -37,7 +38,7 @@ class Captioned : public Control {
 
  protected:
   using Control::Control;
-  Captioned(Window& owner, std::string name, forms::Kind kind, std::string_view caption, forms::Keys keys,
+  Captioned(Window& owner, std::string name, forms::Kind kind, std::string_view caption, forms::ControlIds ids,
             const forms::Look& look, forms::Place place);
 
  private:
@@ -46,14 +47,14 @@ class Captioned : public Control {
 
 class Label : public Captioned {
  public:
-  Label(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
+  Label(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids, const forms::Look& look,
         forms::Place place);
 };
 
 // Icon: the stem of the picture's file, "" for none.
 class Button : public Captioned {
  public:
-  Button(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
+  Button(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids, const forms::Look& look,
          forms::Place place, std::string_view icon = "");
   const std::string Icon;
 };
@@ -61,8 +62,8 @@ class Button : public Captioned {
 // One of a pair; the option buttons of a window are one group.
 class OptionButton : public Captioned {
  public:
-  OptionButton(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
-               forms::Place place);
+  OptionButton(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids,
+               const forms::Look& look, forms::Place place);
   bool Value() const { return value_; }
   // Clears the sibling and runs Click, unless it was selected already.
   void Select();
@@ -76,7 +77,7 @@ class OptionButton : public Captioned {
 
 class CheckBox : public Captioned {
  public:
-  CheckBox(Window& owner, std::string name, std::string_view caption, forms::Keys keys, const forms::Look& look,
+  CheckBox(Window& owner, std::string name, std::string_view caption, forms::ControlIds ids, const forms::Look& look,
            forms::Place place);
   bool Value() const { return value_; }
   void SetValue(bool value);
@@ -89,7 +90,7 @@ class CheckBox : public Captioned {
 class ListBox : public Control {
  public:
   enum class Order { AsAdded, Sorted };
-  ListBox(Window& owner, std::string name, forms::Keys keys, const forms::Look& look, forms::Place place,
+  ListBox(Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, forms::Place place,
           Order order = Order::AsAdded);
   const std::vector<std::string>& Items() const { return items_; }
   void Add(std::string_view item);

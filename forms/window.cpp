@@ -4,18 +4,18 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
 namespace forms {
 
-Window::Window(Screen& screen, std::string name, std::string_view caption, int width, int height)
-    : Name(std::move(name)), Width(width), Height(height), screen_(&screen), caption_(caption) {
-  screen.Enlist(*this);
+Window::Window(WindowStack& windows, std::string name, std::string_view caption, int width, int height)
+    : Name(std::move(name)), Width(width), Height(height), windows_(&windows), caption_(caption) {
+  windows.Enlist(*this);
 }
 
 void Window::Show() {
   if (!std::exchange(loaded_, true)) Run(Load);
-  screen_->BringToFront(*this);
+  windows_->BringToFront(*this);
   visible_ = true;
   if (std::exchange(seen_, true)) return;
   if (Control* first = NextStop(NoTab, 1)) MoveFocus(*first);
@@ -23,7 +23,7 @@ void Window::Show() {
 
 // Of a pair of option buttons only the selected one is a stop.
 bool Window::IsStop(const Control& control) const {
-  if (!control.CanHoldFocus() || !control.Visible() || !control.Enabled() || control.Keys.Tab == NoTab) return false;
+  if (!control.CanHoldFocus() || !control.Visible() || !control.Enabled() || control.Ids.Tab == NoTab) return false;
   return control.Kind != Kind::OptionButton || static_cast<const OptionButton&>(control).Value();
 }
 
@@ -33,8 +33,8 @@ Control* Window::NextStop(int tab, int step) const {
   Control* outermost = nullptr;
   for (Control* control : controls_) {
     if (!IsStop(*control)) continue;
-    auto nearer = [&](const Control* other) { return !other || (other->Keys.Tab - control->Keys.Tab) * step > 0; };
-    if ((control->Keys.Tab - tab) * step > 0 && nearer(nearest)) nearest = control;
+    auto nearer = [&](const Control* other) { return !other || (other->Ids.Tab - control->Ids.Tab) * step > 0; };
+    if ((control->Ids.Tab - tab) * step > 0 && nearer(nearest)) nearest = control;
     if (nearer(outermost)) outermost = control;
   }
   return nearest ? nearest : outermost;
@@ -47,7 +47,7 @@ void Window::MoveFocus(Control& target) {
   if (moves != focus_moves_) return;
   if (target.Visible() && target.Enabled()) {
     GiveFocus(target);
-  } else if (Control* next = NextStop(target.Keys.Tab, 1)) {
+  } else if (Control* next = NextStop(target.Ids.Tab, 1)) {
     GiveFocus(*next);
   }
 }
@@ -55,13 +55,13 @@ void Window::MoveFocus(Control& target) {
 // A field's topic, or else the control's help id, counts as set before the handlers have their say.
 void Window::GiveFocus(Control& control) {
   focus_ = &control;
-  if (int topic = control.Keys.TopicId ? control.Keys.TopicId : control.Keys.HelpId) HelpContext = topic;
+  if (int topic = control.Ids.TopicId ? control.Ids.TopicId : control.Ids.HelpId) HelpContext = topic;
   Run(control.GotFocus);
 }
 
 void Window::PassFocusOn(Control& control) {
   if (focus_ != &control) return;
-  if (Control* next = NextStop(control.Keys.Tab, 1)) {
+  if (Control* next = NextStop(control.Ids.Tab, 1)) {
     MoveFocus(*next);
   } else {
     ++focus_moves_;
@@ -73,13 +73,13 @@ void Window::PassFocusOn(Control& control) {
 // Moves the focus as a click or a hot key does; false where the doing ends there.
 bool Window::FocusByUser(Control& control) {
   if (!control.CanHoldFocus() || focus_ == &control) return true;
-  unsigned boxes = screen_->Desk.BoxesShown();
+  unsigned boxes = windows_->Desk.BoxesShown();
   MoveFocus(control);
-  return boxes == screen_->Desk.BoxesShown() && focus_ == &control;
+  return boxes == windows_->Desk.BoxesShown() && focus_ == &control;
 }
 
 Control* Window::ByHotKey(char letter) const {
-  int from = focus_ ? focus_->Keys.Tab : NoTab;
+  int from = focus_ ? focus_->Ids.Tab : NoTab;
   Control* nearest = nullptr;
   Control* first = nullptr;
   for (Control* control : controls_) {
@@ -88,8 +88,8 @@ Control* Window::ByHotKey(char letter) const {
     if (!control->Visible() || !control->Enabled() || HotKey(static_cast<Captioned*>(control)->Caption()) != letter)
       continue;
     if (option && static_cast<OptionButton*>(control)->Value()) continue;
-    if (control->Keys.Tab > from && (!nearest || control->Keys.Tab < nearest->Keys.Tab)) nearest = control;
-    if (!first || control->Keys.Tab < first->Keys.Tab) first = control;
+    if (control->Ids.Tab > from && (!nearest || control->Ids.Tab < nearest->Ids.Tab)) nearest = control;
+    if (!first || control->Ids.Tab < first->Ids.Tab) first = control;
   }
   return nearest ? nearest : first;
 }

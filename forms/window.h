@@ -11,14 +11,14 @@
 
 namespace forms {
 
-class Screen;
+class WindowStack;
 
 // The keys that mean something beside the characters.
 enum class Key { Tab, ShiftTab, Enter, Esc, Space, Up, Down, Home, End, F1 };
 
 class Window {
  public:
-  Window(Screen& screen, std::string name, std::string_view caption, int width, int height);
+  Window(WindowStack& windows, std::string name, std::string_view caption, int width, int height);
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;
 
@@ -44,7 +44,7 @@ class Window {
 
   Control* Focus() const { return focus_; }
   const std::vector<Control*>& Controls() const { return controls_; }
-  Screen& Owner() const { return *screen_; }
+  WindowStack& Owner() const { return *windows_; }
 
   // The user's doings. Where a control is hidden or disabled, or the window is not visible, nothing happens.
   void UserClick(Control& control);
@@ -78,7 +78,7 @@ class Window {
   void KeyInList(ListBox& list, Key key);
   Control* ByHotKey(char letter) const;
 
-  Screen* screen_;
+  WindowStack* windows_;
   std::string caption_;
   Colour back_ = Blue;
   bool visible_ = false;

@@ -1,8 +1,8 @@
 // What the user's clicks and keys do.
 #include <algorithm>
 
-#include "forms/screen.h"
 #include "forms/window.h"
+#include "forms/window_stack.h"
 
 namespace forms {
 namespace {
@@ -58,7 +58,7 @@ void Window::UserPick(ListBox& list, int index) {
 
 void Window::UserKey(Key key) {
   if (!visible_) return;
-  int tab = focus_ ? focus_->Keys.Tab : NoTab;
+  int tab = focus_ ? focus_->Ids.Tab : NoTab;
   switch (key) {
     case Key::Tab:
     case Key::ShiftTab:
@@ -68,7 +68,7 @@ void Window::UserKey(Key key) {
       if (CancelButton && CancelButton->Visible() && CancelButton->Enabled()) Run(CancelButton->Click);
       return;
     case Key::F1:
-      screen_->Desk.Help(HelpContext);
+      windows_->Desk.Help(HelpContext);
       return;
     default:
       break;

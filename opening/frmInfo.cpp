@@ -1,10 +1,10 @@
 // The ways on from the features window.
 #include "opening/frmInfo.h"
 
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
-frmInfo::frmInfo(forms::Screen& screen, OpeningRoad& road)
-    : Window(screen, "frmInfo", "Reelora Prima ver 4.0  Features Screen", 9000, 6600), road_(road) {
+frmInfo::frmInfo(forms::WindowStack& windows, OpeningSequence& sequence)
+    : Window(windows, "frmInfo", "Reelora Prima ver 4.0  Features Screen", 9000, 6600), sequence_(sequence) {
   SetBackColor(opening::Evening);
   Load = [this] { frmInfo_Load(); };
   Unload = [this] { frmInfo_Unload(); };
@@ -14,27 +14,27 @@ frmInfo::frmInfo(forms::Screen& screen, OpeningRoad& road)
 
 // The windows that come next are made ready behind this one.
 void frmInfo::frmInfo_Load() {
-  road_.ReadFoIfThere();
-  road_.ReadFo1();
-  road_.GoOnByFo1();
+  sequence_.ReadFoIfThere();
+  sequence_.ReadFo1();
+  sequence_.GoOnByFo1();
 }
 
-void frmInfo::frmInfo_Unload() { road_.RecordScreen.Desk.End(); }
+void frmInfo::frmInfo_Unload() { sequence_.RecordScreen.Desk.End(); }
 
 // With NO this window stays behind the record screen.
 void frmInfo::Command1_Click() {
-  road_.ReadFo1();
-  if (road_.Fo1 == "NO") {
-    road_.ShowRecordScreen();
+  sequence_.ReadFo1();
+  if (sequence_.Fo1 == "NO") {
+    sequence_.ShowRecordScreen();
     return;
   }
-  road_.frmQuickStart->Show();
+  sequence_.frmQuickStart->Show();
   Hide();
 }
 
 // The pointer passing over the option is enough: the window never comes again.
 void frmInfo::option1_MouseMove() {
-  road_.Write(FeaturesFlagFile, "NO");
-  road_.ReadFo1();
-  road_.GoOnByFo1();
+  sequence_.Write(FeaturesFlagFile, "NO");
+  sequence_.ReadFo1();
+  sequence_.GoOnByFo1();
 }

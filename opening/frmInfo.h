@@ -2,11 +2,11 @@
 #pragma once
 
 #include "opening/opening_looks.h"
-#include "opening/opening_road.h"
+#include "opening/opening_sequence.h"
 
 // clang-format off
 struct frmInfo : forms::Window {
-  frmInfo(forms::Screen& screen, OpeningRoad& road);
+  frmInfo(forms::WindowStack& windows, OpeningSequence& sequence);
 
   forms::Picture Image1       { *this, "Image1", {0, 0, 9000, 6600}, "backdrop" };
   forms::Picture Image2       { *this, "Image2", {300, 1140, 3000, 4140}, "features" };
@@ -30,6 +30,6 @@ struct frmInfo : forms::Window {
   void option1_MouseMove();
 
  private:
-  OpeningRoad& road_;
+  OpeningSequence& sequence_;
 };
 // clang-format on

@@ -1,10 +1,10 @@
 // Start follows the flag files; Exit and the close box end the program.
 #include "opening/frmOpener.h"
 
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
-frmOpener::frmOpener(forms::Screen& screen, OpeningRoad& road)
-    : Window(screen, "frmOpener", "Reelora Prima version 4.0", 9000, 6000), road_(road) {
+frmOpener::frmOpener(forms::WindowStack& windows, OpeningSequence& sequence)
+    : Window(windows, "frmOpener", "Reelora Prima version 4.0", 9000, 6000), sequence_(sequence) {
   SetBackColor(opening::Evening);
   Unload = [this] { frmOpener_Unload(); };
   WIRE(cmdStart, Click);
@@ -13,18 +13,18 @@ frmOpener::frmOpener(forms::Screen& screen, OpeningRoad& road)
 
 // With the features window off and an unknown word for the quick start nothing happens, and this window stays.
 void frmOpener::cmdStart_Click() {
-  road_.RecordScreen.EditMode = 0;
-  road_.RecordScreen.Files.Close(KeyFileNo);
-  road_.ReadFoIfThere();
-  if (road_.Fo != "NO") {
-    road_.frmInfo->Show();
+  sequence_.RecordScreen.EditMode = 0;
+  sequence_.RecordScreen.Files.Close(KeyFileNo);
+  sequence_.ReadFoIfThere();
+  if (sequence_.Fo != "NO") {
+    sequence_.frmInfo->Show();
     Hide();
     return;
   }
-  road_.ReadFo1();
-  road_.GoOnByFo1();
+  sequence_.ReadFo1();
+  sequence_.GoOnByFo1();
 }
 
-void frmOpener::cmdExit_Click() { road_.RecordScreen.Desk.End(); }
+void frmOpener::cmdExit_Click() { sequence_.RecordScreen.Desk.End(); }
 
-void frmOpener::frmOpener_Unload() { road_.RecordScreen.Desk.End(); }
+void frmOpener::frmOpener_Unload() { sequence_.RecordScreen.Desk.End(); }

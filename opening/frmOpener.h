@@ -2,11 +2,11 @@
 #pragma once
 
 #include "opening/opening_looks.h"
-#include "opening/opening_road.h"
+#include "opening/opening_sequence.h"
 
 // clang-format off
 struct frmOpener : forms::Window {
-  frmOpener(forms::Screen& screen, OpeningRoad& road);
+  frmOpener(forms::WindowStack& windows, OpeningSequence& sequence);
 
   forms::Picture Image1   { *this, "Image1", {0, 0, 9000, 6000}, "title" };
   forms::Button  cmdStart { *this, "cmdStart", "&Start", {0, 0, 0}, opening::PushLook, {2850, 5280, 1500, 480} };
@@ -17,6 +17,6 @@ struct frmOpener : forms::Window {
   void frmOpener_Unload();
 
  private:
-  OpeningRoad& road_;
+  OpeningSequence& sequence_;
 };
 // clang-format on

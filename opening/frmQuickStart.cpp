@@ -3,8 +3,8 @@
 
 #include "runtime/failure.h"
 
-frmQuickStart::frmQuickStart(forms::Screen& screen, OpeningRoad& road)
-    : Window(screen, "frmQuickStart", "Reelora Ver 4.0 Quick Start", 9000, 6000), road_(road) {
+frmQuickStart::frmQuickStart(forms::WindowStack& windows, OpeningSequence& sequence)
+    : Window(windows, "frmQuickStart", "Reelora Ver 4.0 Quick Start", 9000, 6000), sequence_(sequence) {
   SetBackColor(opening::Evening);
   Load = [this] { frmQuickStart_Load(); };
   WIRE(Check1, Click);
@@ -13,23 +13,23 @@ frmQuickStart::frmQuickStart(forms::Screen& screen, OpeningRoad& road)
 
 void frmQuickStart::frmQuickStart_Load() {
   try {
-    road_.ReadFo1();
+    sequence_.ReadFo1();
   } catch (const runtime::Failure&) {
-    road_.RecordScreen.Files.Close(CountFileNo);
-    road_.Write(QuickStartFlagFile, "YES");
+    sequence_.RecordScreen.Files.Close(CountFileNo);
+    sequence_.Write(QuickStartFlagFile, "YES");
     return;
   }
   Hide();
-  if (road_.Fo1 == "YES") {
+  if (sequence_.Fo1 == "YES") {
     Show();
-    road_.RecordScreen.Show();
-  } else if (road_.Fo1 != "NO") {
+    sequence_.RecordScreen.Show();
+  } else if (sequence_.Fo1 != "NO") {
     Show();
-    road_.frmInfo->Hide();
+    sequence_.frmInfo->Hide();
   }
 }
 
 // The box is not read: a second click says the same.
-void frmQuickStart::Check1_Click() { road_.Write(QuickStartFlagFile, "NO"); }
+void frmQuickStart::Check1_Click() { sequence_.Write(QuickStartFlagFile, "NO"); }
 
-void frmQuickStart::cmdContinue_Click() { road_.ShowRecordScreen(); }
+void frmQuickStart::cmdContinue_Click() { sequence_.ShowRecordScreen(); }

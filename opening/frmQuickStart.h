@@ -2,11 +2,11 @@
 #pragma once
 
 #include "opening/opening_looks.h"
-#include "opening/opening_road.h"
+#include "opening/opening_sequence.h"
 
 // clang-format off
 struct frmQuickStart : forms::Window {
-  frmQuickStart(forms::Screen& screen, OpeningRoad& road);
+  frmQuickStart(forms::WindowStack& windows, OpeningSequence& sequence);
 
   forms::Picture Image1       { *this, "Image1", {0, 0, 9000, 6000}, "backdrop" };
   forms::Picture Image2       { *this, "Image2", {300, 1140, 900, 3960}, "six_steps" };
@@ -25,6 +25,6 @@ struct frmQuickStart : forms::Window {
   void cmdContinue_Click();
 
  private:
-  OpeningRoad& road_;
+  OpeningSequence& sequence_;
 };
 // clang-format on

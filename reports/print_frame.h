@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/checked_int.h"
 #include "runtime/printer.h"
-#include "runtime/words.h"
 #include "screen/frmPage1.h"
 
 namespace reports {

@@ -34,7 +34,7 @@ std::string TotalOfName(std::string_view lead, std::string_view name, std::int64
 }
 
 std::string TotalOfGenre(std::string_view lead, std::string_view name, std::int64_t films) {
-  return std::string(lead).append(name) + " Films " + runtime::S(films) + " ";
+  return std::string(lead).append(name) + " Films " + runtime::NumberText(films) + " ";
 }
 
 }  // namespace

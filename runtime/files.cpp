@@ -16,11 +16,11 @@ constexpr std::size_t ReadAheadBytes = 256 * 1024;
 }  // namespace
 
 // Text: the content of an input file from Position on, or what has been written to an output file so far.
-struct Files::OpenFile {
+struct Files::NumberedFile {
   enum class Use { Random, Input, Output } As;
   std::string Name;
   int RecordLength = 0;
-  std::optional<Opened> Handle;
+  std::optional<OpenFile> Handle;
   std::string Text;
   std::size_t Position = 0;
   // What was read ahead of a random file: so many bytes, and where they begin. The buffer is made once and never
@@ -34,7 +34,7 @@ struct Files::OpenFile {
   std::string_view Fetch(std::int64_t offset);
 };
 
-std::string_view Files::OpenFile::Fetch(std::int64_t offset) {
+std::string_view Files::NumberedFile::Fetch(std::int64_t offset) {
   auto length = static_cast<std::size_t>(RecordLength);
   std::int64_t ahead_end = AheadFrom + static_cast<std::int64_t>(AheadLength);
   if (AheadLength == 0 || offset < AheadFrom || offset + RecordLength > ahead_end) {
@@ -51,12 +51,12 @@ std::string_view Files::OpenFile::Fetch(std::int64_t offset) {
 Files::Files(runtime::Disk& disk) : disk_(disk), journal_(disk) {}
 Files::~Files() = default;
 
-Files::OpenFile& Files::At(int number) {
+Files::NumberedFile& Files::At(int number) {
   if (!IsOpen(number)) throw Failure{BadFileNumber, ""};
   return *files_[number - 1];
 }
 
-std::unique_ptr<Files::OpenFile>& Files::Free(int number, std::string_view name) {
+std::unique_ptr<Files::NumberedFile>& Files::Free(int number, std::string_view name) {
   if (number < 1 || number > static_cast<int>(files_.size())) throw Failure{BadFileNumber, std::string(name)};
   if (files_[number - 1]) throw Failure{FileAlreadyOpen, std::string(name)};
   return files_[number - 1];
@@ -68,8 +68,8 @@ bool Files::IsOpen(int number) const {
 
 void Files::OpenRandom(int number, std::string_view name, int record_length) {
   auto& slot = Free(number, name);
-  auto file = std::make_unique<OpenFile>();
-  file->As = OpenFile::Use::Random;
+  auto file = std::make_unique<NumberedFile>();
+  file->As = NumberedFile::Use::Random;
   file->Name = name;
   file->RecordLength = record_length;
   file->Handle.emplace(disk_, file->Name, Disk::Mode::Create);
@@ -79,10 +79,10 @@ void Files::OpenRandom(int number, std::string_view name, int record_length) {
 
 void Files::OpenInput(int number, std::string_view name) {
   auto& slot = Free(number, name);
-  auto file = std::make_unique<OpenFile>();
-  file->As = OpenFile::Use::Input;
+  auto file = std::make_unique<NumberedFile>();
+  file->As = NumberedFile::Use::Input;
   file->Name = name;
-  Opened handle(disk_, file->Name, Disk::Mode::Read);
+  OpenFile handle(disk_, file->Name, Disk::Mode::Read);
   file->Text.resize(static_cast<std::size_t>(handle.Length()));
   file->Text.resize(handle.Read(file->Text.data(), file->Text.size(), 0));
   slot = std::move(file);
@@ -90,22 +90,22 @@ void Files::OpenInput(int number, std::string_view name) {
 
 void Files::OpenOutput(int number, std::string_view name) {
   auto& slot = Free(number, name);
-  slot = std::make_unique<OpenFile>();
-  slot->As = OpenFile::Use::Output;
+  slot = std::make_unique<NumberedFile>();
+  slot->As = NumberedFile::Use::Output;
   slot->Name = name;
 }
 
 void Files::Close(int number) {
   if (!IsOpen(number)) return;
-  std::unique_ptr<OpenFile> file = std::move(files_[number - 1]);
-  if (file->As != OpenFile::Use::Output) return;
+  std::unique_ptr<NumberedFile> file = std::move(files_[number - 1]);
+  if (file->As != NumberedFile::Use::Output) return;
   ReplaceFile(disk_, file->Name, file->Text);
   Replaced(file->Name);
 }
 
 std::string_view Files::Peek(int number, std::int64_t record) {
-  OpenFile& file = At(number);
-  if (file.As != OpenFile::Use::Random) throw Failure{BadFileNumber, file.Name};
+  NumberedFile& file = At(number);
+  if (file.As != NumberedFile::Use::Random) throw Failure{BadFileNumber, file.Name};
   if (record < 1) throw Failure{BadRecordNumber, file.Name};
   return file.Fetch((record - 1) * file.RecordLength);
 }
@@ -120,16 +120,16 @@ bool Files::Get(int number, std::int64_t record, char* target) {
 }
 
 void Files::Put(int number, std::int64_t record, const char* source) {
-  OpenFile& file = At(number);
-  if (file.As != OpenFile::Use::Random) throw Failure{BadFileNumber, file.Name};
+  NumberedFile& file = At(number);
+  if (file.As != NumberedFile::Use::Random) throw Failure{BadFileNumber, file.Name};
   if (record < 1) throw Failure{BadRecordNumber, file.Name};
   file.Forget();
   journal_.Write(*file.Handle, record, {source, static_cast<std::size_t>(file.RecordLength)});
 }
 
 std::string Files::ReadItem(int number) {
-  OpenFile& file = At(number);
-  if (file.As != OpenFile::Use::Input) throw Failure{BadFileNumber, file.Name};
+  NumberedFile& file = At(number);
+  if (file.As != NumberedFile::Use::Input) throw Failure{BadFileNumber, file.Name};
   if (file.Position >= file.Text.size()) throw Failure{InputPastEnd, file.Name};
   std::string_view rest = std::string_view(file.Text).substr(file.Position);
   std::string_view line = rest.substr(0, rest.find('\n'));
@@ -139,24 +139,24 @@ std::string Files::ReadItem(int number) {
 }
 
 void Files::WriteLine(int number, std::string_view line) {
-  OpenFile& file = At(number);
-  if (file.As != OpenFile::Use::Output) throw Failure{BadFileNumber, file.Name};
+  NumberedFile& file = At(number);
+  if (file.As != NumberedFile::Use::Output) throw Failure{BadFileNumber, file.Name};
   file.Text.append(line).append("\r\n");
 }
 
 std::int64_t Files::Length(int number) {
-  OpenFile& file = At(number);
+  NumberedFile& file = At(number);
   return file.Handle ? file.Handle->Length() : static_cast<std::int64_t>(file.Text.size());
 }
 
 std::int64_t Files::Length(std::string_view name) {
-  return Opened(disk_, std::string(name), Disk::Mode::Read).Length();
+  return OpenFile(disk_, std::string(name), Disk::Mode::Read).Length();
 }
 
 void Files::Replaced(std::string_view name) {
   for (auto& file : files_) {
-    if (!file || file->As != OpenFile::Use::Random || file->Name != name) continue;
-    Opened fresh(disk_, file->Name, Disk::Mode::Create);
+    if (!file || file->As != NumberedFile::Use::Random || file->Name != name) continue;
+    OpenFile fresh(disk_, file->Name, Disk::Mode::Create);
     file->Handle.emplace(std::move(fresh));
     file->Forget();
   }

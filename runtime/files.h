@@ -55,13 +55,13 @@ class Files {
   void Replaced(std::string_view name);
 
  private:
-  struct OpenFile;
-  OpenFile& At(int number);
-  std::unique_ptr<OpenFile>& Free(int number, std::string_view name);
+  struct NumberedFile;
+  NumberedFile& At(int number);
+  std::unique_ptr<NumberedFile>& Free(int number, std::string_view name);
 
   runtime::Disk& disk_;
   RecordJournal journal_;
-  std::array<std::unique_ptr<OpenFile>, 5> files_;
+  std::array<std::unique_ptr<NumberedFile>, 5> files_;
 };
 
 }  // namespace runtime

@@ -19,7 +19,7 @@ void Printer::Print(std::span<const PrintItem> items) {
     } else if (const auto* text = std::get_if<std::string_view>(&item)) {
       Put(*text);
     } else {
-      Put(S(std::get<NumberItem>(item).Value) + ' ');
+      Put(NumberText(std::get<NumberItem>(item).Value) + ' ');
     }
   }
   EndLine();

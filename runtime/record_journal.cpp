@@ -41,7 +41,7 @@ bool IsFilm(std::string_view record) {
 }
 
 // The place of an entry that was cut short is taken by the next.
-void KeepInHistory(const Opened& history, std::int64_t slot, std::string_view film) {
+void KeepInHistory(const OpenFile& history, std::int64_t slot, std::string_view film) {
   std::array<char, 16> number{};
   std::snprintf(number.data(), number.size(), " %07lld ", static_cast<long long>(slot));
   std::string entry = StampText(LocalTime()) + number.data() + std::string(film);
@@ -74,7 +74,7 @@ std::string Bytes(const Block& block) {
 std::optional<Block> ReadBlock(Disk& disk, std::string_view file_name, int record_length) {
   std::string bytes(sizeof(BlockHead) + 2 * record_length + sizeof(std::uint64_t), '\0');
   try {
-    Opened journal(disk, JournalName(), Disk::Mode::Read);
+    OpenFile journal(disk, JournalName(), Disk::Mode::Read);
     if (journal.Read(bytes.data(), bytes.size(), 0) != bytes.size()) return std::nullopt;
   } catch (const Failure& failure) {
     if (failure.Name == FileNotFound) return std::nullopt;
@@ -116,14 +116,14 @@ bool IsMixture(std::string_view found, std::string_view one, std::string_view ot
   return true;
 }
 
-void TakeBack(const Opened& file, const Stretch& stretch) {
+void TakeBack(const OpenFile& file, const Stretch& stretch) {
   auto held = static_cast<std::size_t>(stretch.LengthBefore - stretch.From);
   file.Write(std::string_view(stretch.Old).substr(0, held), stretch.From);
   if (stretch.LengthAfter > stretch.LengthBefore) file.Truncate(stretch.LengthBefore);
 }
 
 // After a failed sync as well: the bytes have to be written again, since nobody knows which of them the disk holds.
-void TryToTakeBack(const Opened& file, const Stretch& stretch) {
+void TryToTakeBack(const OpenFile& file, const Stretch& stretch) {
   try {
     TakeBack(file, stretch);
   } catch (const Failure&) {
@@ -133,7 +133,7 @@ void TryToTakeBack(const Opened& file, const Stretch& stretch) {
 
 }  // namespace
 
-void RecordJournal::Write(const Opened& file, std::int64_t slot, std::string_view record) {
+void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_view record) {
   std::int64_t offset = (slot - 1) * static_cast<std::int64_t>(record.size());
   Block block{{}, std::string(record.size(), '\0'), std::string(record)};
   block.Head.LengthBefore = file.Length();
@@ -158,8 +158,8 @@ void RecordJournal::Write(const Opened& file, std::int64_t slot, std::string_vie
 
 void RecordJournal::Prepare(const std::string& block, std::int64_t slot, std::string_view film) {
   MakeSafetyFolder(disk_);
-  Opened history(disk_, HistoryName(), Disk::Mode::Create);
-  Opened journal(disk_, JournalName(), Disk::Mode::Create);
+  OpenFile history(disk_, HistoryName(), Disk::Mode::Create);
+  OpenFile journal(disk_, JournalName(), Disk::Mode::Create);
   if (!film.empty()) KeepInHistory(history, slot, film);
   journal.Write(block, 0);
   journal.Sync();
@@ -168,7 +168,7 @@ void RecordJournal::Prepare(const std::string& block, std::int64_t slot, std::st
   folders_synced_ = true;
 }
 
-void RecordJournal::Recover(const Opened& file, int record_length) {
+void RecordJournal::Recover(const OpenFile& file, int record_length) {
   folders_synced_ = false;
   std::optional<Block> block = ReadBlock(disk_, file.Name(), record_length);
   if (!block) return;

@@ -28,10 +28,10 @@ class RecordJournal {
   // Writes the record, from 1, at its slot; past the end of the file blanks go before it, "Bad record number" where
   // those would be more than a gigabyte. It returns when the record is on the disk; on a failure the old record is put
   // back as far as the disk allows.
-  void Write(const Opened& file, std::int64_t slot, std::string_view record);
+  void Write(const OpenFile& file, std::int64_t slot, std::string_view record);
   // To be called when the file has been opened: finishes or takes back a write of ours that was cut short; leaves
   // everything else as it is.
-  void Recover(const Opened& file, int record_length);
+  void Recover(const OpenFile& file, int record_length);
 
  private:
   // The block is in the journal, the film, where one goes, in the history, both on the disk.

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <system_error>
 
+#include "runtime/checked_int.h"
 #include "runtime/failure.h"
-#include "runtime/words.h"
 
 namespace runtime {
 namespace {
@@ -87,7 +87,7 @@ std::size_t PositionOfCapitals(std::string_view text, std::string_view capitals)
   return 0;
 }
 
-std::string S(std::int64_t number) {
+std::string NumberText(std::int64_t number) {
   std::string text = number < 0 ? "" : " ";
   return text += std::to_string(number);
 }

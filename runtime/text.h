@@ -27,7 +27,7 @@ std::size_t Position(std::string_view text, std::string_view sought);
 std::size_t PositionOfCapitals(std::string_view text, std::string_view capitals);
 
 // The decimal text with one leading blank where a minus sign would stand: " 5", "-5".
-std::string S(std::int64_t number);
+std::string NumberText(std::int64_t number);
 
 // Leading blanks, then a sign, digits and a decimal point as far as they go; 0 for a text without.
 double NumericValue(std::string_view text);

@@ -10,63 +10,65 @@ std::int64_t Checked(std::int64_t result, std::string_view file) {
   return result;
 }
 
-Opened::Opened(Disk& disk, std::string name, Disk::Mode mode) : disk_(&disk), name_(std::move(name)) {
-  handle_ = static_cast<int>(Called(name_, [&] { return disk.Open(name_, mode); }));
+OpenFile::OpenFile(Disk& disk, std::string name, Disk::Mode mode) : disk_(&disk), name_(std::move(name)) {
+  handle_ = static_cast<int>(RetryInterrupted(name_, [&] { return disk.Open(name_, mode); }));
 }
 
-Opened::Opened(Opened&& other) noexcept
+OpenFile::OpenFile(OpenFile&& other) noexcept
     : disk_(other.disk_), name_(std::move(other.name_)), handle_(std::exchange(other.handle_, -1)) {}
 
-Opened::~Opened() {
+OpenFile::~OpenFile() {
   if (handle_ >= 0) disk_->Close(handle_);
 }
 
-std::int64_t Opened::Length() const {
-  return Called(name_, [&] { return disk_->Length(handle_); });
+std::int64_t OpenFile::Length() const {
+  return RetryInterrupted(name_, [&] { return disk_->Length(handle_); });
 }
 
-std::size_t Opened::Read(char* target, std::size_t count, std::int64_t offset) const {
+std::size_t OpenFile::Read(char* target, std::size_t count, std::int64_t offset) const {
   std::size_t done = 0;
   while (done < count) {
     std::int64_t from = offset + static_cast<std::int64_t>(done);
-    std::int64_t part = Called(name_, [&] { return disk_->ReadAt(handle_, target + done, count - done, from); });
+    std::int64_t part =
+        RetryInterrupted(name_, [&] { return disk_->ReadAt(handle_, target + done, count - done, from); });
     if (part == 0) break;
     done += static_cast<std::size_t>(part);
   }
   return done;
 }
 
-void Opened::Write(std::string_view bytes, std::int64_t offset) const {
+void OpenFile::Write(std::string_view bytes, std::int64_t offset) const {
   while (!bytes.empty()) {
-    std::int64_t part = Called(name_, [&] { return disk_->WriteAt(handle_, bytes.data(), bytes.size(), offset); });
+    std::int64_t part =
+        RetryInterrupted(name_, [&] { return disk_->WriteAt(handle_, bytes.data(), bytes.size(), offset); });
     if (part == 0) throw Failure{DeviceError, name_};
     bytes.remove_prefix(static_cast<std::size_t>(part));
     offset += part;
   }
 }
 
-void Opened::Truncate(std::int64_t length) const {
-  Called(name_, [&] { return disk_->Truncate(handle_, length); });
+void OpenFile::Truncate(std::int64_t length) const {
+  RetryInterrupted(name_, [&] { return disk_->Truncate(handle_, length); });
 }
 
-void Opened::Sync() const {
-  Called(name_, [&] { return disk_->Sync(handle_); });
+void OpenFile::Sync() const {
+  RetryInterrupted(name_, [&] { return disk_->Sync(handle_); });
 }
 
 void MakeSafetyFolder(Disk& disk) {
-  Called(SafetyFolder, [&] { return disk.MakeFolder(std::string(SafetyFolder)); });
+  RetryInterrupted(SafetyFolder, [&] { return disk.MakeFolder(std::string(SafetyFolder)); });
 }
 
 void SyncFolders(Disk& disk, std::string_view file) {
-  Called(file, [&] { return disk.SyncFolder(std::string(SafetyFolder)); });
-  Called(file, [&] { return disk.SyncFolder(""); });
+  RetryInterrupted(file, [&] { return disk.SyncFolder(std::string(SafetyFolder)); });
+  RetryInterrupted(file, [&] { return disk.SyncFolder(""); });
 }
 
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
   MakeSafetyFolder(disk);
   std::string aside = InSafetyFolder(std::string(name) + std::string(AsideEnding));
   {
-    Opened file(disk, aside, Disk::Mode::Create);
+    OpenFile file(disk, aside, Disk::Mode::Create);
     file.Truncate(0);
     file.Write(content, 0);
     file.Sync();
@@ -75,7 +77,7 @@ void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
 }
 
 void TakePlace(Disk& disk, std::string_view aside, std::string_view name) {
-  Called(name, [&] { return disk.Rename(std::string(aside), std::string(name)); });
+  RetryInterrupted(name, [&] { return disk.Rename(std::string(aside), std::string(name)); });
   SyncFolders(disk, name);
 }
 

@@ -22,7 +22,7 @@ std::int64_t Checked(std::int64_t result, std::string_view file);
 // Makes a call of the disk, once more where a signal cut it short before it had done anything; the result, or the
 // Failure of its error number. Every call but Close, Remove and List goes through here.
 template <typename Call>
-std::int64_t Called(std::string_view file, Call call) {
+std::int64_t RetryInterrupted(std::string_view file, Call call) {
   std::int64_t result = 0;
   do {
     result = call();
@@ -31,13 +31,13 @@ std::int64_t Called(std::string_view file, Call call) {
 }
 
 // An open handle that closes itself.
-class Opened {
+class OpenFile {
  public:
   // Throws where the file cannot be opened.
-  Opened(Disk& disk, std::string name, Disk::Mode mode);
-  Opened(Opened&& other) noexcept;
-  Opened& operator=(Opened&&) = delete;
-  ~Opened();
+  OpenFile(Disk& disk, std::string name, Disk::Mode mode);
+  OpenFile(OpenFile&& other) noexcept;
+  OpenFile& operator=(OpenFile&&) = delete;
+  ~OpenFile();
 
   const std::string& Name() const { return name_; }
   std::int64_t Length() const;

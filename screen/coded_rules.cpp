@@ -6,7 +6,7 @@
 using store::FilmField;
 
 void frmPage1::txtFormat_Change() {
-  HelpContext = txtFormat.Keys.TopicId;
+  HelpContext = txtFormat.Ids.TopicId;
   if (EditMode == 1 && txtFormat.Text() == "V") {
     txtFormat.SetText("VHS");
     txtCLV1.Disable();
@@ -47,7 +47,7 @@ void frmPage1::StoreFormatLetter() {
 }
 
 void frmPage1::txtLetter_Change() {
-  HelpContext = txtLetter.Keys.TopicId;
+  HelpContext = txtLetter.Ids.TopicId;
   if (EditMode == 1 && List4.ListIndex() >= 0) txtLetter.SetText(List4.Selected());
   if (auto letter = store::CodeOf(store::Aspects, txtLetter.Text())) CurrentFilm.Set(FilmField::Letter, *letter);
   if (EditMode != 0) return;

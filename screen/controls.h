@@ -1,4 +1,4 @@
-// Every control of the record screen, one row each: name, keys (tab position, help id, topic id), look, place on the
+// Every control of the record screen, one row each: name, ids (tab position, help id, topic id), look, place on the
 // grid of 8655 by 7200 twips. Later rows lie over earlier ones. The story names of the star fields carry the index of
 // their control arrays.
 #pragma once
@@ -60,9 +60,9 @@ class GridColumn {
  private:
   template <std::size_t... Row>
   GridColumn(forms::Window& owner, const GridColumnRow& column, std::index_sequence<Row...>)
-      : rows_{forms::TextBox(owner, std::string(column.Name) + "(" + std::to_string(Row) + ")", KeysOf(column, Row),
+      : rows_{forms::TextBox(owner, std::string(column.Name) + "(" + std::to_string(Row) + ")", IdsOf(column, Row),
                              GridLook, forms::Align::Left, PlaceOf(column, Row))...} {}
-  static forms::Keys KeysOf(const GridColumnRow& column, int row) {
+  static forms::ControlIds IdsOf(const GridColumnRow& column, int row) {
     return {row < column.SplitRow ? column.FirstTab + row : column.SplitTab + row - column.SplitRow, 0, 0};
   }
   static forms::Place PlaceOf(const GridColumnRow& column, int row) {

@@ -6,7 +6,7 @@
 using store::FilmField;
 
 void frmPage1::cmdDelete_Click() {
-  HelpContext = cmdDelete.Keys.HelpId;
+  HelpContext = cmdDelete.Ids.HelpId;
   if (ListState == 1 || ListState == 2) return;
   List4.Empty();  // a new film can leave it full, and the aspect would follow it
   cmdEdit_Click();

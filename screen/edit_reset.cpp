@@ -2,7 +2,7 @@
 #include "screen/frmPage1.h"
 
 void frmPage1::cmdEdit_Click() {
-  HelpContext = cmdEdit.Keys.HelpId;
+  HelpContext = cmdEdit.Ids.HelpId;
   if (ListState == 1 || ListState == 2) return;
   lblHead.Hide();
   lblSave.Hide();
@@ -22,7 +22,7 @@ void frmPage1::cmdEdit_Click() {
 }
 
 void frmPage1::cmdReset_Click() {
-  HelpContext = cmdReset.Keys.HelpId;
+  HelpContext = cmdReset.Ids.HelpId;
   ListShownAlso = 0;
   KeyFilePos = 0;
   ListShown = 0;

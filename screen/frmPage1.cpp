@@ -1,15 +1,15 @@
 // The record screen put together: the wiring of its handlers, and what they share.
 #include "screen/frmPage1.h"
 
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 #include "screen/entry_fields.h"
 #include "screen/record_boxes.h"
 #include "store/master_file.h"
 
-frmPage1::frmPage1(forms::Screen& screen, runtime::Files& files)
-    : Page1Controls(screen, "frmPage1", "Form1", screen::GridWidth, screen::GridHeight),
+frmPage1::frmPage1(forms::WindowStack& windows, runtime::Files& files)
+    : Page1Controls(windows, "frmPage1", "Form1", screen::GridWidth, screen::GridHeight),
       Files(files),
-      Desk(screen.Desk) {
+      Desk(windows.Desk) {
   Load = [this] { frmPage1_Load(); };
   Unload = [this] { frmPage1_Unload(); };
   MouseMove = [this] { frmPage1_MouseMove(); };
@@ -23,8 +23,6 @@ frmPage1::frmPage1(forms::Screen& screen, runtime::Files& files)
   WireSort();
   WireFind();
   WirePrefs();
-  WireCopy();
-  WireHelp();
   WireReports();
 }
 
@@ -38,6 +36,8 @@ void frmPage1::WireScreen() {
   WIRE(cmdDelete, Click);
   WIRE(mnuSave, Click);
   WIRE(mnuExit, Click);
+  WIRE(mnuCopy, Click);
+  WIRE(mnuHelp, Click);
   WIRE(optNotesoff, Click);
   WIRE(optnoteson, Click);
   WIRE(txtFormat, Change);
@@ -49,7 +49,7 @@ void frmPage1::WireScreen() {
   WIRE(txtYear, Change);
   for (forms::Button* button :
        {&cmdSort, &cmdSave, &cmdNew, &cmdNext, &cmdPrevious, &cmdEdit, &cmdReset, &cmdDelete, &cmdMatch}) {
-    button->MouseMove = [this, button] { HelpContext = button->Keys.HelpId; };
+    button->MouseMove = [this, button] { HelpContext = button->Ids.HelpId; };
   }
 }
 

@@ -16,15 +16,14 @@ struct EntryField;
 struct PagePair;
 struct SortPass;
 }  // namespace screen
-namespace store {
+namespace sort {
 class Sorter;
-}  // namespace store
+}  // namespace sort
 namespace prefs {
 enum class Group;
 enum class Occasion;
 struct GroupRow;
 }  // namespace prefs
-struct frmCopy;
 
 // Wires the handler Control_Event to that event of that control.
 #define WIRE(control, Event) control.Event = [this] { control##_##Event(); }
@@ -39,7 +38,7 @@ inline constexpr int SettingFileNo = 5;
 inline constexpr std::string_view BoxTitle = "Reelora Prima";
 
 struct frmPage1 : screen::Page1Controls, screen::RunState {
-  frmPage1(forms::Screen& screen, runtime::Files& files);
+  frmPage1(forms::WindowStack& windows, runtime::Files& files);
 
   runtime::Files& Files;
   forms::Desk& Desk;
@@ -47,8 +46,8 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   runtime::Printer Printer;
   // The window that Load shows or hides as the flag file "Fo1" says; nullptr where there is none.
   forms::Window* frmQuickStart = nullptr;
-  // The window that Copy Files opens; nullptr where there is none.
-  ::frmCopy* frmCopy = nullptr;
+  // Opens the copy window; not set where there is none.
+  forms::Handler OpenCopyWindow;
 
   // screen/
   void frmPage1_Load();
@@ -202,7 +201,7 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   void mnuMessColor_Click();
   void mnudefault_Click();
 
-  // filecopy/ and opening/
+  // screen/, the other windows
   void mnuCopy_Click();
   void mnuHelp_Click();
 
@@ -213,8 +212,6 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   void WireSort();
   void WireFind();
   void WirePrefs();
-  void WireCopy();
-  void WireHelp();
   void WireReports();
 
   // Start and display.
@@ -286,7 +283,7 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   // The sort run.
   void BeginSort();
   void MakePasses();
-  void MakePass(const screen::SortPass& pass, store::Sorter& sorter, std::int32_t& Numrec, std::int32_t& Retcode);
+  void MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec, std::int32_t& Retcode);
 
   // Files and boxes.
   void ReadRecord(std::int64_t record);

@@ -27,7 +27,7 @@ void frmPage1::txtRatings_LostFocus() {
     lblSorting.SetCaption(std::string(60, ' ') + "You Must Save And Sort Your Work!");
   }
   Files.OpenOutput(CountFileNo, "Last");
-  Files.WriteLine(CountFileNo, runtime::S(CurrentRecNo) + " ");
+  Files.WriteLine(CountFileNo, runtime::NumberText(CurrentRecNo) + " ");
   Files.Close(CountFileNo);
   LastEntryRecNo = std::to_string(CurrentRecNo);
 }

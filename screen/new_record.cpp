@@ -5,7 +5,7 @@
 using store::FilmField;
 
 void frmPage1::cmdNew_Click() {
-  HelpContext = cmdNew.Keys.HelpId;
+  HelpContext = cmdNew.Ids.HelpId;
   if (SearchState > 0) return;
   lblSave.Hide();
   FileNoAnswer.clear();
@@ -27,7 +27,7 @@ void frmPage1::cmdNew_Click() {
   optNotesoff.Select();
   PageFlag = 0;
   txtTitle.SetFocus();
-  SetCaption("Reelora Record Prima" + runtime::S(CurrentRecNo) + "/" + runtime::S(RecordCount));
+  SetCaption("Reelora Record Prima" + runtime::NumberText(CurrentRecNo) + "/" + runtime::NumberText(RecordCount));
   txtCLV1.Show();
   txtColor1.Show();
   lblSorting.Show();

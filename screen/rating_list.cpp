@@ -7,7 +7,7 @@ void frmPage1::txtRating_GotFocus() {
   EnterField(&frmPage1::txtRating);
   if (EditMode != 1 && NewMode != 1) return;
   List2.Show();
-  for (std::string_view rating : store::Ratings) List2.Add(rating);
+  for (std::string_view rating : store::RatingCodes) List2.Add(rating);
   List2.SetFocus();
   List2.Select(0);
 }

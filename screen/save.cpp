@@ -80,7 +80,7 @@ void frmPage1::MoveArticle() {
 }
 
 void frmPage1::cmdSave_Click() {
-  HelpContext = cmdSave.Keys.HelpId;
+  HelpContext = cmdSave.Ids.HelpId;
   for (forms::ListBox* list : {&List4, &List5, &List6}) list->Hide();
   cmdPrevious.Enable();
   if (EditMode == 1) lblSave.Show();

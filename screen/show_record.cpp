@@ -76,7 +76,8 @@ void frmPage1::ShowRecord() {
 
 // The title bar, and the heading where the view has one.
 void frmPage1::ShowHeading() {
-  std::string title = "Reelora Prima Record " + runtime::S(CurrentRecNo) + "/" + runtime::S(RecordCount);
+  std::string title =
+      "Reelora Prima Record " + runtime::NumberText(CurrentRecNo) + "/" + runtime::NumberText(RecordCount);
   for (const ViewTexts& view : Views) {
     if (ViewKind != view.Kind) continue;
     title += view.Suffix;

@@ -2,8 +2,8 @@
 // file anew, with its label and its beep.
 #include "forms/desk.h"
 #include "screen/frmPage1.h"
+#include "sort/operation.h"
 #include "store/master_file.h"
-#include "store/sort_operation.h"
 
 namespace screen {
 
@@ -47,7 +47,7 @@ void frmPage1::WireSort() {
 }
 
 void frmPage1::cmdSort_Click() {
-  HelpContext = cmdSort.Keys.HelpId;
+  HelpContext = cmdSort.Ids.HelpId;
   BeginSort();
   MakePasses();
   cmdReset.Show();
@@ -68,9 +68,9 @@ void frmPage1::BeginSort() {
 void frmPage1::MakePasses() {
   std::int32_t Numrec = 0;
   std::int32_t Retcode = 0;
-  store::Sorter sorter(Files.Disk());
+  sort::Sorter sorter(Files.Disk());
   for (const screen::SortPass& pass : Passes) MakePass(pass, sorter, Numrec, Retcode);
-  lblNumrec.SetCaption(runtime::S(Numrec));
+  lblNumrec.SetCaption(runtime::NumberText(Numrec));
   Desk.Beep();
   ReadCounts();
   for (forms::Label* label : {&lblSorting, &lblNumrec, &lblRetcode}) label->SetCaption("");
@@ -78,7 +78,7 @@ void frmPage1::MakePasses() {
 }
 
 // A pass that fails shows its status and leaves the old key file; its count file is written all the same.
-void frmPage1::MakePass(const screen::SortPass& pass, store::Sorter& sorter, std::int32_t& Numrec,
+void frmPage1::MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec,
                         std::int32_t& Retcode) {
   OpenKeyFile(pass.KeyFile);
   lblSorting.Show();
@@ -87,9 +87,9 @@ void frmPage1::MakePass(const screen::SortPass& pass, store::Sorter& sorter, std
   SortIncludeValue = pass.IncludeValue;
   SortStatement = StatementOf(pass);
   sorter.Sort(store::MasterFileName, pass.KeyFile, SortStatement, Numrec, Retcode);
-  if (Retcode == store::SortDone) Files.Replaced(pass.KeyFile);
-  lblNumrec.SetCaption(runtime::S(Numrec));
-  lblRetcode.SetCaption(runtime::S(Retcode));
+  if (Retcode == sort::SortDone) Files.Replaced(pass.KeyFile);
+  lblNumrec.SetCaption(runtime::NumberText(Numrec));
+  lblRetcode.SetCaption(runtime::NumberText(Retcode));
   KeyFileLeftBySort = pass.StaysOpen;
   if (!pass.StaysOpen) {
     Files.Close(KeyFileNo);

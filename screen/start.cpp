@@ -57,7 +57,8 @@ void frmPage1::frmPage1_Load() {
 
 void frmPage1::OpenCollection() {
   MasterFileNo = 1;
-  if (ViewKind == "") SetCaption("Reelora Prima Record " + runtime::S(CurrentRecNo) + "/" + runtime::S(RecordCount));
+  if (ViewKind == "")
+    SetCaption("Reelora Prima Record " + runtime::NumberText(CurrentRecNo) + "/" + runtime::NumberText(RecordCount));
   CurrentRecNo = 1;
   store::OpenMaster(Files, static_cast<int>(MasterFileNo));
   ReadRecord(CurrentRecNo);

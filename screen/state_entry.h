@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "runtime/words.h"
+#include "runtime/checked_int.h"
 
 namespace screen {
 
@@ -49,7 +49,7 @@ class Number final : public StateEntry {
   std::variant<std::int64_t, std::string> Read() const override { return word_; }
 
  private:
-  runtime::Word<Width> word_;
+  runtime::CheckedInt<Width> word_;
 };
 
 using Number16 = Number<std::int16_t>;

@@ -46,7 +46,7 @@ inline constexpr std::array<GenreRow, 20> Genres = {{
   { "WE", "Western",          "WE = Western" },
 }};
 
-inline constexpr std::array<std::string_view, 13> Ratings = {
+inline constexpr std::array<std::string_view, 13> RatingCodes = {
   "G", "PG", "PG-13", "R", "NC-17", "XXX", "TV-Y", "TV-Y7", "TV-G", "TV-PG", "TV-14", "TV-MA", "NR",
 };
 // clang-format on

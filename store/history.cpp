@@ -27,7 +27,7 @@ bool IsSlot(std::string_view text) {
 std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
   std::vector<KeptFilm> films;
   try {
-    runtime::Opened history(disk, runtime::InSafetyFolder(runtime::HistoryFile), runtime::Disk::Mode::Read);
+    runtime::OpenFile history(disk, runtime::InSafetyFolder(runtime::HistoryFile), runtime::Disk::Mode::Read);
     std::string entry(EntryLength, '\0');
     for (std::int64_t number = 1;; ++number) {
       if (history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) < EntryLength)

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "runtime/words.h"
+#include "runtime/checked_int.h"
 
 namespace store {
 

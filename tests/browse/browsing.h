@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "app/program.h"
 #include "bench/quiet_desk.h"
-#include "opening/program.h"
 #include "tests/story/fresh_folder.h"
 #include "tests/story/set_up.h"
 

@@ -89,7 +89,7 @@ struct PlayedProgram {
   std::string Seen() const {
     std::string seen = Desk.Log;
     for (const screen::StateEntry* state : Running.RecordScreen.Entries()) seen += "\n" + Seen(*state);
-    for (const forms::Window* window : Running.Screen.Windows()) {
+    for (const forms::Window* window : Running.Windows.All()) {
       seen += "\n" + window->Name + (window->Visible() ? " " : " hidden ") + window->Caption();
       if (window->Focus()) seen += " focus " + window->Focus()->Name;
       for (const forms::Control* control : window->Controls()) seen += "\n" + Seen(*control);
@@ -142,7 +142,7 @@ std::string ControlAtRandom(const forms::Window& window, Dice& dice) {
 
 // One action by the dice, as a line of what it was; on both programs.
 std::string ActAtRandom(PlayedProgram& one, PlayedProgram& other, Dice& dice) {
-  const forms::Window& window = *one.Running.Screen.Front();
+  const forms::Window& window = *one.Running.Windows.Front();
   auto both = [&](auto action) { action(*one.Player), action(*other.Player); };
   const forms::Control* holder = window.Focus();
   if (holder && holder->Kind == forms::Kind::ListBox && Throw(dice, 2) == 0) {

@@ -52,8 +52,8 @@ void CheckControl(const forms::Control& control, const desktop::FormView& form) 
 
 }  // namespace
 
-void CheckDrawn(const forms::Screen& screen, const desktop::ScreenView& view) {
-  for (const forms::Window* window : screen.Windows()) {
+void CheckDrawn(const forms::WindowStack& windows, const desktop::ScreenView& view) {
+  for (const forms::Window* window : windows.All()) {
     desktop::FormView* form = view.ViewOf(*window);
     See(window->Visible() == (form && form->isVisible()), window->Name, "visibility");
     if (!window->Visible()) continue;

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "desktop/screen_view.h"
-#include "forms/screen.h"
+#include "forms/window_stack.h"
 
 namespace story {
 
 // Throws Unplayable for the first widget that differs from its control.
-void CheckDrawn(const forms::Screen& screen, const desktop::ScreenView& view);
+void CheckDrawn(const forms::WindowStack& windows, const desktop::ScreenView& view);
 
 }  // namespace story

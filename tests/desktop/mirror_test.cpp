@@ -104,7 +104,7 @@ TEST_F(Mirror, ALabelShrinksItsLettersUntilItsTextFits) {
 }
 
 TEST_F(Mirror, AWindowThatIsNotVisibleIsNotDrawn) {
-  SmallForm other(Screen);
+  SmallForm other(Windows);
   View.Sync();
   EXPECT_EQ(View.ViewOf(other), nullptr);
 }

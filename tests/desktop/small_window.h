@@ -10,8 +10,8 @@
 #include "desktop/field_view.h"
 #include "desktop/screen_view.h"
 #include "forms/desk.h"
-#include "forms/screen.h"
 #include "forms/window.h"
+#include "forms/window_stack.h"
 #include "runtime/print_job.h"
 
 namespace desktop {
@@ -43,7 +43,7 @@ class CountingDesk final : public forms::Desk {
 };
 
 struct SmallForm : forms::Window {
-  explicit SmallForm(forms::Screen& screen) : forms::Window(screen, "Small", "Small", 6000, 4000) {
+  explicit SmallForm(forms::WindowStack& windows) : forms::Window(windows, "Small", "Small", 6000, 4000) {
     Title.Tag = &TitleTag;
     List.Hide();
     Closed.Disable();
@@ -71,9 +71,9 @@ class DrawnWindow {
   }
 
   CountingDesk Desk;
-  forms::Screen Screen{Desk};
-  SmallForm Form{Screen};
-  ScreenView View{Screen, [](const std::function<void()>& event) { event(); }};
+  forms::WindowStack Windows{Desk};
+  SmallForm Form{Windows};
+  ScreenView View{Windows, [](const std::function<void()>& event) { event(); }};
 
   FormView& Drawn() { return *View.ViewOf(Form); }
   QWidget& WidgetOf(const forms::Control& control) { return Drawn().ViewOf(control)->Widget(); }

@@ -52,7 +52,7 @@ bool InTextBox(const forms::Window& window) { return window.Focus() && window.Fo
 
 WidgetPlayer::WidgetPlayer(Program& program)
     : program_(program),
-      view_(program.Screen, [&program](const std::function<void()>& event) { program.Deliver(event); }) {}
+      view_(program.Windows, [&program](const std::function<void()>& event) { program.Deliver(event); }) {}
 
 QWidget* WidgetPlayer::FaceOf(const forms::Control& control) const {
   desktop::FormView* form = view_.ViewOf(control.Owner());
@@ -61,7 +61,7 @@ QWidget* WidgetPlayer::FaceOf(const forms::Control& control) const {
 }
 
 void WidgetPlayer::ClickOn(const std::string& name, bool twice) {
-  forms::Control& control = ControlNamed(program_.Screen, name);
+  forms::Control& control = ControlNamed(program_.Windows, name);
   QWidget* face = FaceOf(control);
   if (control.Kind == forms::Kind::MenuItem) {
     ChooseFromMenu(static_cast<forms::MenuItem&>(control));
@@ -80,17 +80,17 @@ void WidgetPlayer::ClickOn(const std::string& name, bool twice) {
 
 void WidgetPlayer::Move(const std::string& name) {
   QWidget* face = nullptr;
-  if (const forms::Window* window = FindWindow(program_.Screen, name)) {
+  if (const forms::Window* window = FindWindow(program_.Windows, name)) {
     if (desktop::FormView* form = view_.ViewOf(*window); form && form->isVisible()) face = &form->Surface();
   } else {
-    face = FaceOf(ControlNamed(program_.Screen, name));
+    face = FaceOf(ControlNamed(program_.Windows, name));
   }
   if (face) SendMouse(*face, QEvent::MouseMove, Qt::NoButton, face->rect().center());
   Settle();
 }
 
 void WidgetPlayer::Pick(const std::string& list, const std::string& item) {
-  forms::ListBox& box = ListNamed(program_.Screen, list);
+  forms::ListBox& box = ListNamed(program_.Windows, list);
   QWidget* face = FaceOf(box);
   if (!face || !box.Enabled() || program_.Ended()) return;
   ClickAt(*face, SpotOnItem(*face, ItemNamed(box, item)));
@@ -134,7 +134,7 @@ void WidgetPlayer::Type(const std::string& text) {
 }
 
 void WidgetPlayer::PressCharacter(char character) {
-  const forms::Window* front = program_.Screen.Front();
+  const forms::Window* front = program_.Windows.Front();
   if (front && InTextBox(*front)) Press(Qt::Key_End, Qt::NoModifier, {});
   QString shown = desktop::Shown({&character, 1});
   Press(shown.toUpper().at(0).unicode(), Qt::NoModifier, shown);
@@ -151,7 +151,7 @@ void WidgetPlayer::Press(int key, Qt::KeyboardModifiers modifiers, const QString
 }
 
 void WidgetPlayer::Clear() {
-  const forms::Window* front = program_.Screen.Front();
+  const forms::Window* front = program_.Windows.Front();
   if (!front || !InTextBox(*front)) return;
   Press(Qt::Key_A, Qt::ControlModifier, QStringLiteral("\x01"));
   Press(Qt::Key_Delete, Qt::NoModifier, QStringLiteral("\x7f"));
@@ -160,7 +160,7 @@ void WidgetPlayer::Clear() {
 
 void WidgetPlayer::Close(const std::string& window) {
   if (program_.Ended()) return;
-  if (desktop::FormView* form = view_.ViewOf(WindowNamed(program_.Screen, window)); form && form->isVisible())
+  if (desktop::FormView* form = view_.ViewOf(WindowNamed(program_.Windows, window)); form && form->isVisible())
     form->close();
   Settle();
 }
@@ -170,7 +170,7 @@ void WidgetPlayer::Settle() {
   if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
   view_.Paint();
   QApplication::processEvents();
-  CheckDrawn(program_.Screen, view_);
+  CheckDrawn(program_.Windows, view_);
 }
 
 void WidgetPlayer::Picture(const std::string& path) {

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "opening/program.h"
+#include "app/program.h"
 #include "tests/filecopy/answering_desk.h"
 #include "tests/safety/faulty_disk.h"
 #include "tests/safety/films.h"

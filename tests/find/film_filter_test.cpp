@@ -14,7 +14,7 @@ using find::FilmFilter;
 using store::FilmField;
 
 bool Passes(const FilmFilter& filter, const store::FilmRecord& film) {
-  return filter.CannotHold({film.Bytes.data(), film.Bytes.size()}, 1) == 1;
+  return filter.CountNonMatches({film.Bytes.data(), film.Bytes.size()}, 1) == 1;
 }
 
 FilmFilter FilterFor(std::string_view capitals, FilmField field) {
@@ -55,10 +55,10 @@ TEST(FilmFilter, StopsAtTheFirstThatMayHold) {
     records.append(film.Bytes.data(), film.Bytes.size());
   }
   FilmFilter filter = FilterFor("HITCH", FilmField::Director);
-  EXPECT_EQ(filter.CannotHold(records, 4), 2);
-  EXPECT_EQ(filter.CannotHold(records, 1), 1);
-  EXPECT_EQ(filter.CannotHold(std::string_view(records).substr(0, 2 * store::RecordLength - 1), 4), 1);
-  EXPECT_EQ(filter.CannotHold("", 4), 0);
+  EXPECT_EQ(filter.CountNonMatches(records, 4), 2);
+  EXPECT_EQ(filter.CountNonMatches(records, 1), 1);
+  EXPECT_EQ(filter.CountNonMatches(std::string_view(records).substr(0, 2 * store::RecordLength - 1), 4), 1);
+  EXPECT_EQ(filter.CountNonMatches("", 4), 0);
 }
 
 TEST(FilmFilter, TakesAnyFilmForAShortText) {

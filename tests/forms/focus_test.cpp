@@ -161,17 +161,17 @@ TEST_F(FocusTest, WithNoStopLeftNobodyHoldsIt) {
 
 TEST_F(FocusTest, AnotherWindowInFrontIsNoLostFocus) {
   ShowWithFocus(Window.First);
-  forms::Window other{Screen, "Other", "Another", 10, 10};
+  forms::Window other{Windows, "Other", "Another", 10, 10};
   other.Show();
   EXPECT_EQ(Taken(), Events{});
   EXPECT_EQ(Holder(), "First");
-  EXPECT_EQ(Screen.Front(), &other);
+  EXPECT_EQ(Windows.Front(), &other);
   Window.Show();
   EXPECT_EQ(Taken(), Events{});
-  EXPECT_EQ(Screen.Front(), &Window);
+  EXPECT_EQ(Windows.Front(), &Window);
   other.Hide();
   Window.Hide();
-  EXPECT_EQ(Screen.Front(), nullptr);
+  EXPECT_EQ(Windows.Front(), nullptr);
 }
 
 TEST_F(FocusTest, BeforeItIsShownAWindowHasNoHolder) {

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "forms/screen.h"
 #include "forms/window.h"
+#include "forms/window_stack.h"
 
 // A desk without a world: it notes what it was asked for, and answers OK, No, nothing or cancel.
 class CountingDesk final : public forms::Desk {
@@ -62,8 +62,8 @@ struct SmallWindow : forms::Window {
 struct SmallScreen {
   std::vector<std::string> Trace;
   CountingDesk Desk{Trace};
-  forms::Screen Screen{Desk};
-  SmallWindow Window{Screen, "Window", "A window", 100, 100};
+  forms::WindowStack Windows{Desk};
+  SmallWindow Window{Windows, "Window", "A window", 100, 100};
 
   SmallScreen() {
     for (forms::Control* control : Window.Controls()) {

@@ -1,7 +1,7 @@
 // The quick start window where its flag file cannot be read.
 #include <gtest/gtest.h>
 
-#include "opening/program.h"
+#include "app/program.h"
 #include "tests/filecopy/answering_desk.h"
 #include "tests/safety/films.h"
 #include "tests/safety/memory_disk.h"

@@ -1,7 +1,7 @@
 // What the colour dialog starts from.
 #include <gtest/gtest.h>
 
-#include "opening/program.h"
+#include "app/program.h"
 #include "tests/filecopy/answering_desk.h"
 #include "tests/safety/films.h"
 #include "tests/safety/memory_disk.h"

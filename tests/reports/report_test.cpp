@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "opening/program.h"
+#include "app/program.h"
 #include "tests/story/fresh_folder.h"
 #include "tests/story/set_up.h"
 

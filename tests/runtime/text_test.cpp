@@ -55,9 +55,9 @@ TEST(Text, PositionsCountFromOne) {
 }
 
 TEST(Text, NumbersAsTextKeepThePlaceOfTheSign) {
-  EXPECT_EQ(S(0), " 0");
-  EXPECT_EQ(S(1234), " 1234");
-  EXPECT_EQ(S(-5), "-5");
+  EXPECT_EQ(NumberText(0), " 0");
+  EXPECT_EQ(NumberText(1234), " 1234");
+  EXPECT_EQ(NumberText(-5), "-5");
 }
 
 TEST(Text, TheNumericValueGoesAsFarAsTheNumberDoes) {

@@ -12,9 +12,9 @@
 namespace safety {
 namespace {
 
-constexpr std::size_t MostStates = 4096;
-constexpr std::size_t MostStatesInRecovery = 64;
-constexpr std::size_t MostStatesAfterFault = 24;
+constexpr std::size_t MaxStates = 4096;
+constexpr std::size_t MaxStatesInRecovery = 64;
+constexpr std::size_t MaxStatesAfterFault = 24;
 
 std::string At(std::size_t moment, const std::string& complaint) {
   return complaint.empty() ? "" : "at moment " + std::to_string(moment) + ": " + complaint;
@@ -26,7 +26,7 @@ std::string TwiceComplaint(const Folder& state, const std::vector<Folder>& allow
   MemoryDisk disk(state);
   std::string complaint = Complaint(disk, allowed, before, fit);
   for (std::size_t moment = 1; complaint.empty() && moment < disk.Moments(); ++moment) {
-    for (const Folder& again : disk.AfterPowerLoss(moment, MostStatesInRecovery)) {
+    for (const Folder& again : disk.AfterPowerLoss(moment, MaxStatesInRecovery)) {
       complaint = Complaint(again, allowed, before, fit);
       if (!complaint.empty()) break;
     }
@@ -54,7 +54,7 @@ std::string PowerLossComplaint(const Road& road, const Fitting& fit) {
   for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
     auto steps =
         static_cast<std::size_t>(std::upper_bound(finished.begin(), finished.end(), moment) - finished.begin());
-    for (const Folder& state : memory.AfterPowerLoss(moment, MostStates)) {
+    for (const Folder& state : memory.AfterPowerLoss(moment, MaxStates)) {
       if (!seen.emplace(steps, state).second) continue;
       std::string complaint = TwiceComplaint(state, stations[steps], road.Before, fit);
       if (!complaint.empty()) return At(moment, complaint);
@@ -84,7 +84,7 @@ std::string PowerLossAfterFaultComplaint(const Road& road, Fault fault, const Fi
     std::set<Folder> seen;
     for (std::size_t moment = fault_moment; moment <= memory.Moments(); ++moment) {
       const std::vector<Folder>& allowed = moment == memory.Moments() ? after : during;
-      for (const Folder& state : memory.AfterPowerLoss(moment, MostStatesAfterFault)) {
+      for (const Folder& state : memory.AfterPowerLoss(moment, MaxStatesAfterFault)) {
         if (moment != memory.Moments() && !seen.insert(state).second) continue;
         std::string complaint = Complaint(state, allowed, road.Before, fit);
         if (!complaint.empty()) return "after a fault at call " + std::to_string(at) + ", " + At(moment, complaint);

@@ -13,7 +13,7 @@ namespace safety {
 namespace {
 
 using runtime::Disk;
-using runtime::Opened;
+using runtime::OpenFile;
 using runtime::RecordJournal;
 
 const std::string Master = "Recpra.Dat";
@@ -21,7 +21,7 @@ const std::string Journal = runtime::InSafetyFolder("journal");
 const std::string History = runtime::InSafetyFolder("history");
 
 void Write(Disk& disk, int slot, const std::string& record) {
-  Opened file(disk, Master, Disk::Mode::Create);
+  OpenFile file(disk, Master, Disk::Mode::Create);
   RecordJournal(disk).Write(file, slot, record);
 }
 
@@ -36,7 +36,7 @@ Folder Written() {
 std::string Recovered(Folder folder, const std::string& master) {
   folder[Master] = master;
   MemoryDisk disk(folder);
-  Opened file(disk, Master, Disk::Mode::Create);
+  OpenFile file(disk, Master, Disk::Mode::Create);
   RecordJournal(disk).Recover(file, store::RecordLength);
   return disk.Content().at(Master);
 }
@@ -60,7 +60,7 @@ TEST(Recovery, FinishesARecordTornAtAnyByte) {
 TEST(Recovery, LeavesTheOldAndTheNewRecord) {
   EXPECT_EQ(Recovered(Written(), Films(1, 8)), Films(1, 8));
   MemoryDisk disk(Written());
-  Opened file(disk, Master, Disk::Mode::Create);
+  OpenFile file(disk, Master, Disk::Mode::Create);
   RecordJournal(disk).Recover(file, store::RecordLength);
   EXPECT_EQ(disk.Content(), Written());
   EXPECT_EQ(disk.Moments(), 1U) << "something beside the sync";
@@ -108,7 +108,7 @@ TEST(Recovery, FailsWhereTheJournalCannotBeRead) {
   };
   MemoryDisk memory(Written());
   Unreadable disk(memory);
-  Opened file(disk, Master, Disk::Mode::Create);
+  OpenFile file(disk, Master, Disk::Mode::Create);
   EXPECT_THROW(RecordJournal(disk).Recover(file, store::RecordLength), runtime::Failure);
 }
 
@@ -139,7 +139,7 @@ TEST(Recovery, LeavesAnotherFileAlone) {
   Folder folder = Written();
   folder["Other.Dat"] = mixed;
   MemoryDisk disk(folder);
-  Opened file(disk, "Other.Dat", Disk::Mode::Create);
+  OpenFile file(disk, "Other.Dat", Disk::Mode::Create);
   RecordJournal(disk).Recover(file, store::RecordLength);
   EXPECT_EQ(disk.Content(), folder);
 }
@@ -203,7 +203,7 @@ TEST(RecordJournal, SyncsTheFoldersAtTheFirstWriteAfterEachOpening) {
   MemoryDisk memory(Written());
   Counting disk(memory);
   RecordJournal journal(disk);
-  Opened file(disk, Master, Disk::Mode::Create);
+  OpenFile file(disk, Master, Disk::Mode::Create);
   const std::vector<std::string> both = {".reelora", ""}, both_twice = {".reelora", "", ".reelora", ""};
   for (int version : {2, 3}) journal.Write(file, 7, FilmBytes(7, version));
   EXPECT_EQ(disk.Synced, both);

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "app/program.h"
 #include "bench/quiet_desk.h"
-#include "opening/program.h"
 
 namespace safety {
 

@@ -72,11 +72,11 @@ int SwitchedOff::Rename(const std::string& from, const std::string& to) {
   if (!IsOff(Safeguard::AsideRename)) return PassingDisk::Rename(from, to);
   std::string content;
   {
-    runtime::Opened source(Below(), from, Mode::Read);
+    runtime::OpenFile source(Below(), from, Mode::Read);
     content.resize(static_cast<std::size_t>(source.Length()));
     source.Read(content.data(), content.size(), 0);
   }
-  runtime::Opened target(Below(), to, Mode::Create);
+  runtime::OpenFile target(Below(), to, Mode::Create);
   target.Truncate(0);
   target.Write(content, 0);
   target.Sync();

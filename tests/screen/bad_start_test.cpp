@@ -4,8 +4,8 @@
 #include <cerrno>
 #include <filesystem>
 
+#include "app/program.h"
 #include "bench/quiet_desk.h"
-#include "opening/program.h"
 #include "tests/safety/passing_disk.h"
 #include "tests/story/fresh_folder.h"
 

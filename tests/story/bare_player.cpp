@@ -6,30 +6,30 @@
 namespace story {
 
 void BarePlayer::OnFront(const std::function<void(forms::Window&)>& event) {
-  if (forms::Window* window = program_.Screen.Front()) program_.Deliver([&] { event(*window); });
+  if (forms::Window* window = program_.Windows.Front()) program_.Deliver([&] { event(*window); });
 }
 
 void BarePlayer::Click(const std::string& name) {
-  forms::Control& control = ControlNamed(program_.Screen, name);
+  forms::Control& control = ControlNamed(program_.Windows, name);
   program_.Deliver([&] { control.Owner().UserClick(control); });
 }
 
 void BarePlayer::DblClick(const std::string& name) {
-  forms::Control& control = ControlNamed(program_.Screen, name);
+  forms::Control& control = ControlNamed(program_.Windows, name);
   program_.Deliver([&] { control.Owner().UserDblClick(control); });
 }
 
 void BarePlayer::Move(const std::string& name) {
-  if (forms::Window* window = FindWindow(program_.Screen, name)) {
+  if (forms::Window* window = FindWindow(program_.Windows, name)) {
     program_.Deliver([&] { window->UserMove(nullptr); });
     return;
   }
-  forms::Control& control = ControlNamed(program_.Screen, name);
+  forms::Control& control = ControlNamed(program_.Windows, name);
   program_.Deliver([&] { control.Owner().UserMove(&control); });
 }
 
 void BarePlayer::Pick(const std::string& list, const std::string& item) {
-  forms::ListBox& box = ListNamed(program_.Screen, list);
+  forms::ListBox& box = ListNamed(program_.Windows, list);
   if (program_.Ended() || !box.Owner().Visible() || !box.Visible() || !box.Enabled()) return;
   int index = ItemNamed(box, item);
   program_.Deliver([&] { box.Owner().UserPick(box, index); });
@@ -63,7 +63,7 @@ void BarePlayer::Clear() {
 
 void BarePlayer::Close(const std::string& window) {
   if (program_.Ended()) return;
-  forms::Window& target = WindowNamed(program_.Screen, window);
+  forms::Window& target = WindowNamed(program_.Windows, window);
   program_.Deliver([&] { target.UserClose(); });
 }
 

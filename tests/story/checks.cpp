@@ -112,8 +112,8 @@ void Compare(const Line& line, std::string_view expected, std::string_view came)
 }
 
 std::optional<Thing> FindThing(const Program& program, std::string_view name) {
-  if (const forms::Control* control = FindControl(program.Screen, name)) return Thing{control, nullptr};
-  if (const forms::Window* window = FindWindow(program.Screen, name)) return Thing{nullptr, window};
+  if (const forms::Control* control = FindControl(program.Windows, name)) return Thing{control, nullptr};
+  if (const forms::Window* window = FindWindow(program.Windows, name)) return Thing{nullptr, window};
   return std::nullopt;
 }
 
@@ -151,8 +151,8 @@ void SeeProperty(const Program& program, const Line& line) {
 
 void SeeFocus(const Program& program, const Line& line) {
   const std::string& name = line.Text(1);
-  if (name != "none") ControlNamed(program.Screen, name);
-  const forms::Window* front = program.Screen.Front();
+  if (name != "none") ControlNamed(program.Windows, name);
+  const forms::Window* front = program.Windows.Front();
   Compare(line, "the focus on " + name, "the focus on " + (front && front->Focus() ? front->Focus()->Name : "none"));
 }
 

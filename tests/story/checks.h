@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "opening/program.h"
+#include "app/program.h"
 #include "tests/story/story_file.h"
 #include "tests/story/world.h"
 

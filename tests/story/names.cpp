@@ -26,10 +26,10 @@ constexpr std::string_view Alt = "Alt+";
 
 }  // namespace
 
-forms::Control* FindControl(const forms::Screen& screen, std::string_view name) {
+forms::Control* FindControl(const forms::WindowStack& windows, std::string_view name) {
   forms::Control* best = nullptr;
   bool best_visible = false;
-  for (const forms::Window* window : screen.Windows()) {
+  for (const forms::Window* window : windows.All()) {
     for (forms::Control* control : window->Controls()) {
       // The windows come from the back to the front.
       if (control->Name != name || (best_visible && !window->Visible())) continue;
@@ -40,26 +40,26 @@ forms::Control* FindControl(const forms::Screen& screen, std::string_view name) 
   return best;
 }
 
-forms::Control& ControlNamed(const forms::Screen& screen, std::string_view name) {
-  forms::Control* control = FindControl(screen, name);
+forms::Control& ControlNamed(const forms::WindowStack& windows, std::string_view name) {
+  forms::Control* control = FindControl(windows, name);
   if (!control) Fail("control of the program", name);
   return *control;
 }
 
-forms::ListBox& ListNamed(const forms::Screen& screen, std::string_view name) {
-  forms::Control& control = ControlNamed(screen, name);
+forms::ListBox& ListNamed(const forms::WindowStack& windows, std::string_view name) {
+  forms::Control& control = ControlNamed(windows, name);
   if (control.Kind != forms::Kind::ListBox) Fail("list", name);
   return static_cast<forms::ListBox&>(control);
 }
 
-forms::Window* FindWindow(const forms::Screen& screen, std::string_view name) {
-  auto window = std::find_if(screen.Windows().begin(), screen.Windows().end(),
+forms::Window* FindWindow(const forms::WindowStack& windows, std::string_view name) {
+  auto window = std::find_if(windows.All().begin(), windows.All().end(),
                              [&](const forms::Window* candidate) { return candidate->Name == name; });
-  return window == screen.Windows().end() ? nullptr : *window;
+  return window == windows.All().end() ? nullptr : *window;
 }
 
-forms::Window& WindowNamed(const forms::Screen& screen, std::string_view name) {
-  forms::Window* window = name.empty() ? screen.Front() : FindWindow(screen, name);
+forms::Window& WindowNamed(const forms::WindowStack& windows, std::string_view name) {
+  forms::Window* window = name.empty() ? windows.Front() : FindWindow(windows, name);
   if (!window) Fail("window of the program", name.empty() ? "none that is visible" : name);
   return *window;
 }

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "opening/program.h"
+#include "app/program.h"
 
 namespace story {
 

@@ -1,0 +1,47 @@
+// The program's events: delivered one by one, with the one catch of failures around them.
+#include "app/program.h"
+
+#include <algorithm>
+
+#include "forms/window.h"
+#include "runtime/whole_io.h"
+
+Program::Program(forms::Desk& desk, runtime::Disk& disk)
+    : Windows(desk),
+      Files(disk),
+      RecordScreen(Windows, Files),
+      Opening(RecordScreen),
+      Opener(Windows, Opening),
+      Info(Windows, Opening),
+      QuickStart(Windows, Opening),
+      Copy(Windows, RecordScreen) {
+  Opening.frmOpener = &Opener;
+  Opening.frmInfo = &Info;
+  Opening.frmQuickStart = &QuickStart;
+  RecordScreen.frmQuickStart = &QuickStart;
+  RecordScreen.OpenCopyWindow = [this] { Copy.Open(); };
+  runtime::RemoveLeftovers(disk);
+}
+
+void Program::StartOpener() {
+  Deliver([this] { Opener.Show(); });
+}
+
+void Program::StartRecordScreen() {
+  Deliver([this] { RecordScreen.Show(); });
+}
+
+void Program::Deliver(const std::function<void()>& event) {
+  if (ended_) return;
+  try {
+    event();
+  } catch (const runtime::Failure& failure) {
+    ended_ = true;
+    stopped_ = failure;
+    Windows.Desk.FailureReport(failure.Name, failure.File);
+    return;
+  }
+  if (!Windows.Desk.Ended() && Windows.Front()) return;
+  ended_ = true;
+  Windows.Desk.Closed();
+}

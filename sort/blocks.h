@@ -1,0 +1,72 @@
+// Records of one length read from a file, or written to it, one after the other, in large blocks.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "runtime/whole_io.h"
+
+namespace sort {
+
+inline constexpr std::size_t BlockBytes = 256 * 1024;
+
+// Lengths in bytes, records from 0. Block: where they stand meanwhile, with room for one at least. A failure of the
+// file is thrown.
+class BlockReader {
+ public:
+  // Count: of records, which must be there.
+  BlockReader(const runtime::OpenFile& file, std::size_t record_length, std::int64_t first, std::int64_t count,
+              std::span<char> block)
+      : file_(file),
+        record_length_(record_length),
+        in_block_(static_cast<std::int64_t>(block.size() / record_length)),
+        next_(first),
+        end_(first + count),
+        block_(block.data()) {}
+
+  // The next record, good until the next call; nullptr behind the last.
+  const char* Next() {
+    if (at_ == filled_ && !Fill()) return nullptr;
+    const char* record = at_;
+    at_ += record_length_;
+    return record;
+  }
+
+ private:
+  bool Fill();
+
+  const runtime::OpenFile& file_;
+  std::size_t record_length_;
+  std::int64_t in_block_, next_, end_;
+  char* block_;
+  const char* at_ = nullptr;
+  const char* filled_ = nullptr;
+};
+
+class BlockWriter {
+ public:
+  BlockWriter(const runtime::OpenFile& file, std::size_t record_length, std::int64_t first, std::span<char> block)
+      : file_(file),
+        record_length_(record_length),
+        offset_(first * static_cast<std::int64_t>(record_length)),
+        block_(block) {}
+
+  // Where the next record is to be put.
+  char* Next() {
+    if (filled_ + record_length_ > block_.size()) Flush();
+    char* record = block_.data() + filled_;
+    filled_ += record_length_;
+    return record;
+  }
+  // Must follow the last record.
+  void Flush();
+
+ private:
+  const runtime::OpenFile& file_;
+  std::size_t record_length_, filled_ = 0;
+  std::int64_t offset_;
+  std::span<char> block_;
+};
+
+}  // namespace sort

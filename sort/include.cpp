@@ -1,0 +1,19 @@
+// The constant and what it is held against are compared by weight, as if both went on with blanks.
+#include "sort/include.h"
+
+#include <algorithm>
+
+namespace sort {
+
+SortInclude::SortInclude(const std::optional<IncludeTest>& test, const Weights& weights) : weights_(weights) {
+  if (!test) return;
+  span_ = test->Span;
+  std::string constant = test->Constant;
+  constant.resize(std::max(constant.size(), span_.Width), ' ');
+  for (char character : constant) constant_.push_back(weights_[static_cast<unsigned char>(character)]);
+  keeps_less_ = test->KeepsLess;
+  keeps_equal_ = test->KeepsEqual;
+  keeps_more_ = test->KeepsGreater;
+}
+
+}  // namespace sort

@@ -1,0 +1,171 @@
+// Two workers read a half of the input each; then they sort a half of the order each, below and from a window in the
+// middle, so that their outputs stand one behind the other.
+#include "sort/table.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "sort/blocks.h"
+
+namespace sort {
+
+SortTable::SortTable(const SortLayout& layout, std::int64_t records, std::int64_t room, SortWorkers* workers)
+    : layout_(layout),
+      records_(records),
+      holds_all_(room >= records),
+      workers_(workers),
+      block_length_(std::max(BlockBytes, layout.EntryLength())),
+      blocks_(std::make_unique_for_overwrite<char[]>((workers ? 2 : 1) * block_length_)),
+      entries_(std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(room) * layout.EntryLength())),
+      included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),
+      items_(std::make_unique_for_overwrite<SortItem[]>(static_cast<std::size_t>(room))),
+      scratch_(std::make_unique_for_overwrite<SortItem[]>(static_cast<std::size_t>(room) + 2)) {
+  const std::int64_t half = workers ? records / 2 : records;
+  const auto half_room = static_cast<std::size_t>(workers ? room / 2 : room);
+  parts_[0] = {0, half, 0, half_room, 0};
+  parts_[1] = {half, records, half_room, static_cast<std::size_t>(room) - half_room, 0};
+}
+
+std::span<char> SortTable::Block(int worker) {
+  return {blocks_.get() + (workers_ ? static_cast<std::size_t>(worker) : 0) * block_length_, block_length_};
+}
+
+std::span<SortItem> SortTable::Loaded(int worker) {
+  const Part& part = parts_.at(worker);
+  return {items_.get() + part.Begin, part.Loaded};
+}
+
+void SortTable::Load(const runtime::OpenFile& input, const SortInclude& include) {
+  Twice(workers_, [&](int worker) { LoadPart(input, include, worker); });
+}
+
+void SortTable::LoadPart(const runtime::OpenFile& input, const SortInclude& include, int worker) {
+  Part& part = parts_.at(worker);
+  BlockReader reader(input, layout_.RecordLength(), part.Next, part.End - part.Next, Block(worker));
+  const std::size_t length = layout_.EntryLength();
+  std::size_t place = part.Begin;
+  const std::size_t end = part.Begin + part.Room;
+  char* entry = entries_.get() + place * length;
+  while (place < end) {
+    const char* record = reader.Next();
+    if (!record) break;
+    const auto number = static_cast<std::uint32_t>(++part.Next);
+    const bool kept = include.Keeps(record);
+    if (!kept && !holds_all_) continue;
+    layout_.MakeEntry(record, number, entry);
+    included_[place] = kept ? 1 : 0;
+    items_[place].SetWindow(layout_.Window(entry, 0));
+    items_[place].Entry = static_cast<std::uint32_t>(place);
+    entry += length;
+    ++place;
+  }
+  part.Loaded = place - part.Begin;
+}
+
+bool SortTable::Suits(const SortLayout& layout, std::int64_t records) const {
+  return holds_all_ && records_ == records && layout_ == layout;
+}
+
+bool SortTable::Reload(const runtime::OpenFile& input, const SortInclude& include) {
+  std::array<bool, 2> same{};
+  Twice(workers_, [&](int worker) { same.at(worker) = ReloadPart(input, include, worker); });
+  return same[0] && same[1];
+}
+
+bool SortTable::ReloadPart(const runtime::OpenFile& input, const SortInclude& include, int worker) {
+  const Part& part = parts_.at(worker);
+  const auto count = static_cast<std::int64_t>(part.Loaded);
+  BlockReader reader(input, layout_.RecordLength(), part.End - count, count, Block(worker));
+  const char* entry = entries_.get() + part.Begin * layout_.EntryLength();
+  for (std::size_t place = part.Begin; const char* record = reader.Next(); ++place) {
+    if (!layout_.IsEntryOf(record, entry)) return false;
+    included_[place] = include.Keeps(record) ? 1 : 0;
+    entry += layout_.EntryLength();
+  }
+  return true;
+}
+
+void SortTable::Sort() {
+  sorted_ = {};
+  free_ = {};
+  const std::size_t count = parts_[0].Loaded + parts_[1].Loaded;
+  if (count == 0) return;
+  if (workers_) {
+    SortHalves();
+    return;
+  }
+  sorted_[0] = Loaded(0);
+  free_[0] = {scratch_.get(), count};
+  ItemSorter(layout_, entries_.get()).Sort(sorted_[0], free_[0]);
+}
+
+// A guess from a sample; equal windows stay together whatever it is.
+std::uint64_t SortTable::MiddleWindow() {
+  constexpr std::size_t SampleSize = 255;
+  std::vector<std::uint64_t> sample;
+  for (int worker : {0, 1}) {
+    std::span<const SortItem> items = Loaded(worker);
+    std::size_t step = items.size() / SampleSize + 1;
+    for (std::size_t at = 0; at < items.size(); at += step) sample.push_back(items[at].Window());
+  }
+  auto middle = sample.begin() + static_cast<std::ptrdiff_t>(sample.size() / 2);
+  std::nth_element(sample.begin(), middle, sample.end());
+  return *middle;
+}
+
+std::size_t SortTable::CountBelow(std::uint64_t window) {
+  std::array<std::size_t, 2> counts{};
+  Twice(workers_, [&](int worker) {
+    std::size_t count = 0;
+    for (const SortItem& item : Loaded(worker)) count += item.Window() < window ? 1 : 0;
+    counts.at(worker) = count;
+  });
+  return counts[0] + counts[1];
+}
+
+void SortTable::SortHalves() {
+  const std::uint64_t middle = MiddleWindow();
+  const std::size_t lower = CountBelow(middle);
+  const std::size_t upper = parts_[0].Loaded + parts_[1].Loaded - lower;
+  // Every item is written and only some stay, which spares a jump that cannot be foretold; the place that this takes
+  // behind each half is the gap between the two.
+  sorted_ = {std::span(scratch_.get(), lower), std::span(scratch_.get() + lower + 1, upper)};
+  free_ = {std::span(items_.get(), lower), std::span(items_.get() + lower, upper)};
+  Twice(workers_, [&](int half) {
+    SortItem* target = sorted_.at(half).data();
+    for (int worker : {0, 1}) {
+      for (const SortItem& item : Loaded(worker)) {
+        *target = item;
+        target += (item.Window() < middle) == (half == 0) ? 1 : 0;
+      }
+    }
+  });
+  Twice(workers_, [&](int half) {
+    if (!sorted_.at(half).empty()) ItemSorter(layout_, entries_.get()).Sort(sorted_.at(half), free_.at(half));
+  });
+}
+
+void SortTable::PickIncluded() {
+  Twice(workers_, [&](int half) {
+    SortItem* target = free_.at(half).data();
+    for (const SortItem& item : sorted_.at(half)) {
+      *target = item;
+      target += included_[item.Entry];
+    }
+    picked_.at(half) = {free_.at(half).data(), target};
+  });
+}
+
+std::int64_t SortTable::Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first) {
+  PickIncluded();
+  const auto lower = static_cast<std::int64_t>(picked_[0].size());
+  Twice(workers_, [&](int half) {
+    BlockWriter writer(file, length, half == 0 ? first : first + lower, Block(half));
+    ForEachEntry(picked_.at(half), entries_.get(), layout_.EntryLength(),
+                 [&](const char* entry) { std::copy_n(entry, length, writer.Next()); });
+    writer.Flush();
+  });
+  return lower + static_cast<std::int64_t>(picked_[1].size());
+}
+
+}  // namespace sort

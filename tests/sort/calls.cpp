@@ -1,0 +1,91 @@
+// The comparison with the reference, pass by pass.
+#include "tests/sort/calls.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+
+#include "tests/story/sort_reference.h"
+#include "tests/story/world.h"
+
+namespace sort {
+namespace {
+
+// In the order of the reference's pairs.
+constexpr std::string_view Tests[] = {"1,40,C,GT,\"000000\"", "266,1,C,EQ,\"D\"", "266,1,C,EQ,\"L\"",
+                                      "266,1,C,EQ,\"V\""};
+
+}  // namespace
+
+std::string StatementOfPass(std::size_t pass) {
+  std::string statement = "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(";
+  return statement.append(Tests[pass]).append(") Record(649)");
+}
+
+SortOutcome SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement, const SortLimits& limits) {
+  Sorter sorter(disk, limits);
+  return SortWith(sorter, output, statement);
+}
+
+SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view statement) {
+  SortOutcome outcome;
+  sorter.Sort("Recpra.Dat", output, statement, outcome.Numrec, outcome.Retcode);
+  return outcome;
+}
+
+std::string DeliveredWeights() {
+  static const std::string weights = story::ReadBytes(REELORA_SOURCE "/delivered/UPPER.ALT").value();
+  return weights;
+}
+
+safety::Folder FolderWith(const std::string& master) {
+  return {{"Recpra.Dat", master}, {"UPPER.ALT", DeliveredWeights()}};
+}
+
+std::string FileOn(const safety::MemoryDisk& disk, const std::string& name) {
+  safety::Folder content = disk.Content();
+  auto file = content.find(name);
+  return file == content.end() ? "" : file->second;
+}
+
+std::string Leftovers(const safety::MemoryDisk& disk) {
+  std::string names;
+  for (const auto& [name, bytes] : disk.Content()) {
+    if (!safety::FolderOf(name).empty()) names += name + " ";
+  }
+  return names;
+}
+
+namespace {
+
+using OnePass = std::function<SortOutcome(runtime::Disk&, std::string_view output, std::string_view statement)>;
+
+void ExpectPassesAsReference(const std::string& master, const OnePass& sort) {
+  safety::MemoryDisk memory(FolderWith(master));
+  SharedDisk disk(memory);
+  const auto pairs = story::SortedPairs(master, DeliveredWeights());
+  for (std::size_t pass = 0; pass < std::size(Tests); ++pass) {
+    SortOutcome outcome = sort(disk, pairs[pass].KeyFile, StatementOfPass(pass));
+    ASSERT_EQ(outcome.Retcode, SortDone) << pairs[pass].KeyFile;
+    ASSERT_EQ(" " + std::to_string(outcome.Numrec) + "\r\n", pairs[pass].CountBytes) << pairs[pass].KeyFile;
+    ASSERT_TRUE(FileOn(memory, pairs[pass].KeyFile) == pairs[pass].KeyBytes) << pairs[pass].KeyFile << " differs";
+  }
+  ASSERT_EQ(FileOn(memory, "Recpra.Dat"), master);
+  ASSERT_EQ(Leftovers(memory), "");
+}
+
+}  // namespace
+
+void ExpectAsReference(const std::string& master, const SortLimits& limits) {
+  ExpectPassesAsReference(master, [&](runtime::Disk& disk, std::string_view output, std::string_view statement) {
+    return SortOn(disk, output, statement, limits);
+  });
+  std::optional<Sorter> sorter;
+  ExpectPassesAsReference(master, [&](runtime::Disk& disk, std::string_view output, std::string_view statement) {
+    if (!sorter) sorter.emplace(disk, limits);
+    return SortWith(*sorter, output, statement);
+  });
+}
+
+}  // namespace sort

@@ -1,0 +1,63 @@
+// Calls of the sort operation on a disk in memory, as the tests of the sort make them.
+#pragma once
+
+#include <mutex>
+#include <string>
+#include <string_view>
+
+#include "runtime/disk.h"
+#include "sort/operation.h"
+#include "tests/safety/memory_disk.h"
+#include "tests/safety/passing_disk.h"
+
+namespace sort {
+
+inline constexpr std::string_view TitlesStatement =
+    "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(1,40,C,GT,\"000000\") Record(649)";
+
+// What the operation gives back; the count begins with a value that no sort here would give.
+struct SortOutcome {
+  std::int32_t Numrec = -77;
+  std::int32_t Retcode = -77;
+};
+
+SortOutcome SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement,
+                   const SortLimits& limits = {});
+// One of several sorts of the same sorter.
+SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view statement);
+
+// Of the sort run's passes in the order of the reference's pairs.
+std::string StatementOfPass(std::size_t pass);
+
+// The weights as delivered.
+std::string DeliveredWeights();
+
+// A folder that holds this master file and the weights as delivered.
+safety::Folder FolderWith(const std::string& master);
+// "" where there is none of that name.
+std::string FileOn(const safety::MemoryDisk& disk, const std::string& name);
+// The names of the files in the safety folder, one after the other.
+std::string Leftovers(const safety::MemoryDisk& disk);
+
+// Two threads may read and write through it.
+class SharedDisk final : public safety::PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+    std::scoped_lock lock(mutex_);
+    return PassingDisk::ReadAt(handle, target, count, offset);
+  }
+  std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override {
+    std::scoped_lock lock(mutex_);
+    return PassingDisk::WriteAt(handle, source, count, offset);
+  }
+
+ private:
+  std::mutex mutex_;
+};
+
+// The four passes with these limits make what the reference makes of the same master file, each for itself and one
+// after the other by one sorter; a googletest failure where they do not.
+void ExpectAsReference(const std::string& master, const SortLimits& limits);
+
+}  // namespace sort

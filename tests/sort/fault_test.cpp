@@ -1,0 +1,201 @@
+// Every call that a sort makes on the disk goes wrong in every way: the output is the old one or the new one, whole,
+// and the status says which.
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "runtime/whole_io.h"
+#include "store/film_record.h"
+#include "tests/safety/faulty_disk.h"
+#include "tests/sort/calls.h"
+#include "tests/story/sort_reference.h"
+
+namespace sort {
+namespace {
+
+using safety::Fault;
+
+constexpr std::string_view OldKeys = "the old keys";
+
+std::string Films() {
+  std::string master;
+  for (const char* title :
+       {"Ran", "solaris", "Brazil", "", "Alien", "SOLARIS", "Zelig", "Babe", "brazil", "M", "Ikiru"}) {
+    store::FilmRecord film;
+    film.Set(store::FilmField::Title, title);
+    film.Set(store::FilmField::Tail, "\r\n");
+    master.append(film.Bytes.data(), film.Bytes.size());
+  }
+  return master;
+}
+
+safety::Folder Before() {
+  safety::Folder folder = FolderWith(Films());
+  folder["Titlepra.Dat"] = OldKeys;
+  return folder;
+}
+
+const std::string& NewKeys() {
+  static const std::string keys = story::SortedPairs(Films(), DeliveredWeights())[0].KeyBytes;
+  return keys;
+}
+
+// In memory, and through runs of three records.
+const SortLimits Limits[] = {{}, {300, 1'000'000}};
+
+std::size_t CallsOf(const SortLimits& limits) {
+  safety::MemoryDisk memory(Before());
+  safety::FaultyDisk disk(memory);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, limits).Retcode, SortDone);
+  EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
+  return disk.Calls();
+}
+
+// Nothing where the failure of a folder's sync stopped it.
+std::optional<SortOutcome> TrySort(Sorter& sorter) {
+  try {
+    return SortWith(sorter, "Titlepra.Dat", TitlesStatement);
+  } catch (const runtime::Failure&) {
+    return std::nullopt;
+  }
+}
+
+std::optional<SortOutcome> TrySortOn(safety::FaultyDisk& disk, const SortLimits& limits) {
+  Sorter sorter(disk, limits);
+  return TrySort(sorter);
+}
+
+void ExpectSortsAfterwards(safety::MemoryDisk& memory) {
+  runtime::RemoveLeftovers(memory);
+  ASSERT_EQ(Leftovers(memory), "");
+  SortOutcome outcome = SortOn(memory, "Titlepra.Dat", TitlesStatement);
+  ASSERT_EQ(outcome.Retcode, SortDone);
+  ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
+}
+
+class EveryCallOfASort : public testing::TestWithParam<SortLimits> {};
+
+TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
+  for (Fault fault : {Fault::Full, Fault::Error, Fault::Refused, Fault::ShortThenFull}) {
+    for (bool from_then_on : {false, true}) {
+      for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
+        SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+        safety::MemoryDisk memory(Before());
+        safety::FaultyDisk disk(memory, {fault, at, from_then_on});
+        std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
+        bool replaced = !outcome || outcome->Retcode == SortDone;
+        ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
+        if (outcome) {
+          ASSERT_EQ(outcome->Numrec, replaced ? 10 : SortOutcome().Numrec);
+        }
+        ASSERT_EQ(FileOn(memory, "Recpra.Dat"), Films());
+        ExpectSortsAfterwards(memory);
+      }
+    }
+  }
+}
+
+TEST_P(EveryCallOfASort, LeavesNothingAsideAfterAFailureThatGoesBy) {
+  for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
+    safety::MemoryDisk memory(Before());
+    safety::FaultyDisk disk(memory, {Fault::Full, at});
+    std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
+    if (outcome && outcome->Retcode != SortDone) {
+      EXPECT_EQ(Leftovers(memory), "") << "at call " << at;
+    }
+  }
+}
+
+TEST_P(EveryCallOfASort, GoesOnAfterAnInterruptionOrAShortOne) {
+  for (Fault fault : {Fault::Interrupted, Fault::Short}) {
+    for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
+      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+      safety::MemoryDisk memory(Before());
+      safety::FaultyDisk disk(memory, {fault, at, fault == Fault::Short});
+      std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
+      ASSERT_TRUE(outcome);
+      ASSERT_EQ(outcome->Retcode, SortDone);
+      ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
+      ASSERT_EQ(Leftovers(memory), "");
+    }
+  }
+}
+
+TEST_P(EveryCallOfASort, IsKilledToTheOldOrTheNewOutput) {
+  for (Fault fault : {Fault::Kill, Fault::KillHalfway}) {
+    for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
+      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+      safety::MemoryDisk memory(Before());
+      safety::FaultyDisk disk(memory, {fault, at});
+      ASSERT_THROW(TrySortOn(disk, GetParam()), safety::Killed);
+      std::string keys = FileOn(memory, "Titlepra.Dat");
+      ASSERT_TRUE(keys == OldKeys || keys == NewKeys());
+      ExpectSortsAfterwards(memory);
+    }
+  }
+}
+
+TEST_P(EveryCallOfASort, LosesPowerToTheOldOrTheNewOutput) {
+  safety::MemoryDisk memory(Before());
+  ASSERT_EQ(SortOn(memory, "Titlepra.Dat", TitlesStatement, GetParam()).Retcode, SortDone);
+  for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
+    for (const safety::Folder& folder : memory.AfterPowerLoss(moment, 256)) {
+      ASSERT_TRUE(folder.contains("Titlepra.Dat"));
+      const std::string& keys = folder.at("Titlepra.Dat");
+      ASSERT_TRUE(keys == OldKeys || keys == NewKeys()) << "at moment " << moment;
+      ASSERT_EQ(folder.at("Recpra.Dat"), Films());
+    }
+  }
+  for (const safety::Folder& folder : memory.AfterPowerLoss(memory.Moments(), 256))
+    ASSERT_EQ(folder.at("Titlepra.Dat"), NewKeys()) << "what the sort has reported must stay";
+}
+
+// What a sorter has learnt from the sort before does not outlive a failure that it could not see through.
+TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
+  const std::size_t calls = CallsOf(GetParam());
+  for (Fault fault : {Fault::Full, Fault::Error, Fault::ShortThenFull}) {
+    for (std::size_t at = calls; at < 2 * calls; ++at) {
+      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+      safety::MemoryDisk memory(Before());
+      safety::FaultyDisk disk(memory, {fault, at});
+      Sorter sorter(disk, GetParam());
+      ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
+      runtime::ReplaceFile(memory, "Titlepra.Dat", OldKeys);
+      std::optional<SortOutcome> outcome = TrySort(sorter);
+      bool replaced = !outcome || outcome->Retcode == SortDone;
+      ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
+      ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
+      ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
+    }
+  }
+}
+
+TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
+  // Open and length of the input, open and read of the weights stand before all others.
+  safety::MemoryDisk memory(Before());
+  safety::FaultyDisk disk(memory, {Fault::Error, 0});
+  EXPECT_EQ(TrySortOn(disk, {})->Retcode, SortInputUnreadable);
+  class ReadlessInput final : public safety::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+      return NameOf(handle) == "Recpra.Dat" ? -EIO : PassingDisk::ReadAt(handle, target, count, offset);
+    }
+  };
+  ReadlessInput readless(memory);
+  EXPECT_EQ(SortOn(readless, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
+  class FullDisk final : public safety::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    std::int64_t WriteAt(int, const char*, std::size_t, std::int64_t) override { return -ENOSPC; }
+  };
+  FullDisk full(memory);
+  EXPECT_EQ(SortOn(full, "Titlepra.Dat", TitlesStatement).Retcode, SortOutputUnwritable);
+  EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), OldKeys);
+  EXPECT_EQ(Leftovers(memory), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(InMemoryAndThroughRuns, EveryCallOfASort, testing::ValuesIn(Limits));
+
+}  // namespace
+}  // namespace sort

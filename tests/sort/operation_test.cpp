@@ -1,0 +1,199 @@
+// The operation's statuses and what it leaves in the folder.
+#include "sort/operation.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+#include "store/film_record.h"
+#include "tests/sort/calls.h"
+
+namespace sort {
+namespace {
+
+std::string Film(std::string_view title, std::string_view format = "D") {
+  store::FilmRecord film;
+  film.Set(store::FilmField::Title, title);
+  film.Set(store::FilmField::Format, format);
+  film.Set(store::FilmField::Tail, "\r\n");
+  return {film.Bytes.data(), film.Bytes.size()};
+}
+
+std::string Key(std::string title, std::string_view number) {
+  title.resize(40, ' ');
+  return title.append(number).append("\r\n");
+}
+
+// The status, with neither the output nor the count changed.
+std::int32_t RefusedStatus(safety::MemoryDisk& disk, std::string_view statement) {
+  SortOutcome outcome = SortOn(disk, "Titlepra.Dat", statement);
+  EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
+  EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), "the old keys");
+  EXPECT_EQ(Leftovers(disk), "");
+  return outcome.Retcode;
+}
+
+safety::Folder OldFolder() {
+  safety::Folder folder = FolderWith(Film("Solaris"));
+  folder["Titlepra.Dat"] = "the old keys";
+  return folder;
+}
+
+TEST(SortOperation, ReplacesTheOutputAndCountsItsRecords) {
+  safety::Folder folder = OldFolder();
+  folder["Recpra.Dat"] = Film("solaris") + Film("Brazil") + Film("") + Film("SOLARIS") + Film("Amelie");
+  safety::MemoryDisk disk(folder);
+  SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
+  EXPECT_EQ(outcome.Retcode, SortDone);
+  EXPECT_EQ(outcome.Numrec, 4);
+  EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Amelie", "0000005") + Key("Brazil", "0000002") +
+                                              Key("solaris", "0000001") + Key("SOLARIS", "0000004"));
+  EXPECT_EQ(Leftovers(disk), "");
+}
+
+TEST(SortOperation, MakesAnEmptyOutputOfAnEmptyInput) {
+  for (const std::string& master : {std::string(), Film("Solaris").substr(0, 648)}) {
+    safety::Folder folder = OldFolder();
+    folder["Recpra.Dat"] = master;
+    safety::MemoryDisk disk(folder);
+    SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
+    EXPECT_EQ(outcome.Retcode, SortDone);
+    EXPECT_EQ(outcome.Numrec, 0);
+    EXPECT_TRUE(disk.Content().contains("Titlepra.Dat"));
+    EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), "");
+  }
+}
+
+TEST(SortOperation, GivesStatus1ForAStatementThatCannotBeRead) {
+  safety::MemoryDisk disk(OldFolder());
+  EXPECT_EQ(RefusedStatus(disk, "S(1,40,C,A) nothing of that kind"), SortStatementUnreadable);
+}
+
+TEST(SortOperation, GivesStatus2WhereTheInputIsMissing) {
+  safety::Folder folder = OldFolder();
+  folder.erase("Recpra.Dat");
+  safety::MemoryDisk disk(folder);
+  EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortInputUnreadable);
+}
+
+// An input that says to be longer than it is, and counts the reads of it.
+class LongInput final : public safety::PassingDisk {
+ public:
+  LongInput(runtime::Disk& below, std::int64_t more_records) : PassingDisk(below), more_records_(more_records) {}
+  int Reads() const { return reads_; }
+
+  std::int64_t Length(int handle) override {
+    return PassingDisk::Length(handle) + (NameOf(handle) == "Recpra.Dat" ? more_records_ * store::RecordLength : 0);
+  }
+  std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+    if (NameOf(handle) == "Recpra.Dat") ++reads_;
+    return PassingDisk::ReadAt(handle, target, count, offset);
+  }
+
+ private:
+  std::int64_t more_records_;
+  std::atomic<int> reads_ = 0;  // of two threads
+};
+
+TEST(SortOperation, GivesStatus2ForMoreRecordsThanSevenDigitsNumber) {
+  safety::MemoryDisk memory(OldFolder());
+  LongInput disk(memory, MaxSortRecords);
+  SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
+  EXPECT_EQ(outcome.Retcode, SortInputUnreadable);
+  EXPECT_EQ(disk.Reads(), 0);
+  EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
+  EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), "the old keys");
+}
+
+TEST(SortOperation, TakesAsManyRecordsAsSevenDigitsNumber) {
+  safety::MemoryDisk memory(OldFolder());
+  LongInput disk(memory, MaxSortRecords - 1);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
+  EXPECT_GT(disk.Reads(), 0);
+}
+
+TEST(SortOperation, GivesStatus2WhereTheInputIsShorterThanItSaid) {
+  safety::MemoryDisk memory(OldFolder());
+  LongInput disk(memory, 1);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
+  EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), "the old keys");
+  EXPECT_EQ(Leftovers(memory), "");
+}
+
+TEST(SortOperation, GivesStatus3WhereTheWeightsAreMissingOrOfAnotherLength) {
+  for (int length : {-1, 0, 255, 257, 512}) {
+    safety::Folder folder = OldFolder();
+    folder.erase("UPPER.ALT");
+    if (length >= 0) folder["UPPER.ALT"] = std::string(static_cast<std::size_t>(length), 'A');
+    safety::MemoryDisk disk(folder);
+    EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortWeightsUnreadable) << length;
+  }
+}
+
+TEST(SortOperation, NeedsNoWeightsWhereTheStatementNamesNone) {
+  safety::Folder folder = FolderWith(Film("b") + Film("C") + Film("a") + Film("\xE9"));
+  folder.erase("UPPER.ALT");
+  safety::MemoryDisk disk(folder);
+  EXPECT_EQ(SortOn(disk, "out", "S(1,1,C,A) OUTREC(1,1) Record(649)").Retcode, SortDone);
+  EXPECT_EQ(FileOn(disk, "out"), "Cab\xE9");
+}
+
+TEST(SortOperation, GivesStatus4WhereTheOutputCannotBePut) {
+  safety::MemoryDisk disk(OldFolder());
+  SortOutcome outcome = SortOn(disk, "no such folder/Titlepra.Dat", TitlesStatement);
+  EXPECT_EQ(outcome.Retcode, SortOutputUnwritable);
+  EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
+  EXPECT_EQ(Leftovers(disk), "");
+}
+
+TEST(SortOperation, ComparesAConstantAsIfPaddedWithBlanks) {
+  safety::MemoryDisk disk(FolderWith(Film("Ran") + Film("Rango") + Film("ran") + Film("Ram")));
+  SortOn(disk, "out", "S(1,5,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,5,Arrn) Include(1,40,C,EQ,\"RAN\") Record(649)");
+  EXPECT_EQ(FileOn(disk, "out"), "Ran  0000001ran  0000003");
+  SortOn(disk, "out", "S(1,5,C,A) OUTREC(1,5,Arrn) Include(1,3,C,EQ,\"Ran  \") Record(649)");
+  EXPECT_EQ(FileOn(disk, "out"), "Ran  0000001Rango0000002");
+}
+
+// Longer than the blocks in which files are read and written.
+TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
+  std::string records;
+  for (char letter : {'b', 'a'}) records += std::string(LongestRecord, letter);
+  std::string pieces;
+  std::string expected;
+  for (char letter : {'a', 'b'}) expected += std::string(12 * LongestRecord, letter);
+  for (int piece = 0; piece < 12; ++piece) pieces += piece == 0 ? "1,32767" : ",1,32767";
+  for (std::int64_t two_workers_from : {1, 100}) {
+    for (std::size_t memory : {std::size_t{1}, std::size_t{64} << 20}) {
+      safety::MemoryDisk memory_disk(FolderWith(records));
+      SharedDisk disk(memory_disk);
+      SortOutcome outcome =
+          SortOn(disk, "out", "S(1,1,C,A) OUTREC(" + pieces + ") Record(32767)", {memory, two_workers_from});
+      EXPECT_EQ(outcome.Numrec, 2);
+      EXPECT_TRUE(FileOn(memory_disk, "out") == expected);
+    }
+  }
+}
+
+// Equal to the last byte of a key of two million, which are compared a few at a time.
+TEST(SortOperation, KeepsTheOrderOfRecordsThatAreEqualInALongKey) {
+  std::string records(3 * LongestRecord, 'a');
+  std::string fields = "1,32767,C,A";
+  for (int field = 1; field < 64; ++field) fields += ",1,32767,C,A";
+  safety::MemoryDisk disk(FolderWith(records));
+  SortOutcome outcome = SortOn(disk, "out", "S(" + fields + ") OUTREC(Arrn) Record(32767)");
+  EXPECT_EQ(outcome.Retcode, SortDone);
+  EXPECT_EQ(FileOn(disk, "out"), "000000100000020000003");
+}
+
+TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
+  safety::Folder folder = OldFolder();
+  folder[".reelora/Titlepra.Dat.new"] = std::string(5000, '?');
+  folder[".reelora/Titlepra.Dat.runs.new"] = std::string(5000, '?');
+  safety::MemoryDisk disk(folder);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, {1, 100}).Retcode, SortDone);
+  EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Solaris", "0000001"));
+  EXPECT_EQ(Leftovers(disk), "");
+}
+
+}  // namespace
+}  // namespace sort

@@ -1,0 +1,277 @@
+// The four passes on the real films and on random collections, and any statement on random records, against plain
+// references.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+
+#include "runtime/text.h"
+#include "runtime/whole_io.h"
+#include "sort/statement.h"
+#include "store/film_record.h"
+#include "tests/sort/calls.h"
+#include "tests/story/sort_reference.h"
+#include "tests/story/world.h"
+
+namespace sort {
+namespace {
+
+class Chance {
+ public:
+  explicit Chance(unsigned seed) : engine_(seed) {}
+  // From 0 to below the bound.
+  std::size_t Below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(engine_); }
+  char Of(std::string_view characters) { return characters[Below(characters.size())]; }
+  std::string Text(std::size_t length, std::string_view characters) {
+    std::string text;
+    while (text.size() < length) text += Of(characters);
+    return text;
+  }
+
+ private:
+  std::mt19937 engine_;
+};
+
+// Blank, low, accented, of both cases, equal, equal but for the case, and such that differ late or early.
+std::string RandomTitle(Chance& chance) {
+  switch (chance.Below(8)) {
+    case 0:
+      return "";
+    case 1:
+      return chance.Text(1 + chance.Below(3), "\x01\x09\x1f !\"'(0/");
+    case 2:
+      return chance.Text(1 + chance.Below(12), "aA\xE0\xC0\xE9\xC9\x9A\x8A\xFF\x9F\xF7\xD7{Zz");
+    case 3:
+      return std::string("Equal Title").substr(0, 9 + chance.Below(3));
+    case 4:
+      return std::string(chance.Below(2) == 0 ? "the same" : "THE SAME");
+    case 5:
+      return std::string(chance.Below(41), 'q') + chance.Text(2, "abAB");
+    case 6:
+      return "0000" + chance.Text(chance.Below(5), "0 1/");
+    default:
+      return chance.Text(1 + chance.Below(45), "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ ,.:");
+  }
+}
+
+std::string RandomCollection(Chance& chance, std::size_t most) {
+  std::string master;
+  for (std::size_t films = chance.Below(most + 1); films > 0; --films) {
+    store::FilmRecord film;
+    film.Set(store::FilmField::Title, RandomTitle(chance));
+    film.Set(store::FilmField::Format, std::string(1, chance.Of("DLVDLVdlv x")));
+    film.Set(store::FilmField::Tail, "\r\n");
+    master.append(film.Bytes.data(), film.Bytes.size());
+  }
+  if (chance.Below(3) == 0) master += chance.Text(1 + chance.Below(store::RecordLength - 1), "D a");
+  return master;
+}
+
+SortLimits RandomLimits(Chance& chance) {
+  SortLimits limits;
+  if (chance.Below(3) > 0) limits.MemoryBytes = 1 + chance.Below(4000);
+  if (chance.Below(2) == 0) limits.TwoWorkersFrom = static_cast<std::int64_t>(chance.Below(30));
+  return limits;
+}
+
+TEST(SortProperty, RandomCollectionsComeOutAsTheReference) {
+  Chance chance(20261121);
+  for (int collection = 0; collection < 1200 && !HasFatalFailure(); ++collection) {
+    SCOPED_TRACE("collection " + std::to_string(collection));
+    std::string master = RandomCollection(chance, 90);
+    ExpectAsReference(master, RandomLimits(chance));
+  }
+}
+
+TEST(SortProperty, LargeCollectionsComeOutAsTheReference) {
+  Chance chance(4);
+  for (std::size_t memory : {std::size_t{300'000}, std::size_t{64} << 20}) {
+    for (std::int64_t two_workers_from : {0, 1'000'000}) {
+      std::string master;
+      while (master.size() < 17'000 * store::RecordLength)
+        master += RandomCollection(chance, 20'000).substr(0, 17'000 * store::RecordLength);
+      ExpectAsReference(master, {memory, two_workers_from});
+    }
+  }
+}
+
+TEST(SortProperty, TheRealFilmsComeOutAsTheReference) {
+  const char* shared = std::getenv("REELORA_SHARED");
+  std::filesystem::path folder = shared ? shared : REELORA_SOURCE "/../shared";
+  auto master = story::ReadBytes(folder / "collections/films-3200/Recpra.Dat");
+  if (!master) GTEST_SKIP() << "there are no real films in " << folder << " (REELORA_SHARED)";
+  ASSERT_EQ(master->size(), 3200u * store::RecordLength);
+  ExpectAsReference(*master, {});
+  ExpectAsReference(*master, {10'000, 0});
+  ExpectAsReference(*master, {100'000, 1'000'000});
+}
+
+// Something happens to the films behind the back of a sorter.
+void Change(std::string& master, Chance& chance) {
+  const std::size_t films = master.size() / store::RecordLength;
+  auto film = [&] { return chance.Below(films) * store::RecordLength; };
+  switch (films == 0 ? 0 : chance.Below(6)) {
+    case 0:
+      master.insert(films * store::RecordLength, RandomCollection(chance, 2).substr(0, store::RecordLength));
+      break;
+    case 1:
+      master.resize((films - 1) * store::RecordLength);
+      break;
+    case 2:
+      master.replace(film(), 40, runtime::Fixed(RandomTitle(chance), 40));
+      break;
+    case 3:
+      master[film() + 265] = chance.Of("DLVx");
+      break;
+    case 4:
+      std::swap_ranges(master.begin(), master.begin() + 40, master.begin() + static_cast<std::ptrdiff_t>(film()));
+      break;
+    default:
+      break;
+  }
+}
+
+TEST(SortProperty, OneSorterSeesWhatHasChangedSinceItsLastSort) {
+  Chance chance(77);
+  for (int collection = 0; collection < 300; ++collection) {
+    std::string master = RandomCollection(chance, 40);
+    safety::MemoryDisk memory(FolderWith(master));
+    SharedDisk disk(memory);
+    Sorter sorter(disk, RandomLimits(chance));
+    for (int sort = 0; sort < 12; ++sort) {
+      SCOPED_TRACE("collection " + std::to_string(collection) + ", sort " + std::to_string(sort));
+      Change(master, chance);
+      runtime::ReplaceFile(memory, "Recpra.Dat", master);
+      std::size_t pass = chance.Below(4);
+      ASSERT_EQ(SortWith(sorter, "out", StatementOfPass(pass)).Retcode, SortDone);
+      ASSERT_TRUE(FileOn(memory, "out") == story::SortedPairs(master, DeliveredWeights())[pass].KeyBytes);
+    }
+  }
+}
+
+// A statement of any kind on records of twelve bytes, worked out in the plainest way.
+struct AnyStatement {
+  std::string Text;
+  std::vector<SortField> Fields;
+  std::vector<OutputPiece> Pieces;
+  bool Weighted = false;
+  std::string Relation;  // "" for none
+  RecordSpan Tested;
+  std::string Constant;
+};
+
+constexpr std::size_t SmallRecord = 12;
+
+RecordSpan RandomSpan(Chance& chance) {
+  std::size_t offset = chance.Below(SmallRecord);
+  return {offset, 1 + chance.Below(SmallRecord - offset)};
+}
+
+std::string Written(const RecordSpan& span) {
+  return std::to_string(span.Offset + 1) + "," + std::to_string(span.Width);
+}
+
+// Without its test.
+AnyStatement RandomSort(Chance& chance) {
+  AnyStatement any;
+  std::string fields;
+  for (std::size_t count = 1 + chance.Below(3); count > 0; --count) {
+    SortField field{RandomSpan(chance), chance.Below(2) == 0};
+    fields += (fields.empty() ? "" : ",") + Written(field.Span) + (field.Descending ? ",C,D" : ",C,A");
+    any.Fields.push_back(field);
+  }
+  std::string pieces;
+  for (std::size_t count = 1 + chance.Below(4); count > 0; --count) {
+    OutputPiece piece{OutputPiece::Kind(chance.Below(3)), RandomSpan(chance)};
+    bool bytes = piece.As == OutputPiece::Kind::Bytes;
+    std::string text = bytes ? Written(piece.Span) : piece.As == OutputPiece::Kind::LineEnd ? "CRLF" : "Arrn";
+    pieces += (pieces.empty() ? "" : ",") + text;
+    any.Pieces.push_back(piece);
+  }
+  any.Text = "S(" + fields + ") OUTREC(" + pieces + ") Record(12)";
+  any.Weighted = chance.Below(2) == 0;
+  if (any.Weighted) any.Text += " ALTSEQ(UPPER.ALT)";
+  return any;
+}
+
+AnyStatement WithRandomTest(AnyStatement any, Chance& chance) {
+  if (chance.Below(2) == 0) return any;
+  constexpr const char* Relations[] = {"EQ", "NE", "GT", "GE", "LT", "LE"};
+  any.Relation = Relations[chance.Below(6)];
+  any.Tested = RandomSpan(chance);
+  any.Tested.Width = std::min<std::size_t>(any.Tested.Width, 3);
+  any.Constant = chance.Text(chance.Below(4), "aAbB ");
+  any.Text += " Include(" + Written(any.Tested) + ",C," + any.Relation + ",\"" + any.Constant + "\")";
+  return any;
+}
+
+int Compared(const AnyStatement& any, std::string_view left, std::string_view right) {
+  const std::string weights = DeliveredWeights();
+  for (std::size_t at = 0; at < std::max(left.size(), right.size()); ++at) {
+    auto weigh = [&](std::string_view text) {
+      auto character = static_cast<unsigned char>(at < text.size() ? text[at] : ' ');
+      return any.Weighted ? static_cast<unsigned char>(weights[character]) : character;
+    };
+    if (weigh(left) != weigh(right)) return weigh(left) < weigh(right) ? -1 : 1;
+  }
+  return 0;
+}
+
+bool Kept(const AnyStatement& any, std::string_view record) {
+  if (any.Relation.empty()) return true;
+  int order = Compared(any, record.substr(any.Tested.Offset, any.Tested.Width), any.Constant);
+  if (any.Relation == "EQ") return order == 0;
+  if (any.Relation == "NE") return order != 0;
+  if (any.Relation == "GT") return order > 0;
+  if (any.Relation == "GE") return order >= 0;
+  return any.Relation == "LT" ? order < 0 : order <= 0;
+}
+
+std::string ExpectedOutput(const AnyStatement& any, std::string_view input) {
+  std::vector<std::size_t> records;
+  auto record = [&](std::size_t index) { return input.substr(index * SmallRecord, SmallRecord); };
+  for (std::size_t index = 0; (index + 1) * SmallRecord <= input.size(); ++index) {
+    if (Kept(any, record(index))) records.push_back(index);
+  }
+  std::stable_sort(records.begin(), records.end(), [&](std::size_t left, std::size_t right) {
+    for (const SortField& field : any.Fields) {
+      int order = Compared(any, record(left).substr(field.Span.Offset, field.Span.Width),
+                           record(right).substr(field.Span.Offset, field.Span.Width));
+      if (order != 0) return field.Descending ? order > 0 : order < 0;
+    }
+    return false;
+  });
+  std::string output;
+  for (std::size_t index : records) {
+    for (const OutputPiece& piece : any.Pieces) {
+      std::string number = std::to_string(index + 1);
+      if (piece.As == OutputPiece::Kind::LineEnd) output += "\r\n";
+      if (piece.As == OutputPiece::Kind::RecordNumber) output += std::string(7 - number.size(), '0') + number;
+      if (piece.As == OutputPiece::Kind::Bytes) output += record(index).substr(piece.Span.Offset, piece.Span.Width);
+    }
+  }
+  return output;
+}
+
+TEST(SortProperty, AnyStatementDoesWhatItSays) {
+  Chance chance(649);
+  for (int trial = 0; trial < 500; ++trial) {
+    std::string input = chance.Text(chance.Below(400), "aAbB\xE9\xC9 ~");
+    safety::MemoryDisk memory(FolderWith(input));
+    SharedDisk disk(memory);
+    Sorter sorter(disk, RandomLimits(chance));
+    AnyStatement sort = RandomSort(chance);
+    for (int number = 0; number < 4; ++number) {
+      if (number == 3) sort = RandomSort(chance);
+      AnyStatement any = WithRandomTest(sort, chance);
+      SCOPED_TRACE(any.Text);
+      ASSERT_EQ(SortWith(sorter, "out", any.Text).Retcode, SortDone);
+      ASSERT_EQ(FileOn(memory, "out"), ExpectedOutput(any, input));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace sort

@@ -1,0 +1,52 @@
+// Two threads share a piece of work, again and again, and neither's failure is lost.
+#include "sort/workers.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <stdexcept>
+#include <string>
+
+namespace sort {
+namespace {
+
+TEST(SortWorkersTest, DoBothPartsOfEachPieceOnTwoThreads) {
+  SortWorkers workers;
+  std::array<std::thread::id, 2> threads;
+  std::array<int, 2> done{};
+  for (int piece = 1; piece <= 500; ++piece) {
+    workers.Twice([&](int worker) {
+      ++done.at(worker);
+      threads.at(worker) = std::this_thread::get_id();
+    });
+    ASSERT_EQ(done, (std::array{piece, piece}));
+  }
+  EXPECT_EQ(threads[0], std::this_thread::get_id());
+  EXPECT_NE(threads[0], threads[1]);
+}
+
+TEST(SortWorkersTest, DoBothPartsOnTheCallersThreadWhereThereIsNoOther) {
+  std::string parts;
+  Twice(nullptr, [&](int worker) { parts += std::to_string(worker); });
+  EXPECT_EQ(parts, "01");
+}
+
+TEST(SortWorkersTest, ThrowWhatEitherPartThrowsAndGoOnAfterwards) {
+  SortWorkers workers;
+  for (int thrower : {0, 1}) {
+    bool other_done = false;
+    EXPECT_THROW(workers.Twice([&](int worker) {
+      if (worker == thrower) throw std::runtime_error("no");
+      other_done = true;
+    }),
+                 std::runtime_error);
+    EXPECT_TRUE(other_done);
+  }
+  EXPECT_THROW(workers.Twice([](int) { throw std::runtime_error("both"); }), std::runtime_error);
+  int done = 0;
+  workers.Twice([&](int worker) { done += worker; });
+  EXPECT_EQ(done, 1);
+}
+
+}  // namespace
+}  // namespace sort
