@@ -3,14 +3,14 @@
 #include "forms/desk.h"
 #include "screen/frmPage1.h"
 #include "sort/operation.h"
+#include "store/key_file.h"
 #include "store/master_file.h"
 
 namespace screen {
 
 // Everything in which the four passes differ; what is not named here is the same in all.
 struct SortPass {
-  std::string_view KeyFile;
-  std::string_view CountFile;
+  const store::KeyFile& Keys;
   std::string_view Doing;
   std::string_view IncludeTest;  // of the statement, up to its constant
   std::string_view IncludeValue;
@@ -25,10 +25,10 @@ namespace {
 
 // clang-format off
 constexpr screen::SortPass Passes[] = {
-  { "Titlepra.Dat", "Titlepra", "Sorting Titles", "1,40,C,GT,",  "000000", ") Record(649)",  "",       false },
-  { "DVDpra.Dat",   "DVDpra",   "Sorting DVD",    "266,1,C,EQ,", "D",      ") Record(649) ", "DVDpra", false },  // a view that there is not
-  { "Laserpra.Dat", "Laserpra", "Sorting Lasers", "266,1,C,EQ,", "L",      ") Record(649) ", "",       false },
-  { "VHSpra.Dat",   "VHSpra",   "Sorting VHS",    "266,1,C,EQ,", "V",      ") Record(649) ", "",       true  },
+  { store::TitleKeys, "Sorting Titles", "1,40,C,GT,",  "000000",           ") Record(649)",  "",       false },
+  { store::DVDKeys,   "Sorting DVD",    "266,1,C,EQ,", store::FormatDVD,   ") Record(649) ", "DVDpra", false },  // names no view
+  { store::LaserKeys, "Sorting Lasers", "266,1,C,EQ,", store::FormatLaser, ") Record(649) ", "",       false },
+  { store::VHSKeys,   "Sorting VHS",    "266,1,C,EQ,", store::FormatVHS,   ") Record(649) ", "",       true  },
 };
 // clang-format on
 
@@ -80,14 +80,14 @@ void frmPage1::MakePasses() {
 // A pass that fails shows its status and leaves the old key file; its count file is written all the same.
 void frmPage1::MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec,
                         std::int32_t& Retcode) {
-  OpenKeyFile(pass.KeyFile);
+  OpenKeyFile(pass.Keys.Name);
   lblSorting.Show();
   lblSorting.SetCaption("\n\r" + std::string(pass.Doing));
   Desk.RepaintNow();
   SortIncludeValue = pass.IncludeValue;
   SortStatement = StatementOf(pass);
-  sorter.Sort(store::MasterFileName, pass.KeyFile, SortStatement, Numrec, Retcode);
-  if (Retcode == sort::SortDone) Files.Replaced(pass.KeyFile);
+  sorter.Sort(store::MasterFileName, pass.Keys.Name, SortStatement, Numrec, Retcode);
+  if (Retcode == sort::SortDone) Files.Replaced(pass.Keys.Name);
   lblNumrec.SetCaption(runtime::NumberText(Numrec));
   lblRetcode.SetCaption(runtime::NumberText(Retcode));
   KeyFileLeftBySort = pass.StaysOpen;
@@ -95,7 +95,7 @@ void frmPage1::MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std:
     Files.Close(KeyFileNo);
     Desk.Beep();
   }
-  Files.OpenOutput(CountFileNo, pass.CountFile);
+  Files.OpenOutput(CountFileNo, pass.Keys.CountFile);
   Files.WriteLine(CountFileNo, lblNumrec.Caption());
   Files.Close(CountFileNo);
   if (!pass.LeftView.empty()) ViewKind = pass.LeftView;

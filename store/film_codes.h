@@ -14,7 +14,11 @@ struct CodeRow {
 };
 
 // clang-format off
-inline constexpr std::array<CodeRow, 3> Formats = {{ { "L", "Laser" }, { "V", "VHS" }, { "D", "DVD" } }};
+inline constexpr std::string_view FormatLaser = "L";
+inline constexpr std::string_view FormatVHS   = "V";
+inline constexpr std::string_view FormatDVD   = "D";
+
+inline constexpr std::array<CodeRow, 3> Formats = {{ { FormatLaser, "Laser" }, { FormatVHS, "VHS" }, { FormatDVD, "DVD" } }};
 inline constexpr std::array<CodeRow, 3> Aspects = {{ { "W", "Wide Screen" }, { "P", "Pan & Scan" }, { "T", "TV 1.33:1" } }};
 
 // ListItem: the row of the pick list. It differs from the name at MU, and the rows are not alphabetical, on purpose.
