@@ -98,8 +98,7 @@ bool UserInput::eventFilter(QObject* watched, QEvent* event) {
 
 bool UserInput::MousePressed(ControlView* view, QMouseEvent& mouse) {
   if (!view) return false;
-  if (mouse.button() == Qt::RightButton && AsField(view) && !view->Control().HoldsFocus())
-    Deliver(*view, [&] { view->Control().SetFocus(); });
+  if (mouse.button() == Qt::RightButton) Deliver(*view, [&] { Window().UserRightClick(view->Control()); });
   if (mouse.button() != Qt::LeftButton) return !AsField(view);
   pressed_ = view;
   SetDown(*view, true);
@@ -142,16 +141,13 @@ bool UserInput::MouseMoved(ControlView* view, QMouseEvent& mouse) {
   return true;
 }
 
-// The first of the two clicks has been delivered when this comes. On a button the second is a click like the first; on
-// a list it is no second press.
+// The first of the two clicks has been delivered already. A button reports the second on the release, as it does the
+// first.
 bool UserInput::MouseDoubled(ControlView* view, QMouseEvent& mouse) {
   if (!view || mouse.button() != Qt::LeftButton) return false;
   if (dynamic_cast<QAbstractButton*>(&view->Widget())) return MousePressed(view, mouse);
   if (AsField(view)) LetEdit(*AsField(view), mouse);
-  forms::Control& control = view->Control();
-  Deliver(*view, [&] {
-    if (control.Visible() && control.Enabled()) forms::Run(control.DblClick);
-  });
+  Deliver(*view, [&] { Window().UserSecondClick(view->Control()); });
   mouse.accept();
   return true;
 }

@@ -48,8 +48,12 @@ class Window {
 
   // The user's doings. Where a control is hidden or disabled, or the window is not visible, nothing happens.
   void UserClick(Control& control);
-  // A second click on a button, an option or a check box; DblClick elsewhere.
+  // A click, and then the second one.
   void UserDblClick(Control& control);
+  // The second of two quick clicks: on a button, an option or a check box a click like the first; elsewhere DblClick.
+  void UserSecondClick(Control& control);
+  // A text box gets the focus, so that its menu can open.
+  void UserRightClick(Control& control);
   // The pointer is over the control; nullptr: over the bare window.
   void UserMove(Control* control);
   // A press on the item at that position of the list, from 0; below 0 beside them, which only takes the focus.

@@ -11,7 +11,7 @@ bool Reachable(const Window& window, const Control& control) {
   return window.Visible() && control.Visible() && control.Enabled();
 }
 
-// What goes down and up with the mouse, twice on a double click.
+// Pressed twice by a double click.
 bool IsPressed(const Control& control) {
   return control.Kind == Kind::Button || control.Kind == Kind::OptionButton || control.Kind == Kind::CheckBox;
 }
@@ -38,11 +38,19 @@ void Window::UserClick(Control& control) {
 
 void Window::UserDblClick(Control& control) {
   UserClick(control);
+  UserSecondClick(control);
+}
+
+void Window::UserSecondClick(Control& control) {
   if (IsPressed(control)) {
     UserClick(control);
   } else if (Reachable(*this, control)) {
     Run(control.DblClick);
   }
+}
+
+void Window::UserRightClick(Control& control) {
+  if (control.Kind == Kind::TextBox && Reachable(*this, control)) FocusByUser(control);
 }
 
 void Window::UserMove(Control* control) {

@@ -144,6 +144,22 @@ TEST_F(MouseOn, TheRightButtonEntersAFieldBeforeItsMenuOpens) {
   EXPECT_TRUE(Form.Star.HoldsFocus());
 }
 
+TEST_F(MouseOn, TheRightButtonOnAButtonLeavesTheFocus) {
+  forms::Control* holder = Form.Focus();
+  Mouse(WidgetOf(Form.Save), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
+  EXPECT_EQ(Form.Focus(), holder);
+}
+
+TEST_F(MouseOn, ADoubleClickOnAFieldDisabledByTheFirstRunsNothing) {
+  std::string seen;
+  Form.Star.Click = [&] { Form.Star.Disable(); };
+  Form.Star.DblClick = [&] { seen += "double"; };
+  FieldView& field = FieldOf(Form.Star);
+  Click(field);
+  Mouse(field, QEvent::MouseButtonDblClick, field.rect().center());
+  EXPECT_EQ(seen, "");
+}
+
 TEST_F(MouseOn, NoMenuOpensOnAFieldThatRefuses) {
   Form.Star.GotFocus = [&] { Form.Save.SetFocus(); };
   Mouse(WidgetOf(Form.Star), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);

@@ -84,6 +84,38 @@ TEST_F(UserEventsTest, ADoubleClickOnAButtonIsTwoClicks) {
             (Events{"First.LostFocus", "Push.GotFocus", "Push.Click", "Push.MouseUp", "Push.Click", "Push.MouseUp"}));
 }
 
+TEST_F(UserEventsTest, ASecondClickIsADoubleClickOnAListAndAClickOnAButton) {
+  ShowWithFocus(Window.List);
+  Window.UserSecondClick(Window.List);
+  Window.UserSecondClick(Window.Push);
+  EXPECT_EQ(Taken(), (Events{"List.DblClick", "List.LostFocus", "Push.GotFocus", "Push.Click", "Push.MouseUp"}));
+}
+
+TEST_F(UserEventsTest, ASecondClickOnAHiddenOrDisabledControlDoesNothing) {
+  ShowWithFocus(Window.First);
+  Window.Second.Disable();
+  Window.List.Hide();
+  Window.UserSecondClick(Window.Second);
+  Window.UserSecondClick(Window.List);
+  EXPECT_EQ(Taken(), Events{});
+}
+
+TEST_F(UserEventsTest, ARightClickGivesATextBoxTheFocusAndNothingElse) {
+  ShowWithFocus(Window.First);
+  Window.UserRightClick(Window.Push);
+  Window.UserRightClick(Window.First);
+  EXPECT_EQ(Taken(), Events{});
+  Window.UserRightClick(Window.Second);
+  EXPECT_EQ(Taken(), (Events{"First.LostFocus", "Second.GotFocus"}));
+}
+
+TEST_F(UserEventsTest, ARightClickOnADisabledTextBoxDoesNothing) {
+  ShowWithFocus(Window.First);
+  Window.Second.Disable();
+  Window.UserRightClick(Window.Second);
+  EXPECT_EQ(Taken(), Events{});
+}
+
 TEST_F(UserEventsTest, APressBesideTheItemsOnlyTakesTheFocus) {
   Window.List.Add({"a", "b"});
   ShowWithFocus(Window.First);
