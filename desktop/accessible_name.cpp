@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-// A pick list follows the field that it serves in the tab order.
+// A pick list follows its field in the tab order.
 const forms::TextBox* FieldBefore(const forms::Control& list) {
   const forms::TextBox* field = nullptr;
   for (const forms::Control* control : list.Owner().Controls()) {

@@ -1,4 +1,4 @@
-// One style wherever the program runs, so that its windows look alike on every desktop.
+// One style, so that the windows look the same on every desktop.
 #include "desktop/application_look.h"
 
 #include <QApplication>

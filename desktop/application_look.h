@@ -1,9 +1,9 @@
-// The looks that all windows and boxes of the program share.
+// The style and icon that all windows and boxes share.
 #pragma once
 
 namespace desktop {
 
-// Once, after the application object is made and before the first window.
+// Call once, after creating the application object and before the first window.
 void SetUpLook();
 
 }  // namespace desktop

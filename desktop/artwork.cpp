@@ -9,7 +9,7 @@
 
 #include "desktop/text.h"
 
-// A library's resources have to be asked for, and from outside of any namespace.
+// A static library's resources must be initialized, and the macro works only outside a namespace.
 static void LoadPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace desktop {

@@ -1,4 +1,4 @@
-// The system's own pictures, drawn at the size that is asked for.
+// The program's pictures, drawn at the requested size.
 #pragma once
 
 #include <QPixmap>
@@ -7,10 +7,10 @@
 
 namespace desktop {
 
-// Stem: the file's name without its ending. Size in toolkit pixels, ratio that of the display. Empty where there is no
-// such picture.
+// Stem: the file name without extension. Size in toolkit pixels; ratio: the display's. Empty if there is no such
+// picture.
 QPixmap Artwork(std::string_view stem, QSize size, double ratio);
-// Of the drawing itself; only its proportion means something.
+// The drawing's own size; only the aspect ratio matters. Empty if there is no such picture.
 QSize ArtworkSize(std::string_view stem);
 
 }  // namespace desktop

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int CaptionFlags = Qt::AlignCenter | Qt::TextShowMnemonic;
 
-// Letters go down a step at a time until the text fits the width.
+// Shrinks the font to fit the width.
 void FitFont(QPainter& painter, const QString& caption, int width) {
   QFont font = painter.font();
   while (font.pixelSize() > 6 && QFontMetrics(font).size(Qt::TextShowMnemonic, caption).width() > width)
@@ -21,13 +21,13 @@ void FitFont(QPainter& painter, const QString& caption, int width) {
   painter.setFont(font);
 }
 
-void PaintFace(QPainter& painter, const QWidget& button, const QColor& ground, bool down) {
+void PaintFace(QPainter& painter, const QWidget& button, const QColor& back, bool down) {
   QRectF face = QRectF(button.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
   QLinearGradient shade(face.topLeft(), face.bottomLeft());
-  shade.setColorAt(down ? 1 : 0, ground.lighter(118));
-  shade.setColorAt(down ? 0 : 1, ground.darker(104));
+  shade.setColorAt(down ? 1 : 0, back.lighter(118));
+  shade.setColorAt(down ? 0 : 1, back.darker(104));
   double corner = std::max(2.0, face.height() / 14);
-  painter.setPen(QPen(ground.darker(170), 1));
+  painter.setPen(QPen(back.darker(170), 1));
   painter.setBrush(shade);
   painter.drawRoundedRect(face, corner, corner);
   if (!button.hasFocus()) return;
@@ -36,7 +36,7 @@ void PaintFace(QPainter& painter, const QWidget& button, const QColor& ground, b
   painter.drawRoundedRect(face.adjusted(1.5, 1.5, -1.5, -1.5), corner, corner);
 }
 
-// A ring or a square with its mark, as high as the letters, and the caption to its right.
+// A ring or a square with its mark, as high as the text, and the caption to its right.
 void PaintOption(QWidget& option, const forms::Captioned& control, bool round, bool marked, bool down) {
   QPainter painter(&option);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -69,7 +69,7 @@ void PaintOption(QWidget& option, const forms::Captioned& control, bool round, b
   painter.drawRect(painter.boundingRect(words, flags, caption).adjusted(-2, -1, 2, 1));
 }
 
-// The option's own ground, so that it can be told from what lies below.
+// Options have their own background, so that they stand out from what is below them.
 void DressOption(QWidget& option, const forms::Look& look, const Grid& grid) {
   option.setFont(grid.Font(look));
   QPalette colours = option.palette();
@@ -104,13 +104,13 @@ void ButtonView::paintEvent(QPaintEvent*) {
   QString caption = Shown(button_.Caption());
   QRect words = rect().adjusted(3, 2, -3, -2);
   if (!button_.Icon.empty()) {
-    int letters = caption.isEmpty() ? 0 : QFontMetrics(font()).height();
-    int side = std::min(words.width(), words.height() - letters - 2);
+    int text_height = caption.isEmpty() ? 0 : QFontMetrics(font()).height();
+    int side = std::min(words.width(), words.height() - text_height - 2);
     QRect area(words.left() + (words.width() - side) / 2, words.top() + 1, side, side);
     painter.setOpacity(isEnabled() ? 1 : 0.35);
     painter.drawPixmap(area, Artwork(button_.Icon, area.size(), devicePixelRatioF()));
     painter.setOpacity(1);
-    words.setTop(words.bottom() - letters + 1);
+    words.setTop(words.bottom() - text_height + 1);
   }
   painter.setFont(font());
   FitFont(painter, caption, words.width());

@@ -1,5 +1,5 @@
-// Buttons with a picture above their caption, option buttons and check boxes. All are painted to the scale of the
-// window; a click reaches the form, and only the form changes what they show.
+// Buttons with a picture above their caption, option buttons and check boxes, painted at the window's scale. A click
+// goes to the form; only the form changes what they show.
 #pragma once
 
 #include <QCheckBox>

@@ -1,4 +1,4 @@
-// What all views share, and which class draws which kind.
+// What all views share, and which class draws which kind of control.
 #include "desktop/control_view.h"
 
 #include "desktop/button_view.h"

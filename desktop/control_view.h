@@ -1,4 +1,4 @@
-// What draws one control: a native widget that is set to what the control says, and decides nothing itself.
+// Draws one control: a native widget that mirrors the control and decides nothing itself.
 #pragma once
 
 #include <QColor>
@@ -17,17 +17,17 @@ class ControlView {
   virtual ~ControlView() = default;
 
   virtual QWidget& Widget() = 0;
-  // The part that the mouse meets; of most kinds the widget itself.
+  // The part that gets the mouse events; the widget itself for most kinds.
   virtual QWidget& Face() { return Widget(); }
-  // Place, looks and content as the control has them; shown and enabled where the control is.
+  // Copies geometry, look and content; shows and enables the widget if the control is visible and enabled.
   void Mirror(const Grid& grid);
-  // Hidden or disabled where the control is: apart from Mirror, so that the focus can leave first.
+  // Hides and disables the widget if the control is. Separate from Mirror, so that the focus can leave first.
   void Withdraw();
-  // The widget has got the focus from the form.
+  // The form has given the widget the focus.
   virtual void Entered() {}
 
   forms::Control& Control() const { return control_; }
-  // The user has changed the widget by himself: the next Mirror sets it whatever the control's version.
+  // The user has changed the widget: the next Mirror resets it even if the control is unchanged.
   void Forget() { seen_ = 0; }
   bool UpToDate() const { return seen_ == control_.Version(); }
 
@@ -48,12 +48,12 @@ class ControlView {
   double points_ = -1;
 };
 
-// The view of any kind but a menu item. Parent: the window's surface. Tag: a label that names a field, whose padding is
-// folded.
+// The view of a control other than a menu item. Parent: the window's surface. Tag: a label that names a field; its
+// padding is folded.
 std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, bool tag);
 
 QColor ToColour(forms::Colour colour);
-// The letters of what is disabled.
+// Disabled text colour.
 QColor Faded(const QColor& fore, const QColor& back);
 // What a screen reader says for the control.
 QString AccessibleName(const forms::Control& control);

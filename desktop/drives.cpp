@@ -1,4 +1,4 @@
-// Looks through the mounted disks.
+// Finds the mounted disks.
 #include "desktop/drives.h"
 
 #include <QFile>
@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-// Below the folders where desktops mount removable disks, in the order of their names.
+// Volumes under /media or /run/media, where desktops mount removable disks; sorted by path.
 std::vector<std::string> RemovableDisks() {
   std::vector<std::string> disks;
   for (const QStorageInfo& disk : QStorageInfo::mountedVolumes()) {

@@ -1,4 +1,4 @@
-// The drives of this machine under their letters: removable disks are a: and b:, the disk of the collection is c:.
+// Drive letters of this machine: removable disks are a: and b:, the disk of the collection is c:.
 #pragma once
 
 #include <optional>
@@ -6,9 +6,9 @@
 
 namespace desktop {
 
-// "a" is there whether it holds a disk or not.
+// Contains "a" even if no removable disk is mounted.
 std::string DriveLetters();
-// Where the disk in a drive is mounted; nothing where there is none. Folder: that of the collection.
+// Mount point of the disk in a drive; nothing if it has none. Folder: the collection's.
 std::optional<std::string> DriveFolder(char letter, const std::string& folder);
 
 }  // namespace desktop

@@ -11,8 +11,8 @@
 namespace desktop {
 namespace {
 
-constexpr double SmallestPart = 0.65;  // of the letters' full size
-constexpr int TextMargin = 4;          // pixels, with the caret's room
+constexpr double SmallestPart = 0.65;  // of the full font size
+constexpr int TextMargin = 4;          // pixels, including room for the caret
 
 }  // namespace
 
@@ -26,7 +26,7 @@ FieldView::FieldView(forms::TextBox& box, QWidget& parent)
 
 FieldView::~FieldView() { setValidator(nullptr); }
 
-// What the form itself shows is never refused.
+// Text set by the form is never refused.
 bool FieldView::Refuses() const {
   if (mirroring_) return false;
   box_.Owner().Owner().Desk.Beep();
@@ -64,11 +64,11 @@ void FieldView::Fill() {
   setText(wanted_text);
   mirroring_ = false;
   FitFont();
-  // A long text is read from its beginning until somebody edits it.
+  // Shows the start of a long text unless it is being edited.
   if (!box_.HoldsFocus()) home(false);
 }
 
-// The longest texts of a field are shown whole in somewhat smaller letters.
+// Long texts are shown whole in a somewhat smaller font.
 void FieldView::FitFont() {
   QFont font = full_size_;
   int smallest = static_cast<int>(full_size_.pixelSize() * SmallestPart);

@@ -1,4 +1,4 @@
-// A text box as a line edit, with a plain frame that tells where the focus is.
+// A text box as a line edit, with a plain frame that shows the focus.
 #pragma once
 
 #include <QLineEdit>
@@ -14,10 +14,9 @@ class FieldView final : public QLineEdit, public ControlView {
   ~FieldView() override;
   QWidget& Widget() override { return *this; }
   forms::TextBox& Box() const { return box_; }
-  // True while the widget takes over the form's text: no edit of the user's.
+  // The text is being set from the form, not by the user.
   bool Mirroring() const { return mirroring_; }
-  // A field that holds nothing but blanks is selected whole; else the caret stands at the end, or where the mouse has
-  // put it.
+  // Selects the whole text if it is only blanks; otherwise the caret goes to the end, or where the mouse has put it.
   void Entered() override;
   void SetCaretByMouse(bool by_mouse) { caret_by_mouse_ = by_mouse; }
 

@@ -1,4 +1,4 @@
-// Keeps the widgets of one window as its form says.
+// Mirrors one window: creates its widgets and keeps them up to date.
 #include "desktop/form_view.h"
 
 #include <QCloseEvent>
@@ -102,16 +102,16 @@ void FormView::SyncFrame() {
     title_ = window_.Caption();
     setWindowTitle(Shown(title_));
   }
-  QColor ground = ToColour(window_.BackColor());
-  if (surface_.palette().color(QPalette::Window) == ground) return;
+  QColor back = ToColour(window_.BackColor());
+  if (surface_.palette().color(QPalette::Window) == back) return;
   QPalette colours = surface_.palette();
-  colours.setColor(QPalette::Window, ground);
+  colours.setColor(QPalette::Window, back);
   surface_.setPalette(colours);
 }
 
-// While the user walks the menu bar with the keys, it keeps the toolkit's focus.
+// While the user moves through the menu bar by keyboard, it keeps the toolkit's focus.
 void FormView::SyncFocus() {
-  if (menu_.Walked()) return;
+  if (menu_.InKeyboardUse()) return;
   forms::Control* holder = window_.Focus();
   ControlView* view = holder ? ViewOf(*holder) : nullptr;
   QWidget* wanted = view ? &view->Widget() : this;

@@ -1,5 +1,5 @@
-// One window as drawn: its menu bar, and below it the surface that its controls lie on. A control gets its widget when
-// it is first shown.
+// One drawn window: its menu bar, and below it the surface with its controls. A control gets its widget when it is
+// first shown.
 #pragma once
 
 #include <QWidget>
@@ -19,13 +19,13 @@ class FormView final : public QWidget {
  public:
   FormView(forms::Window& window, ScreenView& all);
 
-  // Sets the widgets of all controls that have changed to what the form says, the focus included.
+  // Updates the widgets of all changed controls, and the focus.
   void Sync();
   forms::Window& Window() const { return window_; }
   MenuView& Menu() { return menu_; }
-  // The bare window between the controls.
+  // The background on which the controls lie.
   QWidget& Surface() { return surface_; }
-  // nullptr where the control has not been shown yet.
+  // nullptr if the control has not been shown yet.
   ControlView* ViewOf(const forms::Control& control) const;
 
  protected:

@@ -1,4 +1,4 @@
-// Places and letter sizes in pixels.
+// Places and font sizes in pixels.
 #include "desktop/grid.h"
 
 #include <QStringList>
@@ -22,7 +22,7 @@ int Grid::Pixels(double points) const {
   return std::max(1, static_cast<int>(std::lround(points * TwipsPerPoint * std::min(Across, Down))));
 }
 
-// All of the forms' font names are one face here, that of Liberation Sans, which has the widths of Arial.
+// All font names of the forms map to Liberation Sans, which has the widths of Arial.
 QFont Grid::Font(const forms::Look& look) const {
   QFont font;
   font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});

@@ -1,5 +1,5 @@
-// The twips grid of a window on the pixels of its surface: it fills the surface, and texts grow with the narrower of
-// the two directions.
+// Maps the twips grid of a window to the pixels of its surface. The grid fills the surface; fonts follow the smaller of
+// the two scales.
 #pragma once
 
 #include <QFont>
@@ -10,21 +10,21 @@
 
 namespace desktop {
 
-// Pixels here are those of the toolkit, before the display's own ratio.
+// In toolkit pixels, before the display's device pixel ratio.
 struct Grid {
-  double Across = 0, Down = 0;  // pixels a twip
+  double Across = 0, Down = 0;  // pixels per twip
 
-  // Of a surface on which a grid of width by height twips lies.
+  // Width and height of the grid in twips.
   static Grid Of(QSize surface, int width, int height);
   bool operator==(const Grid&) const = default;
 
-  // Neighbours on the grid touch on the surface: both edges are rounded, not the width.
+  // Both edges are rounded, not the width, so that neighbours on the grid touch.
   QRect Area(const forms::Place& place) const;
   int Pixels(double points) const;
   QFont Font(const forms::Look& look) const;
 };
 
-// One twip at 96 dots an inch, and twips of a point.
+// At 96 dots per inch.
 inline constexpr double PixelsPerTwip = 96.0 / 1440;
 inline constexpr double TwipsPerPoint = 20;
 

@@ -1,4 +1,4 @@
-// Builds the pages out of headings, paragraphs, lists and links.
+// Builds the pages from headings, paragraphs, lists and links.
 #include "desktop/help_page.h"
 
 namespace desktop {

@@ -1,4 +1,4 @@
-// The pages of the help viewer as rich text: a topic, the contents, what a search has found.
+// The pages of the help viewer as rich text: a topic, the contents, search results.
 #pragma once
 
 #include <QString>
@@ -10,10 +10,10 @@ namespace desktop {
 QString TopicPage(const help::HelpTopic& topic);
 QString ContentsPage(const help::HelpFile& file);
 QString FoundPage(const help::HelpFile& file, const QString& words);
-// A page that only says something.
+// A single message.
 QString NoticePage(const QString& text);
 
-// A link's address for a topic, and the topic of such an address; 0 for any other.
+// The link address of a topic, and the topic of a link address; 0 for any other address.
 QString AddressOf(int topic);
 int TopicOf(const QString& address);
 

@@ -1,4 +1,4 @@
-// Lays out the viewer and goes from page to page.
+// Lays out the viewer and moves between pages.
 #include "desktop/help_viewer.h"
 
 #include <QFile>
@@ -60,7 +60,7 @@ bool HelpViewer::ReadFile() {
 }
 
 void HelpViewer::Open(int topic) {
-  there_ = ReadFile();
+  file_found_ = ReadFile();
   GoTo(topic);
   page_.setFocus();
   show();
@@ -90,11 +90,11 @@ void HelpViewer::Show(const Place& place) {
   back_.setEnabled(visited_.size() > 1);
   for (QWidget* part :
        {static_cast<QWidget*>(&contents_), static_cast<QWidget*>(&search_line_), static_cast<QWidget*>(&search_)})
-    part->setEnabled(there_);
+    part->setEnabled(file_found_);
 }
 
 QString HelpViewer::PageOf(const Place& place) const {
-  if (!there_) return NoticePage(QStringLiteral("The help file %1 is missing.").arg(HelpFile()));
+  if (!file_found_) return NoticePage(QStringLiteral("The help file %1 is missing.").arg(HelpFile()));
   if (const QString* words = std::get_if<QString>(&place)) return FoundPage(file_, *words);
   const help::HelpTopic* topic = file_.Find(std::get<int>(place));
   return topic ? TopicPage(*topic) : ContentsPage(file_);

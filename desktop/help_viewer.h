@@ -1,4 +1,4 @@
-// The window of the help file: one page at a time, with contents, back and search.
+// The help window: one page at a time, with contents, back and search.
 #pragma once
 
 #include <QLineEdit>
@@ -15,12 +15,12 @@ namespace desktop {
 
 class HelpViewer final : public QWidget {
  public:
-  // The folder that holds the help file.
+  // The folder of the help file.
   explicit HelpViewer(std::string folder);
-  // Reads the file as it is now and shows that topic; the contents for 0 or a number that no topic has. Where the file
-  // is missing the window says so.
+  // Reads the file again and shows that topic; the contents for 0 or an unknown number. If the file is missing, the
+  // window says so.
   void Open(int topic);
-  // What a click on Contents, on Back and on Search does.
+  // The same as clicking Contents, Back and Search.
   void ShowContents();
   void GoBack();
   void Search(const QString& words);
@@ -32,7 +32,7 @@ class HelpViewer final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  // A topic's number, 0 for the contents; or the words of a search.
+  // A topic number, 0 for the contents; or search words.
   using Place = std::variant<int, QString>;
   void GoTo(Place place);
   void Show(const Place& place);
@@ -41,8 +41,8 @@ class HelpViewer final : public QWidget {
 
   std::string folder_;
   help::HelpFile file_;
-  bool there_ = false;
-  std::vector<Place> visited_;  // the present one last
+  bool file_found_ = false;
+  std::vector<Place> visited_;  // the current one last
   QPushButton contents_, back_, search_;
   QLineEdit search_line_;
   QTextBrowser page_;

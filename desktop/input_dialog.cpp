@@ -1,4 +1,4 @@
-// Lays out the prompt, the line and its two buttons.
+// Lays out the prompt, the answer line and the two buttons.
 #include "desktop/input_dialog.h"
 
 #include <QApplication>

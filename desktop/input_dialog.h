@@ -1,4 +1,4 @@
-// The input box: a prompt and one line to answer on.
+// The input box: a prompt and a line for the answer.
 #pragma once
 
 #include <QDialog>

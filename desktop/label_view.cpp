@@ -1,4 +1,4 @@
-// Sets captions, and finds the letter size at which a caption fits.
+// Sets captions, and finds the font size at which a caption fits.
 #include "desktop/label_view.h"
 
 #include <QFontMetrics>
@@ -11,9 +11,9 @@
 namespace desktop {
 namespace {
 
-constexpr int SmallestLetters = 6;  // pixels
+constexpr int SmallestFont = 6;  // pixels
 
-// Short runs of blanks in a tag are folded; a long one was there to push what follows onto the next line.
+// Folds short runs of blanks in a tag; a long run stood for a line break.
 QString Unpadded(std::string_view caption) {
   static const QRegularExpression LineBreak(QStringLiteral("   +"));
   QStringList lines = Shown(caption).trimmed().split(LineBreak);
@@ -54,10 +54,10 @@ void LabelView::Fill() {
 void LabelView::FitFont() {
   QFont font = full_size_;
   QRect place = contentsRect();
-  while (font.pixelSize() > SmallestLetters) {
+  while (font.pixelSize() > SmallestFont) {
     QRect needed =
         QFontMetrics(font).boundingRect(QRect(0, 0, place.width(), 0), Qt::TextWordWrap | Qt::AlignHCenter, text());
-    // The line height leaves room above capitals and below the last line, which a tight place may do without.
+    // A caption may overhang by half a descent: the line height includes more room than the text needs.
     if (needed.height() - QFontMetrics(font).descent() / 2 <= place.height() && needed.width() <= place.width()) break;
     font.setPixelSize(font.pixelSize() - 1);
   }
@@ -76,9 +76,9 @@ void StripView::Dress(const Grid&) {
 
 void StripView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  QColor ground = palette().color(QPalette::Window);
-  painter.fillRect(0, 0, width(), 1, ground.lighter(125));
-  painter.fillRect(0, height() - 1, width(), 1, ground.darker(160));
+  QColor back = palette().color(QPalette::Window);
+  painter.fillRect(0, 0, width(), 1, back.lighter(125));
+  painter.fillRect(0, height() - 1, width(), 1, back.darker(160));
 }
 
 PictureView::PictureView(forms::Picture& picture, QWidget& parent)

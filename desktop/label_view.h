@@ -1,4 +1,4 @@
-// Labels, the strip of the toolbar and pictures.
+// Labels, the toolbar strip and pictures.
 #pragma once
 
 #include <QLabel>
@@ -7,10 +7,10 @@
 
 namespace desktop {
 
-// A caption, centred and wrapped; where it does not fit its place the letters shrink.
+// A wrapped caption; the font shrinks if it does not fit.
 class LabelView final : public QLabel, public ControlView {
  public:
-  // Tag: names a field; runs of blanks in it are only padding and are folded.
+  // Tag: names a field; its runs of blanks are padding and are folded.
   LabelView(forms::Label& label, QWidget& parent, bool tag);
   QWidget& Widget() override { return *this; }
 
@@ -37,7 +37,7 @@ class StripView final : public QWidget, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A picture in the middle of its place, as large as fits.
+// A centred picture, as large as fits.
 class PictureView final : public QWidget, public ControlView {
  public:
   PictureView(forms::Picture& picture, QWidget& parent);

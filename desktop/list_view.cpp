@@ -1,4 +1,4 @@
-// Sets the native list to the items and the selection of the list box.
+// Mirrors the items and the selection of the list box.
 #include "desktop/list_view.h"
 
 #include <QApplication>
@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-// Every colour by itself: what a palette leaves open comes from the widget around.
+// Sets every colour: unset ones are inherited from the parent widget.
 QPalette PlainColours() {
   QPalette plain = QApplication::palette();
   for (int role = 0; role < QPalette::NColorRoles; ++role) {
@@ -59,13 +59,13 @@ void ListView::Fill() {
   mirroring_ = false;
 }
 
-// The rest of its height stays bare.
+// Only whole rows show; the rest of the height stays empty.
 void ListView::ShowWholeRows() {
   int row = sizeHintForRow(0);
   if (row > 0) setViewportMargins(0, 0, 0, (height() - 2 * frameWidth()) % row);
 }
 
-// The toolkit would make the first item the current one where none is; the selection is the form's.
+// The toolkit would select the first item if none is selected; only the form selects.
 void ListView::focusInEvent(QFocusEvent* event) {
   mirroring_ = true;
   QListWidget::focusInEvent(event);

@@ -1,5 +1,4 @@
-// The program on the desktop: holds the folder that it was started in, opens the first window and runs until the
-// program ends.
+// The desktop program: locks the current folder, opens the first window and runs until the program ends.
 #include <QApplication>
 #include <QMessageBox>
 

@@ -1,4 +1,4 @@
-// Builds the menus by the lines' levels and keeps them as the form says.
+// Builds the menus from the items' levels and mirrors their state.
 #include "desktop/menu_view.h"
 
 #include <QApplication>
@@ -14,15 +14,16 @@ namespace desktop {
 namespace {
 
 constexpr double MenuPoints = 9;
-constexpr int SmallestLetters = 11;  // pixels
+constexpr int SmallestFont = 11;  // pixels
 
 }  // namespace
 
-MenuView::MenuView(forms::Window& window, QWidget& parent, const Told& chosen, Told helped, std::function<void()> left)
-    : helped_(std::move(helped)), left_(std::move(left)), bar_(&parent) {
+MenuView::MenuView(forms::Window& window, QWidget& parent, const ItemHandler& chosen, ItemHandler help_asked,
+                   std::function<void()> closed)
+    : help_asked_(std::move(help_asked)), closed_(std::move(closed)), bar_(&parent) {
   bar_.setNativeMenuBar(false);
   bar_.installEventFilter(this);
-  std::vector<QAction*> above;  // the last line of each level
+  std::vector<QAction*> above;  // the last item of each level
   for (forms::Control* control : window.Controls()) {
     if (control->Kind != forms::Kind::MenuItem) continue;
     auto& item = static_cast<forms::MenuItem&>(*control);
@@ -58,7 +59,7 @@ void MenuView::Sync() {
 
 void MenuView::Scale(const Grid& grid) {
   QFont font = bar_.font();
-  font.setPixelSize(std::max(grid.Pixels(MenuPoints), SmallestLetters));
+  font.setPixelSize(std::max(grid.Pixels(MenuPoints), SmallestFont));
   if (font == bar_.font()) return;
   bar_.setFont(font);
   for (const auto& menu : menus_) menu->setFont(font);
@@ -74,32 +75,32 @@ QAction* MenuView::ActionOf(const forms::MenuItem& item) const {
   return found == actions_.end() ? nullptr : found->second;
 }
 
-// The keys that go to the bar or to a menu of it.
+// Keys sent to the bar or to one of its menus.
 bool MenuView::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
   if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) return AskedForHelp();
-  QTimer::singleShot(0, this, [this] { PassKeysOn(); });
+  QTimer::singleShot(0, this, [this] { UpdateFocus(); });
   return false;
 }
 
-// The menus close first, or they would keep the keys; Esc gives up the line of the bar too.
+// The menus close first, or they would keep the keyboard; Esc then also deselects the item of the bar.
 bool MenuView::AskedForHelp() {
   forms::MenuItem* item = ActiveItem();
   if (!item) return false;
   while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
   QApplication::sendEvent(&bar_, &escape);
-  helped_(*item);
+  help_asked_(*item);
   return true;
 }
 
-// The toolkit leaves the keys with the window when an arrow goes from a menu to a line of the bar that has none.
-void MenuView::PassKeysOn() {
+// Qt keeps the focus in the window when an arrow key goes from a menu to an item of the bar that has no menu.
+void MenuView::UpdateFocus() {
   if (QApplication::activePopupWidget()) return;
   if (bar_.activeAction()) {
     bar_.setFocus(Qt::MenuBarFocusReason);
   } else if (bar_.hasFocus()) {
-    left_();
+    closed_();
   }
 }
 

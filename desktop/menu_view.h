@@ -1,4 +1,4 @@
-// The menu bar of a window, made from its menu lines.
+// The menu bar of a window, built from its menu items.
 #pragma once
 
 #include <QMenuBar>
@@ -14,20 +14,21 @@ namespace desktop {
 
 class MenuView final : public QObject {
  public:
-  using Told = std::function<void(forms::MenuItem&)>;
-  // Chosen gets the menu line that the user has chosen; helped gets the line of the bar whose menu F1 was pressed in;
-  // left is told when the bar has done with the keys.
-  MenuView(forms::Window& window, QWidget& parent, const Told& chosen, Told helped, std::function<void()> left);
+  using ItemHandler = std::function<void(forms::MenuItem&)>;
+  // Chosen is called with the item that the user chooses; help_asked with the item of the bar on which, or in whose
+  // menu, F1 is pressed; closed when the bar gives up the keyboard.
+  MenuView(forms::Window& window, QWidget& parent, const ItemHandler& chosen, ItemHandler help_asked,
+           std::function<void()> closed);
 
   QMenuBar& Bar() { return bar_; }
   bool Empty() const { return actions_.empty(); }
-  // Captions, visible and enabled state as the form has them.
+  // Copies captions, visibility and enabled state.
   void Sync();
-  // Letters of the size that the window's scale gives them.
+  // Sets the font for the window's scale.
   void Scale(const Grid& grid);
-  // Whether the user walks the bar with the keys.
-  bool Walked() const { return bar_.hasFocus() && bar_.activeAction(); }
-  // As Alt and its letter do; nothing for a line without items.
+  // Whether the user moves through the bar by keyboard.
+  bool InKeyboardUse() const { return bar_.hasFocus() && bar_.activeAction(); }
+  // Opens the item's menu, as Alt and its letter do; does nothing for an item without one.
   void Open(const forms::MenuItem& item);
   QAction* ActionOf(const forms::MenuItem& item) const;
 
@@ -43,10 +44,10 @@ class MenuView final : public QObject {
   forms::MenuItem* ActiveItem() const;
 
   bool AskedForHelp();
-  void PassKeysOn();
+  void UpdateFocus();
 
-  Told helped_;
-  std::function<void()> left_;
+  ItemHandler help_asked_;
+  std::function<void()> closed_;
   QMenuBar bar_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   std::vector<Line> lines_;

@@ -1,4 +1,4 @@
-// The fitting and the drawing.
+// Finds the grid that fits the paper and draws the characters on it.
 #include "desktop/page_painter.h"
 
 #include <QGlyphRun>
@@ -11,8 +11,7 @@ namespace {
 
 constexpr double PointsPerInch = 72;
 constexpr int Columns = 80;
-// Courier's measures, in parts of its size: ten characters an inch at 12 points, and how far a line of it reaches above
-// and below the base line.
+// Courier's metrics relative to its size: ten characters per inch at 12 points; ascent and descent of a line.
 constexpr double CellPart = 0.6;
 constexpr double AscentPart = 0.8333;
 constexpr double DescentPart = 0.3;

@@ -1,5 +1,5 @@
-// Draws the pages of a job on paper, into a PDF or as a picture: every character in its cell of the grid, from tables
-// of glyphs that are looked up once, because shaping each text anew takes most of the time of a long report.
+// Draws the pages of a job on paper, into a PDF or as a picture. Every character has its cell of a grid, and glyphs are
+// looked up once: shaping each text would take most of the time of a long report.
 #pragma once
 
 #include <QFont>
@@ -13,7 +13,7 @@
 
 namespace desktop {
 
-// How large the text of a job stands on paper, in device pixels; the same on all its pages.
+// Text measures of a job in device pixels; the same on all its pages.
 struct PaperGrid {
   double Size;    // of the font
   double Cell;    // from one column to the next
@@ -21,20 +21,19 @@ struct PaperGrid {
   double Pitch;   // from one line to the next
 };
 
-// The size that the job asks for, or the largest below it with which 80 columns, the widest line and the longest page
-// stand inside the area, in pixels at that resolution (dots an inch). The lines move together before the size goes
-// down.
+// Uses the job's font size, or the largest smaller one at which 80 columns, the widest line and the longest page fit
+// the area. Line spacing shrinks before the font does. Area in pixels; resolution in dots per inch.
 PaperGrid FitGrid(const runtime::PrintJob& job, QSizeF area, double resolution);
 
 class PagePainter {
  public:
-  // For that area, in pixels at that resolution.
+  // Area in pixels; resolution in dots per inch.
   PagePainter(const runtime::PrintJob& job, QSizeF area, double resolution);
-  // From the painter's origin on.
+  // Draws from the painter's origin.
   void Paint(QPainter& painter, const runtime::PrintedPage& page);
 
  private:
-  // A weight of the font, and the glyph of each character of the code page.
+  // One weight of the font, with the glyph of each character of the code page.
   struct Typeface {
     QRawFont Font;
     std::array<quint32, 256> Glyphs;
@@ -46,12 +45,12 @@ class PagePainter {
   PaperGrid grid_;
   Typeface plain_;
   Typeface bold_;
-  // Of the line at hand; kept for their memory.
+  // Of the current line; members only to reuse their memory.
   QList<quint32> glyphs_;
   QList<QPointF> places_;
 };
 
-// Draws all pages inside the margins of the device's page layout; tells whether every page went through.
+// Draws all pages inside the margins of the device's page layout; false if one failed.
 bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device);
 
 }  // namespace desktop

@@ -1,4 +1,4 @@
-// The queue, or the file; drawing is the page painter's.
+// Sends a job to the queue or writes a PDF; the page painter draws it.
 #include "desktop/paper.h"
 
 #include <QDir>
@@ -17,13 +17,12 @@
 namespace desktop {
 namespace {
 
-// What most printers can reach, so that a PDF can be put on paper later with nothing cut off.
+// Most printers reach this far, so the PDF can be printed later with nothing cut off.
 constexpr double PdfMargin = 0.25;  // inches
 
 [[noreturn]] void Fail() { throw runtime::Failure{runtime::PrinterError, ""}; }
 
-// The toolkit tells nobody when the queue refuses a job, but the library below it remembers. Statuses up to 7 are
-// successes.
+// Qt does not report refused jobs; cupsLastError does. Statuses up to 7 are successes.
 bool QueueTookJob() {
   using LastError = int (*)();
   auto last_error = reinterpret_cast<LastError>(QLibrary::resolve("cups", 2, "cupsLastError"));
@@ -35,7 +34,7 @@ void PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer) {
   if (!PaintPages(job, printer) || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
 }
 
-// A file of that name that nobody else has, a number behind the name where it is taken.
+// Creates a new file; adds " (2)" and so on to the name if it is taken.
 void OpenNew(QFile& file, const QString& folder, const QString& name) {
   for (int number = 1;; ++number) {
     QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
@@ -53,7 +52,7 @@ void PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& s
       QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
   bool drawn = PaintPages(job, writer);
   if (drawn && file.flush() && file.error() == QFileDevice::NoError) return;
-  // Not by the file itself, which keeps what it could not even close.
+  // Not file.remove(), which fails if the file cannot be closed.
   QFile::remove(file.fileName());
   Fail();
 }

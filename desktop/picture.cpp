@@ -1,4 +1,4 @@
-// Grabs what the window shows; draws what a printer would.
+// Saves what a window shows, and a page as a printer would print it.
 #include "desktop/picture.h"
 
 #include <QFile>

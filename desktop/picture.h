@@ -9,9 +9,9 @@ class QWidget;
 
 namespace desktop {
 
-// Saves it as a PNG file; false where the file cannot be written.
+// Saves a PNG file; false if it cannot be written.
 bool SavePicture(QWidget& window, const std::string& path);
-// The same of a page of the job, from 0, as it stands on a sheet of A4.
+// Likewise one page of the job, counted from 0, on a sheet of A4.
 bool SavePagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path);
 
 }  // namespace desktop

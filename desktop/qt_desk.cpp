@@ -1,4 +1,4 @@
-// Boxes and dialogs over the window in front. What a handler has changed is drawn before one comes up.
+// Boxes and dialogs open over the front window, after what a handler has changed is drawn.
 #include "desktop/qt_desk.h"
 
 #include <QApplication>
@@ -39,7 +39,7 @@ QMessageBox::Icon IconOf(forms::Icon icon) {
 
 QtDesk::QtDesk(std::string folder) : folder_(std::move(folder)) {}
 
-QWidget* QtDesk::Below() {
+QWidget* QtDesk::FrontWindow() {
   if (!view_) return nullptr;
   view_->Sync();
   return view_->Front();
@@ -47,7 +47,7 @@ QWidget* QtDesk::Below() {
 
 forms::Answer QtDesk::AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
                                     forms::Buttons buttons) {
-  QMessageBox box(Below());
+  QMessageBox box(FrontWindow());
   box.setWindowTitle(TitleOf(title));
   box.setIcon(IconOf(icon));
   box.setTextFormat(Qt::PlainText);
@@ -60,14 +60,14 @@ forms::Answer QtDesk::AskMessageBox(forms::Icon icon, std::string_view title, st
 }
 
 std::string QtDesk::InputBox(std::string_view title, std::string_view prompt) {
-  InputDialog dialog(TitleOf(title), Shown(prompt).remove('\r'), Below());
+  InputDialog dialog(TitleOf(title), Shown(prompt).remove('\r'), FrontWindow());
   return dialog.exec() == QDialog::Accepted ? Stored(dialog.Answer()) : std::string();
 }
 
 void QtDesk::Beep() { QApplication::beep(); }
 
 std::optional<std::uint32_t> QtDesk::ColourDialog(std::uint32_t start) {
-  QColor colour = QColorDialog::getColor(ToColour(start), Below());
+  QColor colour = QColorDialog::getColor(ToColour(start), FrontWindow());
   if (!colour.isValid()) return std::nullopt;
   return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
 }
@@ -77,7 +77,7 @@ QPrinter& QtDesk::Printer() {
   return *printer_;
 }
 
-void QtDesk::PrinterDialog() { QPrintDialog(&Printer(), Below()).exec(); }
+void QtDesk::PrinterDialog() { QPrintDialog(&Printer(), FrontWindow()).exec(); }
 
 void QtDesk::Print(const runtime::PrintJob& job) { PrintOnPaper(job, Printer(), Now()); }
 
@@ -104,13 +104,13 @@ void QtDesk::RepaintNow() {
   painted_ = std::chrono::steady_clock::now();
 }
 
-// Not quit(): that asks the windows first, and they leave it to the form.
+// Not quit(): that would ask the windows first, and they leave the answer to the form.
 void QtDesk::Closed() { QApplication::exit(0); }
 
 void QtDesk::FailureReport(std::string_view failure, std::string_view file) {
   QString text = Shown(failure);
   if (!file.empty()) text += QStringLiteral("\n\n%1").arg(Shown(file));
-  QMessageBox box(QMessageBox::Critical, Shown(OwnTitle), text, QMessageBox::Ok, Below());
+  QMessageBox box(QMessageBox::Critical, Shown(OwnTitle), text, QMessageBox::Ok, FrontWindow());
   box.setTextFormat(Qt::PlainText);
   box.exec();
   QApplication::exit(1);

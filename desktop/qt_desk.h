@@ -1,4 +1,4 @@
-// The desk of the running program: boxes, dialogs, printer, help viewer, clock and drives of this machine.
+// The desk of the desktop program: boxes, dialogs, printer, help viewer, clock and drives of this machine.
 #pragma once
 
 #include <QPrinter>
@@ -17,7 +17,7 @@ class QtDesk final : public forms::Desk {
  public:
   // The folder of the collection.
   explicit QtDesk(std::string folder);
-  // Where what the handlers change is drawn; boxes stand over its window in front.
+  // The view to repaint; boxes open over its front window.
   void DrawOn(ScreenView& view) { view_ = &view; }
 
   std::string InputBox(std::string_view title, std::string_view prompt) override;
@@ -39,7 +39,7 @@ class QtDesk final : public forms::Desk {
                               forms::Buttons buttons) override;
 
  private:
-  QWidget* Below();
+  QWidget* FrontWindow();
   QPrinter& Printer();
 
   std::string folder_;

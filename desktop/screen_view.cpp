@@ -1,4 +1,4 @@
-// Draws the windows of the screen, the one in front in front.
+// Draws the windows in stacking order.
 #include "desktop/screen_view.h"
 
 #include <QCoreApplication>

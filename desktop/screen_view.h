@@ -1,4 +1,4 @@
-// All windows of the program as drawn, and the one road on which the user's events reach the forms.
+// All drawn windows of the program, and the one path on which the user's events reach the forms.
 #pragma once
 
 #include <functional>
@@ -12,20 +12,20 @@ namespace desktop {
 
 class ScreenView {
  public:
-  // Hands one event of the user to the program.
+  // Delivers one user event to the program.
   using Delivery = std::function<void(const std::function<void()>&)>;
   ScreenView(forms::WindowStack& windows, Delivery deliver);
 
-  // Runs the event and then brings what is drawn up to date. Nothing while another event runs.
+  // Delivers the event, then updates what is drawn. Does nothing while another event runs.
   void Deliver(const std::function<void()>& event);
-  // Every drawn window as its form says; a window is drawn from the first time that it is visible.
+  // Updates all drawn windows; a window is first drawn when it becomes visible.
   void Sync();
-  // Sync, and what has changed is painted before it returns; the user's doings wait meanwhile.
+  // Updates and paints before it returns; input is held back meanwhile.
   void Paint();
 
-  // nullptr where the window has not been drawn yet.
+  // nullptr if the window has not been drawn yet.
   FormView* ViewOf(const forms::Window& window) const;
-  // The drawn window in front; nullptr when none is visible.
+  // The drawn front window; nullptr if none is visible.
   FormView* Front() const;
 
  private:

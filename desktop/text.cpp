@@ -1,4 +1,4 @@
-// Turns texts into Unicode and back, character by character.
+// Converts character by character.
 #include "desktop/text.h"
 
 #include <utility>
@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-// Tabs and line breaks have no place in a box of one line.
+// A box has one line: no tabs or line breaks.
 std::optional<char> Taken(QChar character) {
   if (character.category() == QChar::Other_Control) return std::nullopt;
   return runtime::FromUnicode(character.unicode());

@@ -1,4 +1,4 @@
-// Texts on their way between the system's code page and the toolkit.
+// Converts texts between Windows-1252 and the toolkit's Unicode.
 #pragma once
 
 #include <QString>
@@ -10,15 +10,15 @@
 namespace desktop {
 
 QString Shown(std::string_view text);
-// Characters that the code page lacks, and control characters, are left out.
+// Leaves out control characters and characters that the code page lacks.
 std::string Stored(const QString& text);
-// True where Stored would leave none out.
+// Whether Stored would leave nothing out.
 bool Storable(const QString& text);
-// As a caption is read: runs of blanks folded to one, none at the ends, no hot key mark.
+// A caption as read aloud: blanks folded and trimmed, no hot key mark.
 QString Spoken(std::string_view caption);
 
-// Takes out of a typed or pasted text what the code page lacks. Refuses is asked each time: false leaves the text as it
-// is.
+// Removes from a typed or pasted text what the code page lacks. Calls refuses each time; if it returns false, the text
+// stays as it is.
 class CodePageValidator final : public QValidator {
  public:
   explicit CodePageValidator(std::function<bool()> refuses, QObject* parent = nullptr);

@@ -1,4 +1,4 @@
-// Which events of the toolkit matter, and what the mouse does. The keys are in user_keys.cpp.
+// Dispatches the toolkit's events and handles the mouse; user_keys.cpp handles the keys.
 #include "desktop/user_input.h"
 
 #include <QContextMenuEvent>
@@ -22,7 +22,7 @@ void SetDown(ControlView& view, bool down) {
   if (auto* button = dynamic_cast<QAbstractButton*>(&view.Widget())) button->setDown(down && button->isEnabled());
 }
 
-// The widget's own part of an event, before the form hears of it.
+// Lets the widget handle the event natively, before the form gets it.
 void LetEdit(FieldView& field, QEvent& event) { static_cast<QObject&>(field).event(&event); }
 
 }  // namespace
@@ -46,7 +46,7 @@ void UserInput::Watch(ControlView& view) {
   WatchSignals(view);
 }
 
-// The roads that end in no key or mouse event of ours: clipboard, dragging, input methods, screen readers.
+// Changes that arrive as no event: clipboard, dragging, input methods, screen readers.
 void UserInput::WatchSignals(ControlView& view) {
   if (FieldView* field = AsField(&view)) {
     connect(field, &QLineEdit::textChanged, this, [this, field](const QString& text) {
@@ -88,7 +88,7 @@ bool UserInput::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::ContextMenu:
       return ContextMenuAsked(view);
     case QEvent::FocusIn:
-      // The toolkit may move its focus by itself when a widget goes; the form's focus stands.
+      // The toolkit moves its focus when a widget disappears, but the form's focus is authoritative.
       if (view && !view->Control().HoldsFocus()) QTimer::singleShot(0, this, [this] { screen_.Sync(); });
       return false;
     default:
@@ -109,7 +109,7 @@ bool UserInput::MousePressed(ControlView* view, QMouseEvent& mouse) {
 void UserInput::PickAt(ControlView& view, const QPoint& position) {
   auto* list = dynamic_cast<ListView*>(&view);
   if (!list) return;
-  int row = list->indexAt(position).row();  // -1 beside the items
+  int row = list->indexAt(position).row();  // -1 outside the items
   Deliver(view, [&] { Window().UserPick(list->List(), row); });
 }
 
@@ -152,7 +152,7 @@ bool UserInput::MouseDoubled(ControlView* view, QMouseEvent& mouse) {
   return true;
 }
 
-// The native menu of a field, once the field has the focus.
+// Opens the native menu only if the field has got the focus.
 bool UserInput::ContextMenuAsked(ControlView* view) { return !AsField(view) || !view->Control().HoldsFocus(); }
 
 }  // namespace desktop

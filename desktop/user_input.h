@@ -1,5 +1,5 @@
-// What the user does to the widgets of one window, told to its form in the form's own terms. The widgets keep only
-// their native editing: caret, selection, clipboard, undo, input methods, scrolling.
+// Translates what the user does to the widgets of one window into events of its form. The widgets keep only native
+// editing: caret, selection, clipboard, undo, input methods, scrolling.
 #pragma once
 
 #include <QObject>
@@ -24,13 +24,13 @@ class UserInput final : public QObject {
  public:
   UserInput(FormView& form, ScreenView& screen);
   void Watch(ControlView& view);
-  // The window itself, or its bare surface.
+  // The window itself or its surface.
   void Watch(QWidget& bare);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   forms::Window& Window() const;
-  // Sets the widget back to what the form says once the event has run.
+  // Runs the event, then resets the widget to what the form says.
   void Deliver(ControlView& view, const std::function<void()>& event);
   void WatchSignals(ControlView& view);
 

@@ -1,4 +1,4 @@
-// The keys: what the form takes, and what a text box edits natively once the form has been asked.
+// Keys go to the form; a text box edits natively after asking the form.
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <optional>
@@ -41,10 +41,10 @@ std::optional<forms::Key> NamedKey(const QKeyEvent& key) {
   }
 }
 
-// Keys that a text box edits with by itself.
+// Keys that a text box handles natively.
 bool Edits(forms::Key key) { return key == forms::Key::Space || key == forms::Key::Home || key == forms::Key::End; }
 
-// The characters that a key stands for; none while Ctrl or Alt makes something else of it.
+// The characters that a key types; none with Ctrl, Alt or Meta.
 QString Characters(const QKeyEvent& key) {
   if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return {};
   return key.text().isEmpty() || key.text().at(0).category() == QChar::Other_Control ? QString() : key.text();
@@ -58,7 +58,7 @@ std::optional<char> AltLetter(const QKeyEvent& key) {
 
 }  // namespace
 
-// A letter with Alt belongs to the form, not to the toolkit's own hot keys.
+// Alt and a letter go to the form, not to the toolkit's own hot keys.
 bool UserInput::KeepsFromHotKeys(QKeyEvent& key) {
   if (!AltLetter(key)) return false;
   key.accept();
@@ -97,7 +97,7 @@ bool UserInput::KeyInField(FieldView& field, QKeyEvent& key) {
   return true;
 }
 
-// Whether the box takes the characters: the code page has them, and KeyPress has left the focus where it was.
+// Whether the box takes the characters: the code page has them, and KeyPress leaves the focus in the box.
 bool UserInput::AskKeyPress(FieldView& field, const QString& characters) {
   if (!Storable(characters)) {
     Window().Owner().Desk.Beep();
@@ -108,7 +108,7 @@ bool UserInput::AskKeyPress(FieldView& field, const QString& characters) {
   return taken;
 }
 
-// What an input method hands over at last is a typed character; what it shows until then is its own affair.
+// Committed text is typed text; preedit text is not.
 bool UserInput::Composed(FieldView& field, QInputMethodEvent& event) {
   if (event.commitString().isEmpty() || AskKeyPress(field, event.commitString())) return false;
   QInputMethodEvent nothing;
