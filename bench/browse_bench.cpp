@@ -12,7 +12,7 @@
 #include "bench/film_generator.h"
 #include "bench/measured.h"
 #include "bench/quiet_desk.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 
 namespace {
 
@@ -47,7 +47,7 @@ class Walk {
   bench::QuietDesk desk_;
   runtime::RealDisk disk_;
   Program program_;
-  std::optional<desktop::ScreenView> view_;
+  std::optional<desktop::StackView> view_;
 };
 
 void Print(const char* what, bool drawn, std::vector<double> times) {

@@ -16,7 +16,7 @@
 #include "bench/quiet_desk.h"
 #include "bench/unsynced_disk.h"
 #include "desktop/page_painter.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "runtime/print_job.h"
 
 namespace {
@@ -44,7 +44,7 @@ JobBytes BytesOf(const runtime::PrintJob& job) {
 // Keeps the last document, and paints as the desk of the running program does.
 class ReportDesk final : public bench::QuietDesk {
  public:
-  desktop::ScreenView* View = nullptr;
+  desktop::StackView* View = nullptr;
   std::optional<runtime::PrintJob> Document;
   int Frames = 0;
 
@@ -93,7 +93,7 @@ void MeasureReport(const std::filesystem::path& folder, const char* name,
                 static_cast<double>(pdf.size()) / 1e6, painted / Films * 1e6);
   }
   Reports reports(folder);
-  desktop::ScreenView view(reports.Running.Windows, [&](const auto& event) { reports.Running.Deliver(event); });
+  desktop::StackView view(reports.Running.Windows, [&](const auto& event) { reports.Running.Deliver(event); });
   reports.Desk.View = &view;
   view.Paint();
   double drawn = reports.Run(reports.Running.RecordScreen.*item);

@@ -18,7 +18,7 @@
 #include "bench/measured.h"
 #include "desktop/application_look.h"
 #include "desktop/qt_desk.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ int StartProgram(int argc, char** argv, const std::string& folder) {
     runtime::RealDisk disk(folder);
     desktop::QtDesk desk(folder);
     Program program(desk, disk);
-    desktop::ScreenView view(program.Windows, [&](const std::function<void()>& event) { program.Deliver(event); });
+    desktop::StackView view(program.Windows, [&](const std::function<void()>& event) { program.Deliver(event); });
     desk.DrawOn(view);
     program.StartRecordScreen();
     view.Sync();

@@ -7,7 +7,7 @@
 #include <unordered_set>
 
 #include "desktop/artwork.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "desktop/text.h"
 #include "forms/window_stack.h"
 
@@ -33,15 +33,15 @@ std::unordered_set<const forms::Control*> TagsOf(const forms::Window& window) {
 
 }  // namespace
 
-FormView::FormView(forms::Window& window, ScreenView& all)
+FormView::FormView(forms::Window& window, StackView& all)
     : window_(window),
-      screen_(all),
+      stack_(all),
       input_(*this, all),
       surface_(this),
       menu_(
-          window, *this, [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.UserClick(item); }); },
-          [this](forms::MenuItem& item) { screen_.Deliver([&] { window_.Owner().Desk.Help(item.Ids.HelpId); }); },
-          [this] { screen_.Sync(); }) {
+          window, *this, [this](forms::MenuItem& item) { stack_.Deliver([&] { window_.UserClick(item); }); },
+          [this](forms::MenuItem& item) { stack_.Deliver([&] { window_.Owner().Desk.Help(item.Ids.HelpId); }); },
+          [this] { stack_.Sync(); }) {
   auto tags = TagsOf(window);
   for (forms::Control* control : window.Controls())
     if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr});
@@ -152,7 +152,7 @@ void FormView::resizeEvent(QResizeEvent*) {
 
 void FormView::closeEvent(QCloseEvent* event) {
   event->ignore();
-  screen_.Deliver([this] { window_.UserClose(); });
+  stack_.Deliver([this] { window_.UserClose(); });
 }
 
 }  // namespace desktop

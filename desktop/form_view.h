@@ -13,11 +13,11 @@
 
 namespace desktop {
 
-class ScreenView;
+class StackView;
 
 class FormView final : public QWidget {
  public:
-  FormView(forms::Window& window, ScreenView& all);
+  FormView(forms::Window& window, StackView& all);
 
   // Updates the widgets of all changed controls, and the focus.
   void Sync();
@@ -46,7 +46,7 @@ class FormView final : public QWidget {
   QSize StartSize() const;
 
   forms::Window& window_;
-  ScreenView& screen_;
+  StackView& stack_;
   UserInput input_;
   QWidget surface_;
   MenuView menu_;

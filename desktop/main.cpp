@@ -5,7 +5,7 @@
 #include "app/program.h"
 #include "desktop/application_look.h"
 #include "desktop/qt_desk.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "runtime/disk.h"
 #include "runtime/folder_lock.h"
 
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
   runtime::RealDisk disk(".");
   desktop::QtDesk desk(".");
   Program program(desk, disk);
-  desktop::ScreenView view(program.Windows, [&program](const std::function<void()>& event) { program.Deliver(event); });
+  desktop::StackView view(program.Windows, [&program](const std::function<void()>& event) { program.Deliver(event); });
   desk.DrawOn(view);
   program.StartOpener();
   view.Sync();

@@ -12,7 +12,7 @@
 #include "desktop/drives.h"
 #include "desktop/input_dialog.h"
 #include "desktop/paper.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "desktop/text.h"
 
 namespace desktop {

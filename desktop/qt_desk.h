@@ -11,14 +11,14 @@
 
 namespace desktop {
 
-class ScreenView;
+class StackView;
 
 class QtDesk final : public forms::Desk {
  public:
   // The folder of the collection.
   explicit QtDesk(std::string folder);
   // The view to repaint; boxes open over its front window.
-  void DrawOn(ScreenView& view) { view_ = &view; }
+  void DrawOn(StackView& view) { view_ = &view; }
 
   std::string InputBox(std::string_view title, std::string_view prompt) override;
   void Beep() override;
@@ -43,7 +43,7 @@ class QtDesk final : public forms::Desk {
   QPrinter& Printer();
 
   std::string folder_;
-  ScreenView* view_ = nullptr;
+  StackView* view_ = nullptr;
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<HelpViewer> help_;
   std::chrono::steady_clock::time_point painted_;

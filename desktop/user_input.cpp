@@ -10,7 +10,7 @@
 #include "desktop/field_view.h"
 #include "desktop/form_view.h"
 #include "desktop/list_view.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -27,7 +27,7 @@ void LetEdit(FieldView& field, QEvent& event) { static_cast<QObject&>(field).eve
 
 }  // namespace
 
-UserInput::UserInput(FormView& form, ScreenView& screen) : form_(form), screen_(screen) {}
+UserInput::UserInput(FormView& form, StackView& stack) : form_(form), stack_(stack) {}
 
 forms::Window& UserInput::Window() const { return form_.Window(); }
 
@@ -63,7 +63,7 @@ void UserInput::WatchSignals(ControlView& view) {
 
 void UserInput::Deliver(ControlView& view, const std::function<void()>& event) {
   view.Forget();
-  screen_.Deliver(event);
+  stack_.Deliver(event);
 }
 
 bool UserInput::eventFilter(QObject* watched, QEvent* event) {
@@ -89,7 +89,7 @@ bool UserInput::eventFilter(QObject* watched, QEvent* event) {
       return ContextMenuAsked(view);
     case QEvent::FocusIn:
       // The toolkit moves its focus when a widget disappears, but the form's focus is authoritative.
-      if (view && !view->Control().HoldsFocus()) QTimer::singleShot(0, this, [this] { screen_.Sync(); });
+      if (view && !view->Control().HoldsFocus()) QTimer::singleShot(0, this, [this] { stack_.Sync(); });
       return false;
     default:
       return false;
@@ -136,7 +136,7 @@ void UserInput::Click(ControlView& view) {
 bool UserInput::MouseMoved(ControlView* view, QMouseEvent& mouse) {
   if (view && AsField(view)) LetEdit(*AsField(view), mouse);
   if (view && pressed_ == view) SetDown(*view, view->Face().rect().contains(mouse.position().toPoint()));
-  screen_.Deliver([&] { Window().UserMove(view ? &view->Control() : nullptr); });
+  stack_.Deliver([&] { Window().UserMove(view ? &view->Control() : nullptr); });
   mouse.accept();
   return true;
 }

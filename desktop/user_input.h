@@ -18,11 +18,11 @@ namespace desktop {
 class ControlView;
 class FieldView;
 class FormView;
-class ScreenView;
+class StackView;
 
 class UserInput final : public QObject {
  public:
-  UserInput(FormView& form, ScreenView& screen);
+  UserInput(FormView& form, StackView& stack);
   void Watch(ControlView& view);
   // The window itself or its surface.
   void Watch(QWidget& bare);
@@ -50,7 +50,7 @@ class UserInput final : public QObject {
   void Click(ControlView& view);
 
   FormView& form_;
-  ScreenView& screen_;
+  StackView& stack_;
   std::unordered_map<const QObject*, ControlView*> views_;
   ControlView* pressed_ = nullptr;
 };

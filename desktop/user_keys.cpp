@@ -5,7 +5,7 @@
 
 #include "desktop/field_view.h"
 #include "desktop/form_view.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "desktop/text.h"
 #include "desktop/user_input.h"
 #include "forms/window_stack.h"
@@ -76,16 +76,16 @@ bool UserInput::KeyPressed(QKeyEvent& key) {
   if (field && (!named || Edits(*named))) return KeyInField(*field, key);
   if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return true;
   if (named) {
-    screen_.Deliver([&] { Window().UserKey(*named); });
+    stack_.Deliver([&] { Window().UserKey(*named); });
     return true;
   }
-  for (char character : Stored(Characters(key))) screen_.Deliver([&] { Window().UserType(character); });
+  for (char character : Stored(Characters(key))) stack_.Deliver([&] { Window().UserType(character); });
   return true;
 }
 
 void UserInput::AltPressed(char letter) {
   forms::MenuItem* menu = nullptr;
-  screen_.Deliver([&] { menu = Window().UserAlt(letter); });
+  stack_.Deliver([&] { menu = Window().UserAlt(letter); });
   if (menu) form_.Menu().Open(*menu);
 }
 
@@ -104,7 +104,7 @@ bool UserInput::AskKeyPress(FieldView& field, const QString& characters) {
     return false;
   }
   bool taken = false;
-  screen_.Deliver([&] { taken = Window().UserKeyPress(field.Box()); });
+  stack_.Deliver([&] { taken = Window().UserKeyPress(field.Box()); });
   return taken;
 }
 

@@ -52,7 +52,7 @@ void CheckControl(const forms::Control& control, const desktop::FormView& form) 
 
 }  // namespace
 
-void CheckDrawn(const forms::WindowStack& windows, const desktop::ScreenView& view) {
+void CheckDrawn(const forms::WindowStack& windows, const desktop::StackView& view) {
   for (const forms::Window* window : windows.All()) {
     desktop::FormView* form = view.ViewOf(*window);
     See(window->Visible() == (form && form->isVisible()), window->Name, "visibility");

@@ -72,7 +72,7 @@ class Layout : public testing::TestWithParam<int> {
   PlannedDesk desk_{world_};
   runtime::RealDisk disk_{fresh_.Path().string()};
   Program program_{desk_, disk_};
-  desktop::ScreenView view_{program_.Windows, [this](const std::function<void()>& event) { program_.Deliver(event); }};
+  desktop::StackView view_{program_.Windows, [this](const std::function<void()>& event) { program_.Deliver(event); }};
 };
 
 TEST_P(Layout, PageOneIsWholeAndNeat) {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "desktop/field_view.h"
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "forms/desk.h"
 #include "forms/window.h"
 #include "forms/window_stack.h"
@@ -73,7 +73,7 @@ class DrawnWindow {
   CountingDesk Desk;
   forms::WindowStack Windows{Desk};
   SmallForm Form{Windows};
-  ScreenView View{Windows, [](const std::function<void()>& event) { event(); }};
+  StackView View{Windows, [](const std::function<void()>& event) { event(); }};
 
   FormView& Drawn() { return *View.ViewOf(Form); }
   QWidget& WidgetOf(const forms::Control& control) { return Drawn().ViewOf(control)->Widget(); }

@@ -2,7 +2,7 @@
 // widget shows what its form says.
 #pragma once
 
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 #include "tests/story/player.h"
 
 class QKeyEvent;
@@ -36,7 +36,7 @@ class WidgetPlayer final : public Player {
   void PressCharacter(char character);
 
   Program& program_;
-  desktop::ScreenView view_;
+  desktop::StackView view_;
 };
 
 }  // namespace story

@@ -10,11 +10,11 @@
 
 namespace desktop {
 
-class ScreenView {
+class StackView {
  public:
   // Delivers one user event to the program.
   using Delivery = std::function<void(const std::function<void()>&)>;
-  ScreenView(forms::WindowStack& windows, Delivery deliver);
+  StackView(forms::WindowStack& windows, Delivery deliver);
 
   // Delivers the event, then updates what is drawn. Does nothing while another event runs.
   void Deliver(const std::function<void()>& event);

@@ -1,5 +1,5 @@
 // Draws the windows in stacking order.
-#include "desktop/screen_view.h"
+#include "desktop/stack_view.h"
 
 #include <QCoreApplication>
 #include <utility>
@@ -8,10 +8,9 @@
 
 namespace desktop {
 
-ScreenView::ScreenView(forms::WindowStack& windows, Delivery deliver)
-    : windows_(windows), deliver_(std::move(deliver)) {}
+StackView::StackView(forms::WindowStack& windows, Delivery deliver) : windows_(windows), deliver_(std::move(deliver)) {}
 
-void ScreenView::Deliver(const std::function<void()>& event) {
+void StackView::Deliver(const std::function<void()>& event) {
   if (delivering_) return;
   delivering_ = true;
   deliver_(event);
@@ -19,7 +18,7 @@ void ScreenView::Deliver(const std::function<void()>& event) {
   Sync();
 }
 
-void ScreenView::Sync() {
+void StackView::Sync() {
   for (forms::Window* window : windows_.All()) {
     std::unique_ptr<FormView>* view = nullptr;
     if (auto found = views_.find(window); found != views_.end()) {
@@ -36,17 +35,17 @@ void ScreenView::Sync() {
   view.activateWindow();
 }
 
-void ScreenView::Paint() {
+void StackView::Paint() {
   Sync();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-FormView* ScreenView::ViewOf(const forms::Window& window) const {
+FormView* StackView::ViewOf(const forms::Window& window) const {
   auto found = views_.find(&window);
   return found == views_.end() ? nullptr : found->second.get();
 }
 
-FormView* ScreenView::Front() const {
+FormView* StackView::Front() const {
   const forms::Window* front = windows_.Front();
   return front ? ViewOf(*front) : nullptr;
 }
