@@ -1,4 +1,4 @@
-// The program's events: delivered one by one, with the one catch of failures around them.
+// Delivers events one at a time and catches failures.
 #include "app/program.h"
 
 #include <algorithm>

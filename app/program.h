@@ -1,4 +1,4 @@
-// The whole program on a desk and a disk: its windows, its files, and the one place where a failure is caught.
+// The whole program on a desk and a disk: its windows and files. Failures that stop the program are caught here.
 #pragma once
 
 #include <functional>
@@ -27,16 +27,16 @@ class Program {
   frmQuickStart QuickStart;
   frmCopy Copy;
 
-  // Shows the opening window, as a user starts the program.
+  // Shows the opening window, as when a user starts the program.
   void StartOpener();
-  // Shows the record screen at once.
+  // Shows the record screen directly.
   void StartRecordScreen();
-  // Runs one event of the user. A failure that no handler guards stops the program with the failure report; nothing is
-  // delivered once the program has ended. It ends, too, when no window is visible any more.
+  // Runs one event of the user. A failure that no handler catches stops the program with the failure report. The
+  // program also ends when no window is visible. After the end, events are ignored.
   void Deliver(const std::function<void()>& event);
 
   bool Ended() const { return ended_; }
-  // The failure that stopped the program; nothing if none did.
+  // The failure that stopped the program, if any.
   const std::optional<runtime::Failure>& Stopped() const { return stopped_; }
 
  private:

@@ -1,4 +1,4 @@
-// A list of the entries, or one film back into its slot; the latter only while the program does not run on the folder.
+// Lists the history, or restores one film to its slot; refuses to restore while the program has the folder open.
 #include "companion/history_command.h"
 
 #include <charconv>
@@ -20,10 +20,10 @@ constexpr std::string_view Usage =
 
 struct Request {
   std::string Folder = ".";
-  std::optional<std::int64_t> Undo;  // the number of an entry
+  std::optional<std::int64_t> Undo;  // number of the entry to restore
 };
 
-std::optional<Request> Understood(std::vector<std::string> arguments) {
+std::optional<Request> ParseArguments(std::vector<std::string> arguments) {
   Request request;
   if (arguments.size() >= 2 && arguments[arguments.size() - 2] == "undo") {
     const std::string& text = arguments.back();
@@ -43,7 +43,7 @@ std::string TitleOf(const store::FilmRecord& film) {
   return title.empty() ? "nothing" : runtime::ToUtf8(title);
 }
 
-store::FilmRecord Present(const runtime::OpenFile& master, std::int64_t slot) {
+store::FilmRecord ReadSlot(const runtime::OpenFile& master, std::int64_t slot) {
   store::FilmRecord film;
   master.Read(film.Bytes.data(), film.Bytes.size(), (slot - 1) * store::RecordLength);
   return film;
@@ -56,13 +56,13 @@ void List(const std::vector<store::KeptFilm>& films, const runtime::OpenFile& ma
   }
   out << "   No.  overwritten          record  film, and what stands there now\n";
   for (const store::KeptFilm& kept : films) {
-    store::FilmRecord present = Present(master, kept.Slot);
+    store::FilmRecord current = ReadSlot(master, kept.Slot);
     out << std::setw(6) << kept.Number << "  " << kept.When << std::setw(8) << kept.Slot << "  " << TitleOf(kept.Film)
-        << (present.Bytes == kept.Film.Bytes ? " - this film" : " - " + TitleOf(present)) << "\n";
+        << (current.Bytes == kept.Film.Bytes ? " - this film" : " - " + TitleOf(current)) << "\n";
   }
 }
 
-int Undo(runtime::Disk& disk, std::int64_t number, std::ostream& out, std::ostream& complaints) {
+int Undo(runtime::Disk& disk, std::int64_t number, std::ostream& out, std::ostream& errors) {
   for (const store::KeptFilm& kept : store::ReadHistory(disk)) {
     if (kept.Number != number) continue;
     runtime::Files files(disk);
@@ -71,16 +71,16 @@ int Undo(runtime::Disk& disk, std::int64_t number, std::ostream& out, std::ostre
         << " again. Sort in the program, so that views and lists show it.\n";
     return 0;
   }
-  complaints << "There is no entry " << number << ".\n";
+  errors << "There is no entry " << number << ".\n";
   return 1;
 }
 
 }  // namespace
 
-int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& complaints) {
-  std::optional<Request> request = Understood(arguments);
+int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& errors) {
+  std::optional<Request> request = ParseArguments(arguments);
   if (!request) {
-    complaints << Usage;
+    errors << Usage;
     return 2;
   }
   try {
@@ -91,10 +91,10 @@ int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& o
       return 0;
     }
     runtime::FolderLock lock(request->Folder);
-    if (lock.Held()) return Undo(disk, *request->Undo, out, complaints);
-    complaints << "This collection is open already.\n";
+    if (lock.Held()) return Undo(disk, *request->Undo, out, errors);
+    errors << "This collection is already open.\n";
   } catch (const runtime::Failure& failure) {
-    complaints << failure.Name << ": " << request->Folder << "/" << failure.File << "\n";
+    errors << failure.Name << ": " << request->Folder << "/" << failure.File << "\n";
   }
   return 1;
 }

@@ -1,4 +1,4 @@
-// The companion command `reelora-history`: shows the films that were overwritten and puts one back.
+// The companion command `reelora-history`: lists overwritten films and restores one.
 #pragma once
 
 #include <ostream>
@@ -7,8 +7,8 @@
 
 namespace companion {
 
-// Arguments: those behind the command's own name. Speaks UTF-8 to the two streams. The exit status: 0 done, 1 it could
-// not be done, 2 the arguments are none.
-int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& complaints);
+// Arguments: without the program name. Both streams are UTF-8. Returns the exit status: 0 done, 1 failed, 2 usage
+// error.
+int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& errors);
 
 }  // namespace companion

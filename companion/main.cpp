@@ -1,4 +1,4 @@
-// The command as a process.
+// Entry point of reelora-history.
 #include <iostream>
 
 #include "companion/history_command.h"

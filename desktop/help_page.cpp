@@ -60,7 +60,7 @@ QString ContentsPage(const help::HelpFile& file) {
 QString FoundPage(const help::HelpFile& file, const QString& words) {
   QString items;
   for (const help::HelpTopic& topic : file.Topics) {
-    if (topic.Holds(words.simplified().toStdString())) items += QStringLiteral("<li>%1</li>").arg(LinkTo(topic));
+    if (topic.Contains(words.simplified().toStdString())) items += QStringLiteral("<li>%1</li>").arg(LinkTo(topic));
   }
   QString heading = Heading(QStringLiteral("Topics with \u201c%1\u201d").arg(words.toHtmlEscaped()));
   if (items.isEmpty()) return heading + NoticePage(QStringLiteral("There is none."));

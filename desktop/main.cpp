@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
   desktop::SetUpLook();
   runtime::FolderLock lock(".");
   if (!lock.Held()) {
-    QMessageBox(QMessageBox::NoIcon, "Reelora Prima", "This collection is open already.", QMessageBox::Ok).exec();
+    QMessageBox(QMessageBox::NoIcon, "Reelora Prima", "This collection is already open.", QMessageBox::Ok).exec();
     return 1;
   }
   runtime::RealDisk disk(".");

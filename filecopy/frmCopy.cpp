@@ -1,5 +1,5 @@
-// From the chosen file and drive to the copy: what the user is asked on the way, and what an empty drive or a full disk
-// leads to. The master file is closed while the window is open.
+// Copies the chosen file to the chosen drive: questions, empty drives, full disks. The master file is closed while the
+// window is open.
 #include "filecopy/frmCopy.h"
 
 #include "forms/window_stack.h"
@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int MasterNo = 1;
-// The drive of the program's folder: a name alone means the file there.
+// The drive of the program's folder.
 constexpr std::string_view OwnDrive = "C:";
 constexpr std::string_view NoDiskText =
     "There is no disk in floppy drive, or wrong drive was selected. Insert disk and click ok.";
@@ -31,16 +31,16 @@ frmCopy::frmCopy(forms::WindowStack& windows, frmPage1& record_screen)
   WIRE(Drive1, Change);
 }
 
-// A window that was closed begins afresh; one that was only hidden is as it was left.
+// A closed window starts afresh; a hidden one keeps its state.
 void frmCopy::Open() {
   Show();
-  if (unloaded_) frmCopy_Load();
+  if (closed_) frmCopy_Load();
   File1.Refresh();
   Drive1.Refresh(RecordScreen.Desk.DriveLetters());
 }
 
 void frmCopy::frmCopy_Load() {
-  unloaded_ = false;
+  closed_ = false;
   RecordScreen.Files.Close(MasterNo);
   File2.Hide();
   Dir2.Hide();
@@ -54,7 +54,7 @@ void frmCopy::frmCopy_Load() {
 }
 
 void frmCopy::frmCopy_Unload() {
-  unloaded_ = true;
+  closed_ = true;
   SkipChange = 1;
   OpenMasterAgain();
 }
@@ -81,19 +81,19 @@ void frmCopy::Drive1_Change() {
   if (SkipChange == 1) return;
   File1.SetPath(Dir1.Path());
   SourceName = File1.Selected();
-  filecopy::FileFacts source = filecopy::FactsOf(Hard(), File1.OnDisk(SourceName));
-  TakeDrive();
+  filecopy::FileFacts source = filecopy::FactsOf(HardDisk(), File1.OnDisk(SourceName));
+  ReadDrive();
   bool done = false;
   try {
     std::optional<filecopy::FileFacts> target = TargetFacts();
     done = target ? AskToReplace(source, *target) : AskToCopy();
   } catch (const runtime::Failure&) {
-    GiveUp();
+    ReportNoDisk();
   }
-  if (done) Leave();
+  if (done) ReturnToRecordScreen();
 }
 
-void frmCopy::TakeDrive() {
+void frmCopy::ReadDrive() {
   LetterWord = runtime::Upper(Drive1.Selected());
   DriveWord = LetterWord == "A" || LetterWord == "B" ? LetterWord + ":" : LetterWord;
   TargetPath = OnFloppy() ? DriveWord + "\\" + std::string(runtime::Trim(SourceName)) : SourceName;
@@ -101,7 +101,7 @@ void frmCopy::TakeDrive() {
 
 bool frmCopy::OnFloppy() const { return DriveWord == "A:" || DriveWord == "B:"; }
 
-// Throws where the drive holds no disk.
+// Throws PathError if there is no disk in the drive.
 std::unique_ptr<runtime::Disk> frmCopy::DriveDisk() {
   auto letter = static_cast<char>(DriveWord[0] - 'A' + 'a');
   std::optional<std::string> folder = RecordScreen.Desk.DriveFolder(letter);
@@ -109,12 +109,12 @@ std::unique_ptr<runtime::Disk> frmCopy::DriveDisk() {
   return DiskIn(*folder);
 }
 
-// Nothing where the target does not exist. For any drive but A and B the target is the name alone, in the program's
+// Nothing if the target does not exist. For any drive but A and B the target is the file of that name in the program's
 // folder.
 std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
   std::string name = runtime::ToUtf8(SourceName);
   try {
-    return OnFloppy() ? filecopy::FactsOf(*DriveDisk(), name) : filecopy::FactsOf(Hard(), name);
+    return OnFloppy() ? filecopy::FactsOf(*DriveDisk(), name) : filecopy::FactsOf(HardDisk(), name);
   } catch (const runtime::Failure& failure) {
     if (failure.Name != runtime::FileNotFound) throw;
     return std::nullopt;
@@ -123,10 +123,10 @@ std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
 
 void frmCopy::CopyToDrive() {
   if (DriveWord == OwnDrive) return;
-  filecopy::CopyFile(Hard(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
+  filecopy::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
 }
 
-void frmCopy::GiveUp() {
+void frmCopy::ReportNoDisk() {
   RecordScreen.Desk.MessageBox(forms::Icon::Warning, BoxTitle, NoDiskText);
   lblCopy7.Show();
 }
@@ -135,7 +135,7 @@ void frmCopy::OpenMasterAgain() {
   if (!RecordScreen.Files.IsOpen(MasterNo)) store::OpenMaster(RecordScreen.Files, MasterNo);
 }
 
-void frmCopy::Leave() {
+void frmCopy::ReturnToRecordScreen() {
   Hide();
   OpenMasterAgain();
   RecordScreen.Show();

@@ -1,4 +1,4 @@
-// The Copy Files window: a data file of the program's folder goes to a disk in drive A or B.
+// The Copy Files window: copies a data file from the program's folder to a disk in drive A or B.
 #pragma once
 
 #include <functional>
@@ -28,10 +28,10 @@ struct frmCopy : forms::Window {
   frmCopy(forms::WindowStack& windows, frmPage1& record_screen);
 
   frmPage1& RecordScreen;
-  // Makes the disk of a drive's folder.
+  // Creates the disk for a drive's folder; tests replace it.
   std::function<std::unique_ptr<runtime::Disk>(const std::string& folder)> DiskIn;
 
-  // Dir1 lies below File1, whose folder it holds.
+  // Dir1 is hidden under File1; its path is File1's folder.
   filecopy::FolderList Dir2   { *this, "Dir2", filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk() };
   filecopy::FileList   File2  { *this, "File2", {}, filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk(), filecopy::Pattern.substr(1) };
   filecopy::FolderList Dir1   { *this, "Dir1", filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk() };
@@ -46,12 +46,13 @@ struct frmCopy : forms::Window {
   forms::Label lblCopy5 { *this, "lblCopy5", "Make sure  there's a disc in drive \"A\" or \"B\".",  {}, filecopy::StepLook,    {3900, 2460, 3000, 540} };
   forms::Label lblCopy7 { *this, "lblCopy7", "Try Again!",                                          {}, filecopy::AgainLook,   {3900,  960, 3000, 420} };
 
-  // The shared words: what is copied, where its date is looked up, the drive as a path and as it is named to the user;
-  // SkipChange is 1 while a Change of Drive1 must be ignored.
-  std::string SourceName, TargetPath, DriveWord, LetterWord;
-  runtime::Int16 SkipChange = 0;
+  std::string SourceName;         // the chosen file
+  std::string TargetPath;         // its name on the drive, as shown in the questions
+  std::string DriveWord;          // the drive: "A:", "B:", or the text of the list in capitals
+  std::string LetterWord;         // the drive as shown in the questions
+  runtime::Int16 SkipChange = 0;  // 1: ignore the next Change of Drive1
 
-  // Shows the window, with the files and drives that there are now.
+  // Shows the window with the current files and drives.
   void Open();
   void frmCopy_Load();
   void frmCopy_Unload();
@@ -64,17 +65,17 @@ struct frmCopy : forms::Window {
   void Drive1_Change();
 
  private:
-  void TakeDrive();
+  void ReadDrive();
   bool OnFloppy() const;
-  runtime::Disk& Hard() const { return RecordScreen.Files.Disk(); }
+  runtime::Disk& HardDisk() const { return RecordScreen.Files.Disk(); }
   std::unique_ptr<runtime::Disk> DriveDisk();
   std::optional<filecopy::FileFacts> TargetFacts();
   bool AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target);
   bool AskToCopy();
   void CopyToDrive();
-  void GiveUp();
+  void ReportNoDisk();
   void OpenMasterAgain();
-  void Leave();
-  bool unloaded_ = false;
+  void ReturnToRecordScreen();
+  bool closed_ = false;
 };
 // clang-format on

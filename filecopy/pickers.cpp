@@ -1,4 +1,4 @@
-// File names are UTF-8 on the disk and in the system's code page in the lists; a name that the code page lacks is not
+// File names are UTF-8 on the disk and Windows-1252 in the lists; a name that Windows-1252 cannot express is not
 // listed.
 #include "filecopy/pickers.h"
 

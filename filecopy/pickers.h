@@ -1,4 +1,4 @@
-// The lists of the copy window: drives, folders, files. What the user picks in one runs its Change.
+// The lists of the copy window: drives, folders, files.
 #pragma once
 
 #include <string>
@@ -9,20 +9,20 @@
 
 namespace filecopy {
 
-// "a:", "b:", "c:": a click on a drive is its Change.
+// "a:", "b:", "c:". A click on a drive runs Change.
 class DriveList : public forms::ListBox {
  public:
   DriveList(forms::Window& owner, std::string name, forms::ControlIds ids, const forms::Look& look, forms::Place place);
-  // Adds the drives that it does not show yet.
+  // Adds the drives not listed yet.
   void Refresh(std::string_view letters);
 };
 
-// The folders in a folder; a double click goes into one. Path: from the program's folder, "" for that itself.
+// The folders in a folder; a double click opens one. Path: relative to the program's folder, "" for that folder.
 class FolderList : public forms::ListBox {
  public:
   FolderList(forms::Window& owner, std::string name, const forms::Look& look, forms::Place place, runtime::Disk& disk);
   const std::string& Path() const { return path_; }
-  // Runs Change where the path differs from the present one.
+  // Runs Change if the path is a new one.
   void SetPath(std::string_view path);
   void Refresh();
 

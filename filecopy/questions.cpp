@@ -1,4 +1,4 @@
-// What the copy window asks before it copies.
+// The questions of the copy window.
 #include "filecopy/frmCopy.h"
 #include "runtime/clock.h"
 
@@ -13,7 +13,7 @@ std::string Sentence(const std::string& name, const filecopy::FileFacts& facts) 
 
 }  // namespace
 
-// Whether the window goes: with either answer.
+// Whether to close the window: yes, whatever the answer.
 bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target) {
   std::string question = std::string(15, ' ') + "REPLACE CURRENT FILE ON DRIVE " + Quoted(LetterWord) + "\r\n\r\n";
   question += Sentence(TargetPath, target) + " To replace this file with the one below, click " + Quoted("Yes") +
@@ -27,7 +27,7 @@ bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::Fi
   return true;
 }
 
-// Whether the window goes: with Yes alone.
+// Whether to close the window: only after Yes.
 bool frmCopy::AskToCopy() {
   bool yes = RecordScreen.Ask("Do you want to copy " + SourceName + " to Drive " + LetterWord + " hit Yes, or No ") ==
              forms::Answer::Yes;

@@ -1,4 +1,4 @@
-// Reads the help file line by line.
+// Parses the help file line by line.
 #include "help/help_file.h"
 
 #include <algorithm>
@@ -9,13 +9,13 @@
 namespace help {
 namespace {
 
-char Small(char character) {
+char Lower(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-bool HoldsWord(std::string_view text, std::string_view word) {
+bool ContainsWord(std::string_view text, std::string_view word) {
   return std::search(text.begin(), text.end(), word.begin(), word.end(),
-                     [](char one, char other) { return Small(one) == Small(other); }) != text.end();
+                     [](char one, char other) { return Lower(one) == Lower(other); }) != text.end();
 }
 
 std::string_view NextLine(std::string_view& rest) {
@@ -25,8 +25,8 @@ std::string_view NextLine(std::string_view& rest) {
   return line;
 }
 
-// The number at the front of a text, which is taken off it; nothing where there is none.
-std::optional<int> TakeNumber(std::string_view& text) {
+// Removes a number from the front of the text; nothing if it does not start with one.
+std::optional<int> RemoveNumber(std::string_view& text) {
   int number = 0;
   auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc()) return std::nullopt;
@@ -40,7 +40,7 @@ void ReadHeading(std::string_view heading, HelpTopic& topic) {
   topic.Title = heading.substr(0, brace);
   if (brace == std::string_view::npos) return;
   heading.remove_prefix(brace + 2);
-  while (std::optional<int> number = TakeNumber(heading)) {
+  while (std::optional<int> number = RemoveNumber(heading)) {
     topic.Numbers.push_back(*number);
     if (!heading.starts_with(' ')) return;
     heading.remove_prefix(1);
@@ -52,7 +52,7 @@ std::vector<HelpPiece> Pieces(std::string_view text) {
   std::string plain;
   while (!text.empty()) {
     std::string_view link = text.substr(1);
-    std::optional<int> number = text[0] == '[' ? TakeNumber(link) : std::nullopt;
+    std::optional<int> number = text[0] == '[' ? RemoveNumber(link) : std::nullopt;
     std::size_t end = link.find(']');
     if (!number || !link.starts_with(' ') || end == std::string_view::npos) {
       plain += text[0];
@@ -68,17 +68,17 @@ std::vector<HelpPiece> Pieces(std::string_view text) {
   return pieces;
 }
 
-// Gathers the lines of a paragraph until it is complete.
-class Reader {
+// Joins the lines of a paragraph until it is complete.
+class Parser {
  public:
-  HelpFile Read(std::string_view utf8) {
-    while (!utf8.empty()) Take(NextLine(utf8));
+  HelpFile Parse(std::string_view utf8) {
+    while (!utf8.empty()) AddLine(NextLine(utf8));
     EndParagraph();
     return std::move(file_);
   }
 
  private:
-  void Take(std::string_view line) {
+  void AddLine(std::string_view line) {
     if (line.starts_with('#')) return;
     bool chapter = line.starts_with("== ");
     bool topic = line.starts_with("= ");
@@ -112,7 +112,7 @@ class Reader {
 
 }  // namespace
 
-bool HelpTopic::Holds(std::string_view words) const {
+bool HelpTopic::Contains(std::string_view words) const {
   std::string text = Title;
   for (const HelpParagraph& paragraph : Paragraphs) {
     text += '\n';
@@ -120,7 +120,7 @@ bool HelpTopic::Holds(std::string_view words) const {
   }
   while (!words.empty()) {
     std::string_view word = words.substr(0, words.find(' '));
-    if (!HoldsWord(text, word)) return false;
+    if (!ContainsWord(text, word)) return false;
     words.remove_prefix(std::min(word.size() + 1, words.size()));
   }
   return true;
@@ -133,6 +133,6 @@ const HelpTopic* HelpFile::Find(int number) const {
   return found == Topics.end() ? nullptr : &*found;
 }
 
-HelpFile ParseHelp(std::string_view utf8) { return Reader().Read(utf8); }
+HelpFile ParseHelp(std::string_view utf8) { return Parser().Parse(utf8); }
 
 }  // namespace help

@@ -1,8 +1,7 @@
-// The help file as chapters of topics: how its text is read, and how it is searched.
+// The help file: its topics, grouped in chapters, and how to parse and search them.
 //
-// The file is UTF-8. "# ..." is passed over; "== NAME" begins a chapter; "= TITLE {N N}" begins a topic and gives the
-// numbers under which it is opened. Lines up to a blank one are one paragraph; "- " begins an item of a list. "[N
-// words]" is a link to topic N.
+// The file is UTF-8. "# ..." is a comment; "== NAME" starts a chapter; "= TITLE {N N}" starts a topic and gives its
+// numbers. Lines up to a blank line form one paragraph; "- " starts a list item. "[N words]" is a link to topic N.
 #pragma once
 
 #include <string>
@@ -13,7 +12,7 @@ namespace help {
 
 inline constexpr std::string_view HelpFileName = "Reelora4.HLP";
 
-// Words that belong together; Link: the topic that they lead to, 0 for none.
+// A run of plain text, or a link. Link: the number of its topic, 0 for plain text.
 struct HelpPiece {
   std::string Text;
   int Link = 0;
@@ -29,14 +28,14 @@ struct HelpTopic {
   std::vector<int> Numbers;
   std::vector<HelpParagraph> Paragraphs;
 
-  // Whether title and text hold all the words, in capitals or not.
-  bool Holds(std::string_view words) const;
+  // Whether title and text contain all the words, ignoring the case of A to Z.
+  bool Contains(std::string_view words) const;
 };
 
 struct HelpFile {
-  // In the order of the file. Text before the first topic is passed over, whatever it is.
+  // In the order of the file. Text before the first topic is ignored.
   std::vector<HelpTopic> Topics;
-  // nullptr where there is none of that number.
+  // nullptr if no topic has this number.
   const HelpTopic* Find(int number) const;
 };
 

@@ -1,4 +1,4 @@
-// The ways on from the features window.
+// Leaving the features window.
 #include "opening/frmInfo.h"
 
 #include "forms/window_stack.h"
@@ -12,16 +12,16 @@ frmInfo::frmInfo(forms::WindowStack& windows, OpeningSequence& sequence)
   WIRE(option1, MouseMove);
 }
 
-// The windows that come next are made ready behind this one.
+// Opens the next window behind this one.
 void frmInfo::frmInfo_Load() {
-  sequence_.ReadFoIfThere();
+  sequence_.ReadFoIfPossible();
   sequence_.ReadFo1();
-  sequence_.GoOnByFo1();
+  sequence_.ContinueByFo1();
 }
 
 void frmInfo::frmInfo_Unload() { sequence_.RecordScreen.Desk.End(); }
 
-// With NO this window stays behind the record screen.
+// With NO this window stays open behind the record screen.
 void frmInfo::Command1_Click() {
   sequence_.ReadFo1();
   if (sequence_.Fo1 == "NO") {
@@ -32,9 +32,9 @@ void frmInfo::Command1_Click() {
   Hide();
 }
 
-// The pointer passing over the option is enough: the window never comes again.
+// Moving the pointer over the option is enough: the window is not shown at later starts.
 void frmInfo::option1_MouseMove() {
   sequence_.Write(FeaturesFlagFile, "NO");
   sequence_.ReadFo1();
-  sequence_.GoOnByFo1();
+  sequence_.ContinueByFo1();
 }

@@ -1,4 +1,4 @@
-// The features window: what the program does, for somebody who sees it for the first time.
+// The features window: what the program does, for first-time users.
 #pragma once
 
 #include "opening/opening_looks.h"

@@ -1,4 +1,4 @@
-// Start follows the flag files; Exit and the close box end the program.
+// Start acts by the flag files; Exit and the close box end the program.
 #include "opening/frmOpener.h"
 
 #include "forms/window_stack.h"
@@ -11,18 +11,18 @@ frmOpener::frmOpener(forms::WindowStack& windows, OpeningSequence& sequence)
   WIRE(cmdExit, Click);
 }
 
-// With the features window off and an unknown word for the quick start nothing happens, and this window stays.
+// With Fo NO and an unknown word in Fo1 nothing happens; this window stays.
 void frmOpener::cmdStart_Click() {
   sequence_.RecordScreen.EditMode = 0;
   sequence_.RecordScreen.Files.Close(KeyFileNo);
-  sequence_.ReadFoIfThere();
+  sequence_.ReadFoIfPossible();
   if (sequence_.Fo != "NO") {
     sequence_.frmInfo->Show();
     Hide();
     return;
   }
   sequence_.ReadFo1();
-  sequence_.GoOnByFo1();
+  sequence_.ContinueByFo1();
 }
 
 void frmOpener::cmdExit_Click() { sequence_.RecordScreen.Desk.End(); }

@@ -1,4 +1,4 @@
-// The opening window: a title picture, and the buttons that start and end.
+// The opening window: the title picture, Start and Exit.
 #pragma once
 
 #include "opening/opening_looks.h"

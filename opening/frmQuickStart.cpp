@@ -1,4 +1,4 @@
-// The quick start window stands in front of the record screen until it is told not to.
+// The quick start window: shown in front of the record screen until the user turns it off.
 #include "opening/frmQuickStart.h"
 
 #include "runtime/failure.h"
@@ -29,7 +29,7 @@ void frmQuickStart::frmQuickStart_Load() {
   }
 }
 
-// The box is not read: a second click says the same.
+// Every click writes NO, also the one that clears the box.
 void frmQuickStart::Check1_Click() { sequence_.Write(QuickStartFlagFile, "NO"); }
 
 void frmQuickStart::cmdContinue_Click() { sequence_.ShowRecordScreen(); }

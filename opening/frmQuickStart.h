@@ -1,4 +1,4 @@
-// The quick start window: a first film in six lines.
+// The quick start window: how to enter a first film, in six steps.
 #pragma once
 
 #include "opening/opening_looks.h"

@@ -1,4 +1,4 @@
-// The looks that the opening windows share: evening blue, with yellow headings and white lines.
+// Looks of the opening windows: yellow headings and light grey lines on dark blue.
 #pragma once
 
 #include "forms/control.h"

@@ -1,9 +1,9 @@
-// Reading and writing the flag files, and the step that most of the windows take by them.
+// Reads and writes the flag files, and opens the next window by them.
 #include "opening/opening_sequence.h"
 
 #include "runtime/failure.h"
 
-void OpeningSequence::ReadFoIfThere() {
+void OpeningSequence::ReadFoIfPossible() {
   try {
     Fo = RecordScreen.ReadOneItem(CountFileNo, FeaturesFlagFile);
   } catch (const runtime::Failure&) {
@@ -19,7 +19,7 @@ void OpeningSequence::Write(std::string_view file, std::string_view word) {
   RecordScreen.Files.Close(CountFileNo);
 }
 
-void OpeningSequence::GoOnByFo1() {
+void OpeningSequence::ContinueByFo1() {
   if (Fo1 == "YES") frmQuickStart->Show();
   if (Fo1 == "NO") ShowRecordScreen();
 }

@@ -1,5 +1,4 @@
-// The road from the opening window to the record screen: the two flag files that tell which windows stand on it, and
-// the windows themselves.
+// The start sequence: its windows, and the two flag files that decide which of them appear before the record screen.
 #pragma once
 
 #include <string>
@@ -7,12 +6,11 @@
 
 #include "screen/frmPage1.h"
 
-// "Fo": NO, the features window is not to be shown any more. "Fo1": YES or NO, the quick start window is, or is not, to
-// be shown.
+// "Fo": NO turns off the features window. "Fo1": YES shows the quick start window, NO turns it off.
 inline constexpr std::string_view FeaturesFlagFile = "Fo";
 inline constexpr std::string_view QuickStartFlagFile = "Fo1";
 
-// Fo, Fo1: what was read from the files last.
+// Fo, Fo1: the words last read from the files.
 struct OpeningSequence {
   explicit OpeningSequence(frmPage1& record_screen) : RecordScreen(record_screen) {}
 
@@ -22,13 +20,13 @@ struct OpeningSequence {
   forms::Window* frmQuickStart = nullptr;
   std::string Fo, Fo1;
 
-  // A file that cannot be read leaves the word as it was.
-  void ReadFoIfThere();
-  // Fails where the file is missing or empty.
+  // If the file cannot be read, Fo keeps its value.
+  void ReadFoIfPossible();
+  // Throws Failure if the file is missing or empty.
   void ReadFo1();
-  // Replaces the file by the one line.
+  // Replaces the file's content with this line.
   void Write(std::string_view file, std::string_view word);
-  // By Fo1: YES shows the quick start, NO hides it and shows the record screen, anything else does nothing.
-  void GoOnByFo1();
+  // By Fo1: YES shows the quick start, NO hides it and shows the record screen, other words do nothing.
+  void ContinueByFo1();
   void ShowRecordScreen();
 };

@@ -1,4 +1,4 @@
-// Auto Save and Auto Sort: a word in memory, a one-line file, and a box of the record screen that shows it.
+// Auto Save and Auto Sort: each is a setting in memory, a one-line file, and a box of the record screen.
 #include <string>
 
 #include "screen/auto_texts.h"

@@ -1,118 +1,98 @@
-// The lists of the colour groups, in order, and what each occasion leaves out or adds.
+// The controls of each colour group in two tables, with the odd ones marked.
 #include "prefs/colour_groups.h"
 
 namespace prefs {
 namespace {
 
-using Window = screen::Page1Controls;
+// When a colour leaves a control out.
+enum class Except { Never, OnDefault, OnStart, AfterStart, Always };
 
-// What a row does not do: an odd one says why it stands.
-enum Except { Always, NotOnDefault, NotOnStart, StartOnly };
+struct ColouredLabel {
+  forms::Label frmPage1::*Label;
+  Except BackColour = Except::Never;
+  Except TagColour = Except::Never;
+};
 
-template <typename Kind>
-struct ListedControl {
-  Kind Window::*Control;
-  Except When = Always;
+struct ColouredBox {
+  forms::TextBox frmPage1::*Box;
+  Except BackColour = Except::Never;
 };
 
 // clang-format off
-constexpr ListedControl<forms::Label> LabelsBeforeOptions[] = {
-  { &Window::lblPage }, { &Window::lblsorted }, { &Window::lblTitle }, { &Window::lblDirector },
-  { &Window::lblStar1 }, { &Window::lblStar2 }, { &Window::lblStar3 }, { &Window::lblStar4 }, { &Window::lblStar5 }, { &Window::lblStar6 },
-  { &Window::lblLabel }, { &Window::lblSelect }, { &Window::lblFormat }, { &Window::lblNumReel }, { &Window::lblGenre },
-  { &Window::lblGenreList1 }, { &Window::lblTime }, { &Window::lblYear }, { &Window::lblCassNo }, { &Window::lblLetter },
-  { &Window::lblCLV }, { &Window::lblColor1 }, { &Window::lblRetcode }, { &Window::lblNumrec },
+constexpr ColouredLabel Labels[] = {
+  { &frmPage1::lblPage }, { &frmPage1::lblsorted }, { &frmPage1::lblTitle }, { &frmPage1::lblDirector },
+  { &frmPage1::lblStar1 }, { &frmPage1::lblStar2 }, { &frmPage1::lblStar3 }, { &frmPage1::lblStar4 }, { &frmPage1::lblStar5 },
+  { &frmPage1::lblStar6 }, { &frmPage1::lblLabel }, { &frmPage1::lblSelect }, { &frmPage1::lblFormat }, { &frmPage1::lblNumReel },
+  { &frmPage1::lblGenre }, { &frmPage1::lblGenreList1 }, { &frmPage1::lblTime }, { &frmPage1::lblYear }, { &frmPage1::lblCassNo },
+  { &frmPage1::lblLetter }, { &frmPage1::lblCLV }, { &frmPage1::lblColor1 }, { &frmPage1::lblRetcode }, { &frmPage1::lblNumrec },
+  { &frmPage1::lblHead }, { &frmPage1::lblProducer }, { &frmPage1::lblMusic }, { &frmPage1::lblAward },
+  { &frmPage1::lblCinematographer }, { &frmPage1::lblCost }, { &frmPage1::lblCostume }, { &frmPage1::lblDance }, { &frmPage1::lblMPAA },
+  { &frmPage1::lblNotes1 }, { &frmPage1::lblPackage }, { &frmPage1::lblPurchase }, { &frmPage1::lblRates },
+  { &frmPage1::lblSetDirection }, { &frmPage1::lblSorting }, { &frmPage1::lblSound }, { &frmPage1::lblWritten },
+  { .Label = &frmPage1::lblSave, .BackColour = Except::OnDefault, .TagColour = Except::AfterStart },
+  { .Label = &frmPage1::lblEnter, .BackColour = Except::Always },  // keeps its built-in background
 };
-constexpr ListedControl<forms::Label> LabelsBehindOptions[] = {
-  { &Window::lblHead }, { &Window::lblProducer }, { &Window::lblMusic }, { &Window::lblAward }, { &Window::lblCinematographer },
-  { &Window::lblCost }, { &Window::lblCostume }, { &Window::lblDance }, { &Window::lblMPAA }, { &Window::lblNotes1 },
-  { &Window::lblPackage }, { &Window::lblPurchase }, { &Window::lblRates },
-  { &Window::lblSave, NotOnDefault },  // Default Colors leaves its background alone
-  { &Window::lblSetDirection }, { &Window::lblSorting }, { &Window::lblSound }, { &Window::lblWritten },
-};
-constexpr ListedControl<forms::Label> TagsBeforeOptions[] = {
-  { &Window::lblEnter }, { &Window::lblPage }, { &Window::lblsorted }, { &Window::lblTitle }, { &Window::lblDirector },
-  { &Window::lblStar1 }, { &Window::lblStar2 }, { &Window::lblStar3 }, { &Window::lblStar4 }, { &Window::lblStar5 }, { &Window::lblStar6 },
-  { &Window::lblLabel }, { &Window::lblFormat }, { &Window::lblSelect }, { &Window::lblNumReel }, { &Window::lblGenre },
-  { &Window::lblGenreList1 }, { &Window::lblTime }, { &Window::lblYear }, { &Window::lblCassNo }, { &Window::lblLetter },
-  { &Window::lblCLV }, { &Window::lblColor1 }, { &Window::lblRetcode }, { &Window::lblNumrec },
-};
-constexpr ListedControl<forms::Label> TagsBehindOptions[] = {
-  { &Window::lblHead }, { &Window::lblProducer }, { &Window::lblMusic }, { &Window::lblAward }, { &Window::lblCinematographer },
-  { &Window::lblCost }, { &Window::lblCostume }, { &Window::lblDance }, { &Window::lblMPAA }, { &Window::lblNotes1 },
-  { &Window::lblPackage }, { &Window::lblPurchase }, { &Window::lblRates },
-  { &Window::lblSave, StartOnly },  // the stored tag colour reaches it, a colour chosen later does not
-  { &Window::lblSetDirection }, { &Window::lblSorting }, { &Window::lblSound }, { &Window::lblWritten },
-};
-constexpr ListedControl<forms::TextBox> BackgroundBoxes[] = {
-  { &Window::txtTitle }, { &Window::txtDirector },
-  { &Window::txtStar1 }, { &Window::txtStar2 }, { &Window::txtStar3 }, { &Window::txtStar4 }, { &Window::txtStar5 }, { &Window::txtStar6 },
-  { &Window::txtLabel }, { &Window::txtFormat }, { &Window::txtNumReel }, { &Window::txtGenre }, { &Window::txtGenreList },
-  { &Window::txtTime }, { &Window::txtYear }, { &Window::txtCassNo }, { &Window::txtLetter }, { &Window::txtCLV1 }, { &Window::txtColor1 },
-  { &Window::txtProducer }, { &Window::txtMusic }, { &Window::txtAwards }, { &Window::txtCinematographer },
-  { &Window::txtCost, NotOnStart },  // keeps the background of the window as built until a colour is chosen
-  { &Window::txtCostume }, { &Window::txtChoreography }, { &Window::txtRating }, { &Window::txtPackage }, { &Window::txtPurchase },
-  { &Window::txtRatings }, { &Window::txtSetDirection }, { &Window::txtSound }, { &Window::txtWritten },
+constexpr ColouredBox Boxes[] = {
+  { &frmPage1::txtTitle }, { &frmPage1::txtDirector }, { &frmPage1::txtStar1 }, { &frmPage1::txtStar2 }, { &frmPage1::txtStar3 },
+  { &frmPage1::txtStar4 }, { &frmPage1::txtStar5 }, { &frmPage1::txtStar6 }, { &frmPage1::txtLabel }, { &frmPage1::txtFormat },
+  { &frmPage1::txtNumReel }, { &frmPage1::txtGenre }, { &frmPage1::txtGenreList }, { &frmPage1::txtTime }, { &frmPage1::txtYear },
+  { &frmPage1::txtCassNo }, { &frmPage1::txtLetter }, { &frmPage1::txtCLV1 }, { &frmPage1::txtColor1 }, { &frmPage1::txtProducer },
+  { &frmPage1::txtMusic }, { &frmPage1::txtAwards }, { &frmPage1::txtCinematographer }, { &frmPage1::txtCostume },
+  { &frmPage1::txtChoreography }, { &frmPage1::txtRating }, { &frmPage1::txtPackage }, { &frmPage1::txtPurchase },
+  { &frmPage1::txtRatings }, { &frmPage1::txtSetDirection }, { &frmPage1::txtSound }, { &frmPage1::txtWritten },
+  { &frmPage1::txtCost, Except::OnStart },  // keeps its built-in background until a colour is chosen
 };
 // clang-format on
 
-bool Applies(Except when, Occasion occasion, bool text) {
-  switch (when) {
-    case NotOnDefault:
-      return occasion != Occasion::Default;
-    case NotOnStart:
-      return text || occasion != Occasion::Start;
-    case StartOnly:
+bool LeavesOut(Except except, Occasion occasion) {
+  switch (except) {
+    case Except::Never:
+      return false;
+    case Except::OnDefault:
+      return occasion == Occasion::Default;
+    case Except::OnStart:
       return occasion == Occasion::Start;
-    default:
+    case Except::AfterStart:
+      return occasion != Occasion::Start;
+    case Except::Always:
       return true;
   }
+  return false;
 }
 
-class Collector {
- public:
-  Collector(frmPage1& window, Occasion occasion, bool text) : window_(window), occasion_(occasion), text_(text) {}
-  template <typename Row, std::size_t Rows>
-  void Take(const Row (&rows)[Rows]) {
-    for (const Row& row : rows) {
-      if (Applies(row.When, occasion_, text_)) controls_.push_back(&(window_.*row.Control));
-    }
+std::vector<forms::Control*> LabelsOf(frmPage1& window, Except ColouredLabel::*except, Occasion occasion) {
+  std::vector<forms::Control*> controls = {&window.optNotesoff, &window.optnoteson};
+  for (const ColouredLabel& row : Labels) {
+    if (!LeavesOut(row.*except, occasion)) controls.push_back(&(window.*row.Label));
   }
-  void TakeOptions() {
-    controls_.push_back(&window_.optNotesoff);
-    controls_.push_back(&window_.optnoteson);
-  }
-  void TakeGrid() {
-    for (screen::GridColumn* column : {&window_.Text1, &window_.Text2, &window_.Text3}) {
-      for (forms::TextBox& row : *column) controls_.push_back(&row);
-    }
-  }
-  std::vector<forms::Control*> All() { return std::move(controls_); }
+  return controls;
+}
 
- private:
-  frmPage1& window_;
-  Occasion occasion_;
-  bool text_;
-  std::vector<forms::Control*> controls_;
-};
+std::vector<forms::Control*> BoxesOf(frmPage1& window, bool back_colour, Occasion occasion) {
+  std::vector<forms::Control*> controls;
+  for (const ColouredBox& row : Boxes) {
+    if (!back_colour || !LeavesOut(row.BackColour, occasion)) controls.push_back(&(window.*row.Box));
+  }
+  for (screen::GridColumn* column : {&window.Text1, &window.Text2, &window.Text3}) {
+    for (forms::TextBox& row : *column) controls.push_back(&row);
+  }
+  return controls;
+}
 
 }  // namespace
 
 std::vector<forms::Control*> ControlsOf(frmPage1& window, Group group, Occasion occasion) {
-  Collector collector(window, occasion, group == Group::TextBoxText);
-  if (group == Group::Background) {
-    collector.Take(LabelsBeforeOptions);
-    collector.TakeOptions();
-    collector.Take(LabelsBehindOptions);
-  } else if (group == Group::TagText) {
-    collector.Take(TagsBeforeOptions);
-    collector.TakeOptions();
-    collector.Take(TagsBehindOptions);
-  } else {
-    collector.Take(BackgroundBoxes);
-    collector.TakeGrid();
+  switch (group) {
+    case Group::Background:
+      return LabelsOf(window, &ColouredLabel::BackColour, occasion);
+    case Group::TagText:
+      return LabelsOf(window, &ColouredLabel::TagColour, occasion);
+    case Group::TextBoxBackground:
+      return BoxesOf(window, true, occasion);
+    case Group::TextBoxText:
+      return BoxesOf(window, false, occasion);
   }
-  return collector.All();
+  return {};
 }
 
 }  // namespace prefs

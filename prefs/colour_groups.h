@@ -1,4 +1,4 @@
-// The four colour groups of the record screen: what a colour of each reaches.
+// The four colour groups of the record screen and the controls of each.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@ namespace prefs {
 
 enum class Group { Background, TextBoxBackground, TextBoxText, TagText };
 
-// File: one line, the colour as a decimal number. Default: red in the low byte.
+// File: contains the colour as a decimal number on one line. Default: red in the low byte.
 struct GroupRow {
   Group Of;
   std::string_view File;
@@ -29,10 +29,10 @@ inline constexpr GroupRow Groups[] = {
 
 constexpr const GroupRow& RowOf(Group group) { return Groups[static_cast<std::size_t>(group)]; }
 
-// Where a colour comes from: the lists are not quite the same everywhere.
+// Where a colour comes from; some controls depend on it.
 enum class Occasion { Start, Menu, Default };
 
-// The controls of a group on an occasion, in order.
+// The controls that take a colour of this group.
 std::vector<forms::Control*> ControlsOf(frmPage1& window, Group group, Occasion occasion);
 
 }  // namespace prefs

@@ -1,4 +1,4 @@
-// The colours of the record screen: kept in four one-line files, applied at the start, chosen in the colour dialog.
+// The colours of the record screen: stored in four one-line files, applied at the start, chosen in the colour dialog.
 #include "prefs/colour_groups.h"
 #include "runtime/text.h"
 
@@ -26,7 +26,7 @@ void frmPage1::StoreColour(const prefs::GroupRow& row) {
   Files.Close(ColourFileNo);
 }
 
-// Cancel is not told from a choice: what the dialog holds is applied and stored.
+// Cancel counts as a choice: the dialog's current colour is applied and stored.
 void frmPage1::ChooseColour(Group group) {
   DialogColour = Desk.ColourDialog(DialogColour).value_or(DialogColour);
   ApplyColour(group, Occasion::Menu, DialogColour);

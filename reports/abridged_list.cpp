@@ -1,4 +1,4 @@
-// One run for the four lists over the table of their differences.
+// One routine for the four lists, one table of their differences.
 #include "reports/abridged_list.h"
 
 #include <algorithm>
@@ -8,8 +8,8 @@ using screen::RunState;
 namespace reports {
 namespace {
 
-// The divisor of the estimate; a page holds 48 to 50 films, whatever it says.
-constexpr std::int32_t KeysOfAPage = 53;
+// The divisor of the page estimate; a page really holds 48 to 50 films.
+constexpr std::int32_t KeysPerPage = 53;
 constexpr int LastLine = 56;
 
 constexpr std::string_view ColumnHeads =
@@ -27,7 +27,7 @@ constexpr AbridgedList AllTitlesList = {
   .TitleTab = 5, .Title = "Reelora Prima Short Print List    ",
   .Format = FormatWord::LaserForL, .ClosingRule = false, .TotalTab = 1, .Total = "TOTAL FILM(S)  ", .PageTab = 35,
 };
-// The kind is the stem of the file and not "DVD", unlike that of the others.
+// Odd on purpose: the view kind is the stem of the file name, not "DVD".
 constexpr AbridgedList DvdList = {
   .OnEntry = Entry::ClosesFileOfOtherViews, .ViewKind = "DVDpra",
   .CountFile = "DVDpra", .CountWord = &RunState::DVDCount, .KeyFile = "DVDpra.Dat",
@@ -67,18 +67,18 @@ void AbridgedReport::Run() {
 }
 
 void AbridgedReport::Enter() {
-  bool spared = list_.OnEntry == Entry::ClosesFileOfOtherViews && Page.ViewKind == "DVD";
-  if (list_.OnEntry != Entry::LeavesFile && !spared) Page.Files.Close(KeyFileNo);
+  bool keeps_file = list_.OnEntry == Entry::ClosesFileOfOtherViews && Page.ViewKind == "DVD";
+  if (list_.OnEntry != Entry::LeavesFile && !keeps_file) Page.Files.Close(KeyFileNo);
   Page.*list_.CountWord = Page.ReadOneItem(CountFileNo, list_.CountFile);
   Page.ViewKind = list_.ViewKind;
   Page.lblHead.SetCaption(list_.Headline);
 }
 
-// The figure is reckoned before the refusal.
+// Pages are estimated even if the list is then refused.
 bool AbridgedReport::Sorted() {
   const screen::Text& count = Page.*list_.CountWord;
-  Page.ListKeyCount = std::max(runtime::RoundToInt32(runtime::NumericValue(count)), KeysOfAPage);
-  Estimate(static_cast<double>(Page.ListKeyCount) / KeysOfAPage);
+  Page.ListKeyCount = std::max(runtime::RoundToInt32(runtime::NumericValue(count)), KeysPerPage);
+  Estimate(static_cast<double>(Page.ListKeyCount) / KeysPerPage);
   if (count != "0") return true;
   Page.Desk.MessageBox(forms::Icon::Warning, PrintBoxTitle, list_.Unsorted);
   Page.cmdReset_Click();
@@ -118,7 +118,7 @@ void AbridgedReport::PrintPageHead() {
   Page.FirstRecordAdjust = 0;
 }
 
-// The row begins at column 1, its heading at column 3; the other columns agree.
+// A row starts at column 1, its heading at column 3; the other columns match.
 void AbridgedReport::PrintFilm() {
   bool letter = Page.txtFormat.Text() == "L" || Page.CurrentFilm.Get(store::FilmField::Format) == "L";
   if (list_.Format == FormatWord::AlwaysLaser || (list_.Format == FormatWord::LaserForL && letter))

@@ -1,4 +1,4 @@
-// The abridged lists: one line a film, with title, year, genre and format, of one key file.
+// The abridged lists: each prints one key file, one line per film with title, year, genre and format.
 #pragma once
 
 #include <string_view>
@@ -10,9 +10,9 @@ namespace reports {
 enum class Entry { LeavesFile, ClosesFile, ClosesFileOfOtherViews };
 enum class FormatWord { AsShown, LaserForL, AlwaysLaser };
 
-// Everything in which the four lists differ.
+// All differences between the four lists.
 struct AbridgedList {
-  Entry OnEntry;  // what becomes of an open key file; ClosesFileOfOtherViews spares the view called "DVD"
+  Entry OnEntry;  // what happens to an open key file; ClosesFileOfOtherViews keeps that of the view "DVD"
   std::string_view ViewKind;
   std::string_view CountFile;
   screen::Text screen::RunState::*CountWord;

@@ -1,4 +1,4 @@
-// The lines of a film are tables of cells: a column, a box, and the words around its text.
+// Each line of a film is a table of cells: a column, a box, and the words around its text.
 #include "reports/full_list.h"
 
 #include <span>
@@ -11,19 +11,19 @@ namespace {
 
 constexpr std::string_view Title = "Reelora Prima All Titles Full List  ";
 constexpr std::string_view KeyFile = "Titlepra.Dat";
-constexpr double FilmsOfAPage = 8;
+constexpr double FilmsPerPage = 8;
 constexpr int LastLine = 55;
 constexpr int FootLine = 56;
 constexpr Closing FullListClosing{"End of file!   please wait. ", " Page to print.", PrintBoxTitle};
 
-// Box: nullptr where the words stand alone. The box's text is printed without the blanks around it.
+// Box: nullptr if the words stand alone; its text is printed trimmed.
 struct Cell {
   int Column;
   std::string_view Lead;
   forms::TextBox Page1Controls::*Box;
   std::string_view Tail{};
 };
-// The line of a film in a format; its words differ in small things on purpose.
+// The line that depends on the format. The small differences in wording are on purpose.
 struct FormatLine {
   std::string_view Word;
   Cell Cells[5];
@@ -70,7 +70,7 @@ void PrintCells(const frmPage1& page, runtime::Printer& paper, std::span<const C
 void FullList::Run() {
   Page.ViewKind = "Title";
   Page.lblHead.SetCaption("All Titles Full List Print Program");
-  Estimate(static_cast<double>(Page.RecordCount) / FilmsOfAPage);
+  Estimate(static_cast<double>(Page.RecordCount) / FilmsPerPage);
   Page.PrintPending = 1;
   Page.RowCursor = 0;
   if (!Confirm("If you have added any new records be sure to sort files before printing!\n\n"
@@ -102,8 +102,8 @@ void FullList::PrintPageHead() {
   LineCount += 1;
 }
 
-// Rating and notes stand on page 2 of the screen and are taken as the record holds them, the notes with their padding,
-// so that the underline of the last line goes all the way.
+// Rating and notes are printed as the record contains them. The notes keep their padding, so that the last line is
+// underlined over its full width.
 void FullList::PrintFilm() {
   Page.txtRating.SetText(Page.CurrentFilm.Get(store::FilmField::Rating));
   Page.txtAwards.SetText(Page.CurrentFilm.Get(store::FilmField::Awards));

@@ -1,4 +1,4 @@
-// The full list: every film of the all-formats key file, six lines a film, eight films a page.
+// The full list: every film of the all-formats key file, six lines per film, eight films per page.
 #pragma once
 
 #include "reports/print_frame.h"

@@ -1,4 +1,4 @@
-// The commands below "Print Library", and the printer's own.
+// The commands under "Print Library", and "Setup Printer".
 #include "reports/abridged_list.h"
 #include "reports/full_list.h"
 #include "reports/query_list.h"

@@ -1,4 +1,4 @@
-// The steps of the frame.
+// The steps that all reports share.
 #include "reports/print_frame.h"
 
 #include <array>

@@ -1,5 +1,5 @@
-// What the eight reports share: the walk along a key file, the page's feeds, headings and numbers, the questions'
-// figures and the way out. A report shows each film on the record screen and prints what then stands in the boxes.
+// What the eight reports share: walking a key file, page layout, the page estimate and the closing box. A report shows
+// each film on the record screen and prints what the boxes then contain.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ namespace reports {
 // The title of the questions, the input boxes and most messages of the reports.
 inline constexpr std::string_view PrintBoxTitle = "Reelora Prima Print Program";
 
-// The texts of the box that closes a report. OnePage: what follows the figure where one page was printed.
+// The texts of the box that closes a report. OnePage: what follows the figure if one page was printed.
 struct Closing {
   std::string_view EndText = "End of file!   Please wait. ";
   std::string_view OnePage = " page to print.";
@@ -25,46 +25,45 @@ class PrintFrame {
  protected:
   explicit PrintFrame(frmPage1& page) : Page(page), Paper(page.Printer) {}
 
-  // The figure of the question: films over the films of a page, at least 1. The words behind it change only where the
-  // figure is 1 or more, and keep what an earlier report left otherwise.
+  // Sets the page estimate, at least 1, that Confirm shows. Below 1 the words after it stay as the last report left
+  // them.
   void Estimate(double pages);
-  // Asks; the first five characters of the figure and the words stand at the end of the question.
+  // Asks whether to print. The question ends with the first five characters of the estimate and its words.
   bool Confirm(std::string_view question);
 
-  // Opens the key file unless a position in it is given already, which is then gone on from. Tells whether there are
-  // keys.
+  // Opens the key file, or continues at KeyFilePos if that is set. False if the file has no keys.
   bool OpenKeys(std::string_view key_file);
-  // Keys of the open file; a trailing part of one counts as that part.
+  // Keys in the open file; a partial key counts as a fraction.
   double Keys() const;
-  // Whether the key behind the last one was reached.
+  // Whether the walk is past the last key.
   bool PastLastKey() const { return Keys() + 1 == static_cast<double>(Page.KeyFilePos); }
-  // The number of the key that was read to ScanRecNo, and one key on.
+  // Puts the record number of the key into ScanRecNo and advances.
   void TakeKey();
-  // All of that for a report that prints every film of the file: false at its end.
+  // All three steps, for a report that prints every film of the file. False at its end.
   bool NextFilm(std::string_view key_file);
-  // Record ScanRecNo becomes the current film, not yet shown.
+  // Makes record ScanRecNo the current film without showing it.
   void LoadFilm();
 
-  // Courier New of 12 points, bold: how every line of every report is printed.
+  // Courier New, 12 points, bold: the font of every line of every report.
   void SetUpFont();
-  // Nothing for a count of 0 or below.
+  // Does nothing for a count of 0 or less.
   void FeedLines(std::int64_t count);
   void FeedUpTo(std::int64_t line_count) { FeedLines(line_count - LineCount); }
-  // The title with date and time behind it.
+  // The title, then date and time.
   void PrintHeading(int tab, std::string_view title);
   void PrintRule();
   void PrintPageNumber(int tab);
-  // A fresh page, whose number is one higher.
+  // Starts the next page.
   void TurnPage();
 
-  // Releases the job under the title of its first line.
+  // Sends the job to the printer under this title.
   void Release(std::string_view title);
-  // The closing box and the Reset; leaves number 2 as that leaves it.
+  // Shows the closing box and runs Reset.
   void Close(const Closing& closing);
 
   frmPage1& Page;
   runtime::Printer& Paper;
-  // Not the lines of the paper: each report counts by sums of its own, which decide how many films a page holds.
+  // The report's own count, not the lines printed. It decides how many films fit on a page.
   runtime::Int16 LineCount;
 };
 

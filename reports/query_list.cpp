@@ -1,4 +1,4 @@
-// One run for the three lists over the table of their differences.
+// One routine for the three lists, one table of their differences.
 #include "reports/query_list.h"
 
 namespace reports {
@@ -10,8 +10,8 @@ constexpr int PageTab = 38;
 
 constexpr std::string_view ColumnHeads = "Title                                   Date   Genre                 Format ";
 
-// The words of a genre in this report are those of the pick list, behind "XX = ".
-std::string_view WordsOf(const store::GenreRow& genre) { return genre.ListItem.substr(genre.Code.size() + 3); }
+// This report takes the genre's name from the row of the pick list, after "XX = ".
+std::string_view PickListName(const store::GenreRow& genre) { return genre.ListItem.substr(genre.Code.size() + 3); }
 
 }  // namespace
 
@@ -48,8 +48,7 @@ bool QueryReport::Enter() {
   return false;
 }
 
-// Nothing is found when the last key is reached, before that key itself is compared: a film that only the last key
-// leads to is not found.
+// If nothing was found by the last key, that key is not compared: a film that only the last key leads to is missed.
 QueryReport::Key QueryReport::NextKey() {
   if (!OpenKeys(KeyFile)) return Key::Taken;
   Page.ReadKeyPastBlank();
@@ -60,11 +59,11 @@ QueryReport::Key QueryReport::NextKey() {
   return Key::Taken;
 }
 
-// The query is looked up as it stands at this moment: small letters are no code before the first film made them
-// capital.
+// Looks the query up as it is now, before conversion to capitals: a code in small letters is unknown at the first
+// film.
 void QueryReport::LookUpName() {
   for (const store::GenreRow& genre : list_.QueryNames) {
-    if (Page.*list_.Query == genre.Code) Page.GenreQueryName = WordsOf(genre);
+    if (Page.*list_.Query == genre.Code) Page.GenreQueryName = PickListName(genre);
   }
 }
 
@@ -98,12 +97,12 @@ void QueryReport::PrintMatch() {
 
 void QueryReport::PrintTitle() {
   SetUpFont();
-  FeedLines(list_.TitleFeeds);
+  FeedLines(list_.FeedsBeforeTitle);
   PrintHeading(list_.TitleTab, list_.Title);
-  FeedLines(list_.FeedsBehindTitle);
+  FeedLines(list_.FeedsAfterTitle);
 }
 
-// What stands above the first film.
+// The lines above the first film.
 void QueryReport::PrintTop() {
   if (list_.TitleTime == TitleAt::FirstMatch) PrintTitle();
   LineCount += list_.LinesOfTop;
@@ -134,7 +133,7 @@ void QueryReport::TurnToNextPage() {
   FeedLines(1);
 }
 
-// What was printed already stays in the job, which the next report goes on with.
+// Lines already printed stay in the job; the next report continues it.
 void QueryReport::RefuseNotFound() {
   std::string text(list_.NotFoundLead);
   text.append("\"").append(list_.NotFoundName(Page, Page.*list_.Query)).append("\"").append(list_.NotFoundTail);

@@ -1,5 +1,5 @@
-// The director, star and genre lists: one line for each film of the all-formats key file whose field holds the text
-// that was asked for.
+// The director, star and genre lists: one line for each film of the all-formats key file whose field contains the text
+// asked for.
 #pragma once
 
 #include <span>
@@ -11,7 +11,7 @@
 
 namespace reports {
 
-// A field that is searched: where it was hit, from 1, and the box that names the hit.
+// A searched field. Hit: position of the text in it, from 1, 0 if absent. Box: shows the name for the heading.
 struct SearchedField {
   store::FilmField Field;
   screen::Number16 screen::RunState::*Hit;
@@ -20,31 +20,31 @@ struct SearchedField {
 
 enum class TitleAt { FirstMatch, Start };
 
-// Everything in which the three lists differ.
+// All differences between the three lists.
 struct QueryList {
   std::string_view ViewKind;  // "" leaves it unchanged
   std::string_view Headline;
   std::string_view Prompt;
   screen::Text screen::RunState::*Query;
   std::span<const SearchedField> Fields;
-  std::span<const store::GenreRow> QueryNames;  // codes whose words go to GenreQueryName
-  std::string_view WaitCaption;                 // lblHead from the first match on, "" leaves it
+  std::span<const store::GenreRow> QueryNames;  // if a code matches the query, its name goes to GenreQueryName
+  std::string_view WaitCaption;                 // lblHead from the first match on; "" leaves it
 
   TitleAt TitleTime;
-  int TitleFeeds;  // before and behind the title
+  int FeedsBeforeTitle;
   int TitleTab;
   std::string_view Title;
-  int FeedsBehindTitle;
-  int LinesOfTop;  // LineCount before the heading
+  int FeedsAfterTitle;
+  int LinesOfTop;  // added to LineCount before the heading
 
-  int HeadingWidth;  // the name's length taken off, and halved: the heading's column, and HeadingShift on
+  int HeadingWidth;  // the heading's column is (HeadingWidth - length of the name) / 2 + HeadingShift
   int HeadingShift;
   std::string_view HeadingLead;
   std::string_view HeadingTail;
   int LinesOfHeading;
 
   bool FootRule;
-  int NextTitleTab;  // the title on the pages behind the first; 0 for none
+  int NextTitleTab;  // of the title on later pages; 0 for no title there
 
   std::string_view NotFoundLead;
   std::string (*NotFoundName)(const frmPage1& page, std::string_view query);
@@ -77,8 +77,7 @@ class QueryReport : PrintFrame {
   void PrintEnd();
 
   const QueryList& list_;
-  // That of the last match.
-  std::string name_;
+  std::string name_;  // from the last match
 };
 
 }  // namespace reports

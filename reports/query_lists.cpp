@@ -1,4 +1,4 @@
-// The rows of the three lists.
+// The table of the three lists.
 #include "reports/query_list.h"
 
 using screen::Page1Controls;
@@ -44,7 +44,7 @@ constexpr QueryList DirectorList = {
   .ViewKind = "Title", .Headline = "Director Search Print Program",
   .Prompt = "Enter Director's Last Name. To Print List: ",
   .Query = &RunState::DirectorQuery, .Fields = DirectorFields, .QueryNames = {}, .WaitCaption = "",
-  .TitleTime = TitleAt::FirstMatch, .TitleFeeds = 0, .TitleTab = 9, .Title = "Reelora Prima Directors List   ", .FeedsBehindTitle = 0,
+  .TitleTime = TitleAt::FirstMatch, .FeedsBeforeTitle = 0, .TitleTab = 9, .Title = "Reelora Prima Directors List   ", .FeedsAfterTitle = 0,
   .LinesOfTop = 9,
   .HeadingWidth = 61, .HeadingShift = 3, .HeadingLead = "Films Directed by ", .HeadingTail = "", .LinesOfHeading = 2,
   .FootRule = true, .NextTitleTab = 15,
@@ -55,20 +55,20 @@ constexpr QueryList StarList = {
   .ViewKind = "", .Headline = "Star Search Print Program",
   .Prompt = "Enter Star's Last Name. To Print List: ",
   .Query = &RunState::StarQuery, .Fields = StarFields, .QueryNames = {}, .WaitCaption = "Please Wait Print Spooler is loading Files",
-  .TitleTime = TitleAt::Start, .TitleFeeds = 2, .TitleTab = 9, .Title = "Reelora Prima Stars List   ", .FeedsBehindTitle = 2,
+  .TitleTime = TitleAt::Start, .FeedsBeforeTitle = 2, .TitleTab = 9, .Title = "Reelora Prima Stars List   ", .FeedsAfterTitle = 2,
   .LinesOfTop = 10,
   .HeadingWidth = 61, .HeadingShift = 3, .HeadingLead = "Films starring ", .HeadingTail = "", .LinesOfHeading = 1,
   .FootRule = false, .NextTitleTab = 0,
   .NotFoundLead = "No films Staring ", .NotFoundName = QueryInCapitals, .NotFoundTail = " found!",
   .Total = TotalOfName, .TotalLead = "TOTAL FILM(S) STARRING ", .LinesOfTotal = 1, .End = {},
 };
-// The heading's 5 and the empty line's 1.
+// LinesOfHeading: 5 for the heading, 1 for the empty line.
 constexpr QueryList GenreList = {
   .ViewKind = "Title", .Headline = "Genre Search Print Program",
   .Prompt = "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n"
             " See Genre List for more Abbrs.",
   .Query = &RunState::GenreFilter, .Fields = GenreFields, .QueryNames = store::Genres, .WaitCaption = "",
-  .TitleTime = TitleAt::Start, .TitleFeeds = 2, .TitleTab = 8, .Title = "Reelora Prima Genre List   ", .FeedsBehindTitle = 1,
+  .TitleTime = TitleAt::Start, .FeedsBeforeTitle = 2, .TitleTab = 8, .Title = "Reelora Prima Genre List   ", .FeedsAfterTitle = 1,
   .LinesOfTop = 7,
   .HeadingWidth = 62, .HeadingShift = 0, .HeadingLead = "A list of ", .HeadingTail = " Films", .LinesOfHeading = 6,
   .FootRule = true, .NextTitleTab = 0,

@@ -104,7 +104,7 @@ TEST_F(HistoryCommand, DoesNothingWhileTheProgramRunsOnTheFolder) {
   std::string before = Master();
   runtime::FolderLock lock(Folder.Path().string());
   EXPECT_EQ(Run({"undo", "1"}), 1);
-  EXPECT_EQ(Complaints.str(), "This collection is open already.\n");
+  EXPECT_EQ(Complaints.str(), "This collection is already open.\n");
   EXPECT_EQ(Master(), before);
   EXPECT_EQ(Run({}), 0);
 }

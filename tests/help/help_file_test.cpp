@@ -65,10 +65,10 @@ TEST(HelpFile, FindsATopicByEachOfItsNumbers) {
 TEST(HelpTopic, HoldsAllWordsInCapitalsOrNot) {
   HelpFile file = ParseHelp("= Laser discs {1}\nPress [2 Enter] twice.\n");
   const HelpTopic& topic = file.Topics.at(0);
-  EXPECT_TRUE(topic.Holds("laser"));
-  EXPECT_TRUE(topic.Holds("ENTER laser"));
-  EXPECT_TRUE(topic.Holds("press enter twice"));
-  EXPECT_FALSE(topic.Holds("laser tape"));
+  EXPECT_TRUE(topic.Contains("laser"));
+  EXPECT_TRUE(topic.Contains("ENTER laser"));
+  EXPECT_TRUE(topic.Contains("press enter twice"));
+  EXPECT_FALSE(topic.Contains("laser tape"));
 }
 
 }  // namespace
