@@ -1,11 +1,13 @@
 # Sourced by ./run and ./test: installs what is missing and builds, out of tree.
 
-needs=(g++ cmake ninja-build qt6-base-dev libqt6svg6 qt6-svg-dev libgl-dev libgtest-dev libbenchmark-dev libsqlite3-dev
-  fonts-liberation poppler-utils)
+needs=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libgtest-dev fonts-liberation poppler-utils)
 
-# Installs the packages that are missing; says what is missing where it may not.
+# Whether a person sits at the terminal and may be asked.
+person_here() { [ -t 0 ] && [ "${CI:-}" != true ]; }
+
+# Installs missing packages, or lists them if it may not. A person is asked first.
 install_needs() {
-  local missing=() package
+  local missing=() package answer
   for package in "${needs[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
   done
@@ -14,6 +16,13 @@ install_needs() {
   if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || { echo "Please install these packages first: ${missing[*]}" >&2; return 1; }
     as_root=(sudo)
+  fi
+  if person_here; then
+    read -r -p "Install ${missing[*]}? [y/N] " answer
+    case $answer in
+      [yY]*) ;;
+      *) echo "Nothing was installed." >&2; return 1 ;;
+    esac
   fi
   echo "Installing: ${missing[*]}"
   "${as_root[@]}" apt-get update -qq
