@@ -73,8 +73,7 @@ struct Reports {
   }
 };
 
-void MeasureReport(const std::filesystem::path& folder, const char* name,
-                   forms::MenuItem screen::Page1Controls::*item) {
+void MeasureReport(const std::filesystem::path& folder, const char* name, forms::MenuItem screen::PageControls::*item) {
   double bare = 0;
   {
     Reports reports(folder);
@@ -114,6 +113,6 @@ int main(int argc, char** argv) {
     Reports sorting(folder);
     sorting.Run(sorting.Running.RecordScreen.mnuSort);
   }
-  MeasureReport(folder, "full", &screen::Page1Controls::mnuAll);
-  MeasureReport(folder, "abridged", &screen::Page1Controls::mnuShort);
+  MeasureReport(folder, "full", &screen::PageControls::mnuAll);
+  MeasureReport(folder, "abridged", &screen::PageControls::mnuShort);
 }

@@ -5,6 +5,8 @@
 
 using store::FilmField;
 
+void frmPage1::cmdPrev20_GotFocus() { HelpContext = cmdPrevious.Ids.HelpId; }
+
 void frmPage1::cmdPrev20_Click() {
   HelpContext = cmdPrevious.Ids.HelpId;
   if (ListShown == 1) {

@@ -30,24 +30,6 @@ const WalkedView* ViewOf(std::string_view kind) {
 
 }  // namespace
 
-void frmPage1::WireBrowse() {
-  WIRE(cmdNext, Click);
-  WIRE(cmdPrevious, Click);
-  WIRE(cmdNext20, Click);
-  WIRE(cmdPrev20, Click);
-  cmdPrev20.GotFocus = [this] { HelpContext = cmdPrevious.Ids.HelpId; };
-  WIRE(mnuByTitle, Click);
-  WIRE(mnuByDVD, Click);
-  WIRE(mnuByLaser, Click);
-  WIRE(mnuByVHS, Click);
-  WIRE(mnuAllTitles, Click);
-  WIRE(mnualldvd, Click);
-  WIRE(mnualllas, Click);
-  WIRE(mnuAllVHS, Click);
-  WIRE(mnuFindAllGenre, Click);
-  WIRE(mnuFindGenre, Click);
-}
-
 void frmPage1::cmdNext_Click() {
   HelpContext = cmdNext.Ids.HelpId;
   if (FindPending == 1) return;

@@ -33,26 +33,6 @@ constexpr MatchRow MatchRows[] = {
 
 }  // namespace
 
-void frmPage1::WireFind() {
-  WIRE(cmdMatch, Click);
-  WIRE(mnuFindTitle, Click);
-  WIRE(mnuFindDirector, Click);
-  WIRE(mnuFindStar, Click);
-  WIRE(mnuProducer, Click);
-  WIRE(mnuCinema, Click);
-  WIRE(mnuWriter, Click);
-  WIRE(mnuMusic, Click);
-  WIRE(mnuArt, Click);
-  WIRE(mnuDance, Click);
-  WIRE(mnuCostume, Click);
-  WIRE(mnuAwards, Click);
-  WIRE(mnuMPAA, Click);
-  WIRE(mnuSound, Click);
-  WIRE(mnuFile, Click);
-  WIRE(mnuLast, Click);
-  WIRE(mnuLastEntry, Click);
-}
-
 void frmPage1::mnuFindTitle_Click() { find::Search(*this, find::TitleSearch).Run(); }
 void frmPage1::mnuFindDirector_Click() { find::Search(*this, find::DirectorSearch).Run(); }
 void frmPage1::mnuFindStar_Click() { find::Search(*this, find::StarSearch).Run(); }

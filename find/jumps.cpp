@@ -13,18 +13,36 @@ void PassOverFailure(Statement statement) {
   }
 }
 
-}  // namespace
-
-void frmPage1::LeaveViewForJump(std::string_view heading) {
-  Files.Close(KeyFileNo);
-  KeyFilePos = 0;
-  lblHead.SetCaption(heading);
-  ViewKind = "";
-  cmdPrevious.Enable();
+void LeaveViewForJump(frmPage1& window, std::string_view heading) {
+  window.Files.Close(KeyFileNo);
+  window.KeyFilePos = 0;
+  window.lblHead.SetCaption(heading);
+  window.ViewKind = "";
+  window.cmdPrevious.Enable();
 }
 
+// The film is shown before its number is looked at; there is no test for a number too low.
+void EndJumpPastLast(frmPage1& window) {
+  if (window.CurrentRecNo <= window.RecordCount) return;
+  window.Desk.MessageBox(forms::Icon::Warning, "Reelora Prima ", "End of file!");
+  window.cmdReset_Click();
+}
+
+void JumpToScanRecNo(frmPage1& window) {
+  window.MasterFileNo = 1;
+  window.CurrentRecNo = window.ScanRecNo;
+  for (forms::TextBox* box : {&window.txtColor1, &window.txtLetter, &window.txtCLV1}) box->SetText("");
+  window.ReadRecord(window.CurrentRecNo);
+  window.txtGenreList.SetText("");
+  window.ShowRecord();
+  window.txtLetter.SetText("");
+  EndJumpPastLast(window);
+}
+
+}  // namespace
+
 void frmPage1::mnuFile_Click() {
-  LeaveViewForJump("    Viewing All Files Numerically");
+  LeaveViewForJump(*this, "    Viewing All Files Numerically");
   FileNoAnswer = Desk.InputBox(BoxTitle, "Enter File No To Search:");
   if (FileNoAnswer.empty()) {
     cmdReset_Click();
@@ -32,31 +50,13 @@ void frmPage1::mnuFile_Click() {
   }
   RecordFound = 1;
   ScanRecNo = runtime::RoundToInt32(runtime::NumericValue(FileNoAnswer));
-  JumpToScanRecNo();
+  JumpToScanRecNo(*this);
 }
 
 void frmPage1::mnuLast_Click() {
-  LeaveViewForJump("    Viewing Last File Entered");
+  LeaveViewForJump(*this, "    Viewing Last File Entered");
   ScanRecNo = RecordCount;
-  JumpToScanRecNo();
-}
-
-void frmPage1::JumpToScanRecNo() {
-  MasterFileNo = 1;
-  CurrentRecNo = ScanRecNo;
-  for (forms::TextBox* box : {&txtColor1, &txtLetter, &txtCLV1}) box->SetText("");
-  ReadRecord(CurrentRecNo);
-  txtGenreList.SetText("");
-  ShowRecord();
-  txtLetter.SetText("");
-  EndJumpPastLast();
-}
-
-// The film is shown before its number is looked at; there is no test for a number too low.
-void frmPage1::EndJumpPastLast() {
-  if (CurrentRecNo <= RecordCount) return;
-  Desk.MessageBox(forms::Icon::Warning, "Reelora Prima ", "End of file!");
-  cmdReset_Click();
+  JumpToScanRecNo(*this);
 }
 
 void frmPage1::mnuLastEntry_Click() {
@@ -68,5 +68,5 @@ void frmPage1::mnuLastEntry_Click() {
   txtGenreList.SetText("");
   txtLetter.SetText("");
   PassOverFailure([this] { ShowRecord(); });
-  PassOverFailure([this] { EndJumpPastLast(); });
+  PassOverFailure([this] { EndJumpPastLast(*this); });
 }

@@ -11,13 +11,13 @@ struct AutoFunction {
   std::string_view File;
   screen::Text screen::RunState::*Setting;
   std::string_view NoLine;
-  forms::TextBox screen::Page1Controls::*Box;
+  forms::TextBox screen::PageControls::*Box;
   std::string_view On, Off;
 };
 
 // clang-format off
-constexpr AutoFunction AutoSave = { "Auto Save", "AutoSave", &screen::RunState::AutoSaveSetting, "NO", &screen::Page1Controls::txtAutoSave, screen::AutoSaveOn, screen::AutoSaveOff };
-constexpr AutoFunction AutoSort = { "Auto Sort", "AutoSort", &screen::RunState::AutoSortSetting, "",   &screen::Page1Controls::txtAutoSort, screen::AutoSortOn, screen::AutoSortOff };  // No leaves an empty line
+constexpr AutoFunction AutoSave = { "Auto Save", "AutoSave", &screen::RunState::AutoSaveSetting, "NO", &screen::PageControls::txtAutoSave, screen::AutoSaveOn, screen::AutoSaveOff };
+constexpr AutoFunction AutoSort = { "Auto Sort", "AutoSort", &screen::RunState::AutoSortSetting, "",   &screen::PageControls::txtAutoSort, screen::AutoSortOn, screen::AutoSortOff };  // No leaves an empty line
 // clang-format on
 
 void Choose(frmPage1& window, const AutoFunction& function) {

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-using screen::Page1Controls;
+using screen::PageControls;
 
 namespace reports {
 namespace {
@@ -20,7 +20,7 @@ constexpr Closing FullListClosing{"End of file!   please wait. ", " Page to prin
 struct Cell {
   int Column;
   std::string_view Lead;
-  forms::TextBox Page1Controls::*Box;
+  forms::TextBox PageControls::*Box;
   std::string_view Tail{};
 };
 // The line that depends on the format. The small differences in wording are on purpose.
@@ -31,27 +31,27 @@ struct FormatLine {
 
 // clang-format off
 constexpr Cell SecondLine[] = {
-  {  3, "", &Page1Controls::txtStar1 }, { 34, "", &Page1Controls::txtStar2 },
-  { 64, "", &Page1Controls::txtTime, " mins." }, { 73, "", &Page1Controls::txtYear },
+  {  3, "", &PageControls::txtStar1 }, { 34, "", &PageControls::txtStar2 },
+  { 64, "", &PageControls::txtTime, " mins." }, { 73, "", &PageControls::txtYear },
 };
 constexpr Cell ThirdLine[] = {
-  {  3, "", &Page1Controls::txtStar3 }, { 34, "", &Page1Controls::txtStar4 },
-  { 64, "", &Page1Controls::txtColor1 }, { 70, "", &Page1Controls::txtLetter },
+  {  3, "", &PageControls::txtStar3 }, { 34, "", &PageControls::txtStar4 },
+  { 64, "", &PageControls::txtColor1 }, { 70, "", &PageControls::txtLetter },
 };
 constexpr Cell FourthLine[] = {
-  {  3, "", &Page1Controls::txtStar5 }, { 34, "", &Page1Controls::txtStar6 },
-  { 64, "", &Page1Controls::txtGenreList },
+  {  3, "", &PageControls::txtStar5 }, { 34, "", &PageControls::txtStar6 },
+  { 64, "", &PageControls::txtGenreList },
 };
 constexpr FormatLine FormatLines[] = {
-  { "DVD",   { {  3, "Label:", &Page1Controls::txtLabel },  { 25, "DVD ",     &Page1Controls::txtNumReel, "Disc(s)" },
-               { 43, "MPAA :", &Page1Controls::txtRating }, { 55, "DVD Disc", nullptr },
-               { 70, "SND",    &Page1Controls::txtSound } } },
-  { "Laser", { {  3, "Label:", &Page1Controls::txtLabel },  { 25, "Laser ",   &Page1Controls::txtNumReel, " Disc(s)" },
-               { 43, "MPAA :", &Page1Controls::txtRating }, { 55, "",         &Page1Controls::txtCLV1 },
-               { 70, "SND: ",  &Page1Controls::txtSound } } },
-  { "VHS",   { {  3, "Label:", &Page1Controls::txtLabel },  { 25, "VHS ",     &Page1Controls::txtNumReel, " Cass(s)." },
-               { 43, "MPAA :", &Page1Controls::txtRating }, { 55, "Cass# ",   &Page1Controls::txtCassNo },
-               { 70, "SND: ",  &Page1Controls::txtSound } } },
+  { "DVD",   { {  3, "Label:", &PageControls::txtLabel },  { 25, "DVD ",     &PageControls::txtNumReel, "Disc(s)" },
+               { 43, "MPAA :", &PageControls::txtRating }, { 55, "DVD Disc", nullptr },
+               { 70, "SND",    &PageControls::txtSound } } },
+  { "Laser", { {  3, "Label:", &PageControls::txtLabel },  { 25, "Laser ",   &PageControls::txtNumReel, " Disc(s)" },
+               { 43, "MPAA :", &PageControls::txtRating }, { 55, "",         &PageControls::txtCLV1 },
+               { 70, "SND: ",  &PageControls::txtSound } } },
+  { "VHS",   { {  3, "Label:", &PageControls::txtLabel },  { 25, "VHS ",     &PageControls::txtNumReel, " Cass(s)." },
+               { 43, "MPAA :", &PageControls::txtRating }, { 55, "Cass# ",   &PageControls::txtCassNo },
+               { 70, "SND: ",  &PageControls::txtSound } } },
 };
 // clang-format on
 

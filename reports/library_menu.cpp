@@ -3,18 +3,6 @@
 #include "reports/full_list.h"
 #include "reports/query_list.h"
 
-void frmPage1::WireReports() {
-  WIRE(mnuPrint2, Click);
-  WIRE(mnuAll, Click);
-  WIRE(mnuShort, Click);
-  WIRE(mnuDVD, Click);
-  WIRE(mnuLaser, Click);
-  WIRE(mnuVHS, Click);
-  WIRE(mnuDirector, Click);
-  WIRE(mnuStars, Click);
-  WIRE(mnuGenre, Click);
-}
-
 void frmPage1::mnuPrint2_Click() { Desk.PrinterDialog(); }
 void frmPage1::mnuAll_Click() { reports::FullList(*this).Run(); }
 void frmPage1::mnuShort_Click() { reports::AbridgedReport(*this, reports::AllTitlesList).Run(); }

@@ -15,7 +15,7 @@ namespace reports {
 struct SearchedField {
   store::FilmField Field;
   screen::Number16 screen::RunState::*Hit;
-  forms::TextBox screen::Page1Controls::*Box;
+  forms::TextBox screen::PageControls::*Box;
 };
 
 enum class TitleAt { FirstMatch, Start };

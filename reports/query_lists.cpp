@@ -1,7 +1,7 @@
 // The table of the three lists.
 #include "reports/query_list.h"
 
-using screen::Page1Controls;
+using screen::PageControls;
 using screen::RunState;
 using store::FilmField;
 
@@ -10,18 +10,18 @@ namespace {
 
 // clang-format off
 constexpr SearchedField DirectorFields[] = {
-  { FilmField::Director, &RunState::MatchPos, &Page1Controls::txtDirector },
+  { FilmField::Director, &RunState::MatchPos, &PageControls::txtDirector },
 };
 constexpr SearchedField StarFields[] = {
-  { FilmField::Star1, &RunState::MatchPos, &Page1Controls::txtStar1 },
-  { FilmField::Star2, &RunState::StarHit2, &Page1Controls::txtStar2 },
-  { FilmField::Star3, &RunState::StarHit3, &Page1Controls::txtStar3 },
-  { FilmField::Star4, &RunState::StarHit4, &Page1Controls::txtStar4 },
-  { FilmField::Star5, &RunState::StarHit5, &Page1Controls::txtStar5 },
-  { FilmField::Star6, &RunState::StarHit6, &Page1Controls::txtStar6 },
+  { FilmField::Star1, &RunState::MatchPos, &PageControls::txtStar1 },
+  { FilmField::Star2, &RunState::StarHit2, &PageControls::txtStar2 },
+  { FilmField::Star3, &RunState::StarHit3, &PageControls::txtStar3 },
+  { FilmField::Star4, &RunState::StarHit4, &PageControls::txtStar4 },
+  { FilmField::Star5, &RunState::StarHit5, &PageControls::txtStar5 },
+  { FilmField::Star6, &RunState::StarHit6, &PageControls::txtStar6 },
 };
 constexpr SearchedField GenreFields[] = {
-  { FilmField::Genre, &RunState::MatchPos, &Page1Controls::txtGenreList },
+  { FilmField::Genre, &RunState::MatchPos, &PageControls::txtGenreList },
 };
 // clang-format on
 

@@ -72,7 +72,7 @@ class GridColumn {
 };
 
 // clang-format off
-struct Page1Controls : forms::Window {
+struct PageControls : forms::Window {
   using forms::Window::Window;
 
   forms::Strip   Toolbar1           { *this, "Toolbar1", StripLook, {0, 0, 8655, 760} };

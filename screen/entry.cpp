@@ -20,7 +20,7 @@ void frmPage1::EnterField(const EntryField& field) {
   if (edit || fresh) (this->*field.Box).SetAlignment(forms::Align::Left);
 }
 
-void frmPage1::EnterField(forms::TextBox screen::Page1Controls::*box) { EnterField(screen::EntryOf(box)); }
+void frmPage1::EnterField(forms::TextBox screen::PageControls::*box) { EnterField(screen::EntryOf(box)); }
 
 void frmPage1::Refuse(std::string_view title) {
   Desk.MessageBox(forms::Icon::Warning, title, RefusalText);
@@ -38,6 +38,16 @@ void frmPage1::ShowSaveReminder() {
   lblSorting.Show();
   lblSorting.SetCaption("Save Work When Finished!");
 }
+
+#define ENTER_FIELD(box, GotFocus) \
+  void frmPage1::box##_##GotFocus() { EnterField(&frmPage1::box); }
+FIELD_FOCUS_HANDLERS(ENTER_FIELD)
+#undef ENTER_FIELD
+
+#define REFUSE_CLICK(box, Click) \
+  void frmPage1::box##_##Click() { RefuseClick(screen::EntryOf(&frmPage1::box).Title); }
+FIELD_CLICK_HANDLERS(REFUSE_CLICK)
+#undef REFUSE_CLICK
 
 void frmPage1::txtTitle_Click() {
   if (EditMode == 0) Refuse("Title");

@@ -9,6 +9,7 @@
 #include "runtime/printer.h"
 #include "runtime/text.h"
 #include "screen/controls.h"
+#include "screen/handlers.h"
 #include "screen/run_state.h"
 
 namespace screen {
@@ -19,14 +20,6 @@ struct SortPass;
 namespace sort {
 class Sorter;
 }  // namespace sort
-namespace prefs {
-enum class Group;
-enum class Occasion;
-struct GroupRow;
-}  // namespace prefs
-
-// Wires the handler Control_Event to that event of that control.
-#define WIRE(control, Event) control.Event = [this] { control##_##Event(); }
 
 // The files by number that all handlers share.
 inline constexpr int KeyFileNo = 2;
@@ -37,7 +30,7 @@ inline constexpr int SettingFileNo = 5;
 // The title that most message boxes carry.
 inline constexpr std::string_view BoxTitle = "Reelora Prima";
 
-struct frmPage1 : screen::Page1Controls, screen::RunState {
+struct frmPage1 : screen::PageControls, screen::RunState {
   frmPage1(forms::WindowStack& windows, runtime::Files& files);
 
   runtime::Files& Files;
@@ -49,170 +42,14 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   // Opens the copy window; not set where there is none.
   forms::Handler OpenCopyWindow;
 
-  // screen/
-  void frmPage1_Load();
-  void frmPage1_Unload();
-  void frmPage1_MouseMove();
-  void Toolbar1_MouseMove();
-  void lblsorted_MouseMove();
-  void mnuExit_Click();
-  void mnuSave_Click();
-  void cmdSave_Click();
-  void cmdNew_Click();
-  void cmdEdit_Click();
-  void cmdReset_Click();
-  void cmdDelete_Click();
-  void optNotesoff_Click();
-  void optnoteson_Click();
-  // The one road from CurrentFilm to the screen, and the one from the boxes to the disk.
+#define DECLARE_WINDOW_HANDLER(Event) void frmPage1_##Event();
+  WINDOW_HANDLERS(DECLARE_WINDOW_HANDLER)
+  CONTROL_HANDLERS(DECLARE)
+#undef DECLARE_WINDOW_HANDLER
+
+  // From CurrentFilm to the boxes, and from the boxes to the disk.
   void ShowRecord();
   void SaveRecord();
-
-  // screen/, the rules of the coded boxes
-  void txtFormat_Change();
-  void txtLetter_Change();
-  void txtCLV1_Change();
-  void txtColor1_Change();
-  void txtGenre_Change();
-  void txtRating_Change();
-
-  // screen/, entry
-  void txtTitle_Click();
-  void txtTitle_MouseUp();
-  void txtLabel_GotFocus();
-  void txtFormat_GotFocus();
-  void txtFormat_Click();
-  void txtFormat_MouseMove();
-  void txtFormat_LostFocus();
-  void txtNumReel_Click();
-  void txtGenre_GotFocus();
-  void txtGenre_Click();
-  void txtGenreList_LostFocus();
-  void txtYear_GotFocus();
-  void txtYear_Change();
-  void txtYear_LostFocus();
-  void txtLetter_GotFocus();
-  void txtLetter_Click();
-  void txtLetter_KeyPress();
-  void txtLetter_MouseMove();
-  void txtCLV1_GotFocus();
-  void txtCLV1_Click();
-  void txtCLV1_KeyPress();
-  void txtCLV1_MouseMove();
-  void txtColor1_GotFocus();
-  void txtColor1_Click();
-  void txtColor1_KeyPress();
-  void txtColor1_MouseMove();
-  void txtColor1_LostFocus();
-  void txtProducer_GotFocus();
-  void txtSound_LostFocus();
-  void txtRating_GotFocus();
-  void txtRating_Click();
-  void txtAwards_Click();
-  void txtRatings_LostFocus();
-
-  // screen/, the pick lists
-  void List1_Click();
-  void List1_GotFocus();
-  void List1_KeyPress();
-  void List1_MouseDown();
-  void List1_LostFocus();
-  void List2_Click();
-  void List2_KeyPress();
-  void List2_MouseDown();
-  void List2_LostFocus();
-  void List3_Click();
-  void List3_GotFocus();
-  void List3_KeyPress();
-  void List3_MouseDown();
-  void List3_LostFocus();
-  void List4_Click();
-  void List4_GotFocus();
-  void List4_KeyPress();
-  void List4_MouseDown();
-  void List4_LostFocus();
-  void List5_Click();
-  void List5_GotFocus();
-  void List5_KeyPress();
-  void List5_MouseDown();
-  void List5_LostFocus();
-  void List6_Click();
-  void List6_GotFocus();
-  void List6_KeyPress();
-  void List6_MouseDown();
-  void List6_LostFocus();
-
-  // store/ and screen/, the sort run
-  void cmdSort_Click();
-  void mnuSort_Click();
-
-  // browse/
-  void cmdNext_Click();
-  void cmdPrevious_Click();
-  void cmdNext20_Click();
-  void cmdPrev20_Click();
-  void mnuByTitle_Click();
-  void mnuByDVD_Click();
-  void mnuByLaser_Click();
-  void mnuByVHS_Click();
-  void mnuAllTitles_Click();
-  void mnualldvd_Click();
-  void mnualllas_Click();
-  void mnuAllVHS_Click();
-  void mnuFindAllGenre_Click();
-  void mnuFindGenre_Click();
-
-  // find/
-  void mnuFindTitle_Click();
-  void mnuFindDirector_Click();
-  void mnuFindStar_Click();
-  void mnuProducer_Click();
-  void mnuCinema_Click();
-  void mnuWriter_Click();
-  void mnuMusic_Click();
-  void mnuArt_Click();
-  void mnuDance_Click();
-  void mnuCostume_Click();
-  void mnuAwards_Click();
-  void mnuMPAA_Click();
-  void mnuSound_Click();
-  void cmdMatch_Click();
-  void mnuFile_Click();
-  void mnuLast_Click();
-  void mnuLastEntry_Click();
-
-  // reports/
-  void mnuPrint2_Click();
-  void mnuAll_Click();
-  void mnuShort_Click();
-  void mnuDVD_Click();
-  void mnuLaser_Click();
-  void mnuVHS_Click();
-  void mnuDirector_Click();
-  void mnuStars_Click();
-  void mnuGenre_Click();
-
-  // prefs/
-  void mnuAutoSave_Click();
-  void mnuAutoSort_Click();
-  void mnuBGColors_Click();
-  void mnuTxtBoxColor_Click();
-  void mnuTxtColor_Click();
-  void mnuMessColor_Click();
-  void mnudefault_Click();
-
-  // screen/, the other windows
-  void mnuCopy_Click();
-  void mnuHelp_Click();
-
-  void WireScreen();
-  void WireEntry();
-  void WirePickLists();
-  void WireBrowse();
-  void WireSort();
-  void WireFind();
-  void WirePrefs();
-  void WireReports();
 
   // Start and display.
   void OpenCollection();
@@ -229,9 +66,6 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   void ClearRecord();
   void SetPageVisible(std::span<const screen::PagePair> pairs, bool visible);
   void ApplyStoredColours();
-  void ApplyColour(prefs::Group group, prefs::Occasion occasion, forms::Colour colour);
-  void ChooseColour(prefs::Group group);
-  void StoreColour(const prefs::GroupRow& row);
 
   // Walking key files.
   void ReadKey();
@@ -255,14 +89,9 @@ struct frmPage1 : screen::Page1Controls, screen::RunState {
   void ScanGenre(bool read_key);
   bool TakeGenreKey();
 
-  // Finding.
-  void LeaveViewForJump(std::string_view heading);
-  void JumpToScanRecNo();
-  void EndJumpPastLast();
-
   // Entry.
   void EnterField(const screen::EntryField& field);
-  void EnterField(forms::TextBox screen::Page1Controls::*box);
+  void EnterField(forms::TextBox screen::PageControls::*box);
   void Refuse(std::string_view title);
   void RefuseClick(std::string_view title);
   bool InEdit() const;

@@ -34,17 +34,17 @@ constexpr FilmField SavingOrder[] = {
 };
 
 // The boxes that a save centres again; txtCassNo, txtGenre and txtGenreList keep the alignment that they have.
-constexpr forms::TextBox screen::Page1Controls::*CentredBoxes[] = {
-  &screen::Page1Controls::txtTitle,        &screen::Page1Controls::txtColor1,          &screen::Page1Controls::txtLetter,
-  &screen::Page1Controls::txtCLV1,         &screen::Page1Controls::txtFormat,          &screen::Page1Controls::txtDirector,
-  &screen::Page1Controls::txtStar1,        &screen::Page1Controls::txtStar2,           &screen::Page1Controls::txtStar3,
-  &screen::Page1Controls::txtStar4,        &screen::Page1Controls::txtStar5,           &screen::Page1Controls::txtStar6,
-  &screen::Page1Controls::txtLabel,        &screen::Page1Controls::txtNumReel,         &screen::Page1Controls::txtTime,
-  &screen::Page1Controls::txtYear,         &screen::Page1Controls::txtProducer,        &screen::Page1Controls::txtCinematographer,
-  &screen::Page1Controls::txtChoreography, &screen::Page1Controls::txtMusic,           &screen::Page1Controls::txtSetDirection,
-  &screen::Page1Controls::txtAwards,       &screen::Page1Controls::txtWritten,         &screen::Page1Controls::txtCostume,
-  &screen::Page1Controls::txtSound,        &screen::Page1Controls::txtPackage,         &screen::Page1Controls::txtPurchase,
-  &screen::Page1Controls::txtCost,         &screen::Page1Controls::txtRating,          &screen::Page1Controls::txtRatings,
+constexpr forms::TextBox screen::PageControls::*CentredBoxes[] = {
+  &screen::PageControls::txtTitle,        &screen::PageControls::txtColor1,          &screen::PageControls::txtLetter,
+  &screen::PageControls::txtCLV1,         &screen::PageControls::txtFormat,          &screen::PageControls::txtDirector,
+  &screen::PageControls::txtStar1,        &screen::PageControls::txtStar2,           &screen::PageControls::txtStar3,
+  &screen::PageControls::txtStar4,        &screen::PageControls::txtStar5,           &screen::PageControls::txtStar6,
+  &screen::PageControls::txtLabel,        &screen::PageControls::txtNumReel,         &screen::PageControls::txtTime,
+  &screen::PageControls::txtYear,         &screen::PageControls::txtProducer,        &screen::PageControls::txtCinematographer,
+  &screen::PageControls::txtChoreography, &screen::PageControls::txtMusic,           &screen::PageControls::txtSetDirection,
+  &screen::PageControls::txtAwards,       &screen::PageControls::txtWritten,         &screen::PageControls::txtCostume,
+  &screen::PageControls::txtSound,        &screen::PageControls::txtPackage,         &screen::PageControls::txtPurchase,
+  &screen::PageControls::txtCost,         &screen::PageControls::txtRating,          &screen::PageControls::txtRatings,
 };
 // clang-format on
 

@@ -41,11 +41,6 @@ std::string StatementOf(const screen::SortPass& pass) {
 
 }  // namespace
 
-void frmPage1::WireSort() {
-  WIRE(cmdSort, Click);
-  WIRE(mnuSort, Click);
-}
-
 void frmPage1::cmdSort_Click() {
   HelpContext = cmdSort.Ids.HelpId;
   BeginSort();

@@ -7,7 +7,7 @@ using Shown = std::vector<std::string>;
 
 struct WayIn {
   const char* Name;
-  forms::MenuItem screen::Page1Controls::*Item;
+  forms::MenuItem screen::PageControls::*Item;
 };
 // clang-format off
 constexpr WayIn Views[] = {

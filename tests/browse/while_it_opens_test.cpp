@@ -6,7 +6,7 @@ namespace {
 using Shown = std::vector<std::string>;
 
 struct Opening {
-  forms::MenuItem screen::Page1Controls::*Item;
+  forms::MenuItem screen::PageControls::*Item;
   std::string_view Heading;  // under the box that tells the end
 };
 // clang-format off

@@ -59,7 +59,7 @@ class ReportTest : public testing::Test {
     program.emplace(desk, *disk);
     program->StartRecordScreen();
   }
-  void Click(forms::MenuItem screen::Page1Controls::*item) {
+  void Click(forms::MenuItem screen::PageControls::*item) {
     program->Deliver([&] { program->RecordScreen.UserClick(program->RecordScreen.*item); });
   }
   std::map<std::string, std::string> Files() const {
