@@ -70,7 +70,7 @@ void PaintOption(QWidget& option, const forms::Captioned& control, bool round, b
 }
 
 // Options have their own background, so that they stand out from what is below them.
-void DressOption(QWidget& option, const forms::Look& look, const Grid& grid) {
+void ApplyOptionLook(QWidget& option, const forms::Look& look, const Grid& grid) {
   option.setFont(grid.Font(look));
   QPalette colours = option.palette();
   colours.setColor(QPalette::Window, ToColour(look.Back));
@@ -86,12 +86,12 @@ ButtonView::ButtonView(forms::Button& button, QWidget& parent)
   setFocusPolicy(Qt::TabFocus);
 }
 
-void ButtonView::Dress(const Grid& grid) {
+void ButtonView::ApplyLook(const Grid& grid) {
   setFont(grid.Font(button_.Look()));
   update();
 }
 
-void ButtonView::Fill() {
+void ButtonView::ApplyContent() {
   setAccessibleName(AccessibleName(button_));
   update();
 }
@@ -126,9 +126,9 @@ OptionView::OptionView(forms::OptionButton& option, QWidget& parent)
   setAutoExclusive(false);
 }
 
-void OptionView::Dress(const Grid& grid) { DressOption(*this, option_.Look(), grid); }
+void OptionView::ApplyLook(const Grid& grid) { ApplyOptionLook(*this, option_.Look(), grid); }
 
-void OptionView::Fill() {
+void OptionView::ApplyContent() {
   setAccessibleName(AccessibleName(option_));
   setChecked(option_.Value());
   update();
@@ -140,9 +140,9 @@ CheckView::CheckView(forms::CheckBox& check, QWidget& parent) : QCheckBox(&paren
   setFocusPolicy(Qt::TabFocus);
 }
 
-void CheckView::Dress(const Grid& grid) { DressOption(*this, check_.Look(), grid); }
+void CheckView::ApplyLook(const Grid& grid) { ApplyOptionLook(*this, check_.Look(), grid); }
 
-void CheckView::Fill() {
+void CheckView::ApplyContent() {
   setAccessibleName(AccessibleName(check_));
   setChecked(check_.Value());
   update();

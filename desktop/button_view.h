@@ -16,8 +16,8 @@ class ButtonView final : public QPushButton, public ControlView {
   QWidget& Widget() override { return *this; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override;
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -30,8 +30,8 @@ class OptionView final : public QRadioButton, public ControlView {
   QWidget& Widget() override { return *this; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override;
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -44,8 +44,8 @@ class CheckView final : public QCheckBox, public ControlView {
   QWidget& Widget() override { return *this; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override;
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

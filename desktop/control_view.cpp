@@ -12,9 +12,9 @@ void ControlView::Mirror(const Grid& grid) {
   bool moved = !(grid == grid_);
   grid_ = grid;
   if (moved) Widget().setGeometry(grid.Area(control_.Place));
-  if (TakeLook() || moved) Dress(grid);
+  if (LookChanged() || moved) ApplyLook(grid);
   seen_ = control_.Version();
-  Fill();
+  ApplyContent();
   if (control_.Enabled()) Widget().setEnabled(true);
   if (control_.Visible()) Widget().setVisible(true);
 }
@@ -24,7 +24,7 @@ void ControlView::Withdraw() {
   if (!control_.Enabled()) Widget().setEnabled(false);
 }
 
-bool ControlView::TakeLook() {
+bool ControlView::LookChanged() {
   const forms::Look& look = control_.Look();
   if (look.Fore == fore_ && look.Back == back_ && look.FontSize == points_) return false;
   fore_ = look.Fore;
@@ -60,7 +60,7 @@ QColor ToColour(forms::Colour colour) {
   return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF), static_cast<int>(colour >> 16 & 0xFF)};
 }
 
-QColor Faded(const QColor& fore, const QColor& back) {
+QColor DisabledColour(const QColor& fore, const QColor& back) {
   auto mixed = [](int one, int other) { return (3 * one + 2 * other) / 5; };
   return {mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue())};
 }

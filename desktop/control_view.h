@@ -34,12 +34,12 @@ class ControlView {
  protected:
   explicit ControlView(forms::Control& control) : control_(control) {}
   // Font and colours.
-  virtual void Dress(const Grid& grid) = 0;
+  virtual void ApplyLook(const Grid& grid) = 0;
   // Text, items, selection.
-  virtual void Fill() = 0;
+  virtual void ApplyContent() = 0;
 
  private:
-  bool TakeLook();
+  bool LookChanged();
 
   forms::Control& control_;
   unsigned seen_ = 0;
@@ -54,7 +54,7 @@ std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, 
 
 QColor ToColour(forms::Colour colour);
 // Disabled text colour.
-QColor Faded(const QColor& fore, const QColor& back);
+QColor DisabledColour(const QColor& fore, const QColor& back);
 // What a screen reader says for the control.
 QString AccessibleName(const forms::Control& control);
 

@@ -41,20 +41,20 @@ void FieldView::Entered() {
   }
 }
 
-void FieldView::Dress(const Grid& grid) {
+void FieldView::ApplyLook(const Grid& grid) {
   const forms::Look& look = box_.Look();
   full_size_ = grid.Font(look);
   FitFont();
   QPalette colours = palette();
   colours.setColor(QPalette::Base, ToColour(look.Back));
   colours.setColor(QPalette::Text, ToColour(look.Fore));
-  colours.setColor(QPalette::Disabled, QPalette::Text, Faded(ToColour(look.Fore), ToColour(look.Back)));
+  colours.setColor(QPalette::Disabled, QPalette::Text, DisabledColour(ToColour(look.Fore), ToColour(look.Back)));
   colours.setColor(QPalette::Highlight, ToColour(look.Fore));
   colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
   setPalette(colours);
 }
 
-void FieldView::Fill() {
+void FieldView::ApplyContent() {
   Qt::Alignment wanted_alignment =
       (box_.Alignment() == forms::Align::Left ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter;
   if (alignment() != wanted_alignment) setAlignment(wanted_alignment);

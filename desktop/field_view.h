@@ -21,8 +21,8 @@ class FieldView final : public QLineEdit, public ControlView {
   void SetCaretByMouse(bool by_mouse) { caret_by_mouse_ = by_mouse; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override;
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

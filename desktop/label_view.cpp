@@ -33,7 +33,7 @@ LabelView::LabelView(forms::Label& label, QWidget& parent, bool tag)
   if (label.Look().Border) setFrameStyle(QFrame::Box | QFrame::Plain);
 }
 
-void LabelView::Dress(const Grid& grid) {
+void LabelView::ApplyLook(const Grid& grid) {
   const forms::Look& look = label_.Look();
   full_size_ = grid.Font(look);
   QPalette colours = palette();
@@ -44,7 +44,7 @@ void LabelView::Dress(const Grid& grid) {
   FitFont();
 }
 
-void LabelView::Fill() {
+void LabelView::ApplyContent() {
   QString wanted = tag_ ? Unpadded(label_.Caption()) : Shown(label_.Caption()).remove('\r');
   if (wanted == text()) return;
   setText(wanted);
@@ -68,7 +68,7 @@ StripView::StripView(forms::Control& strip, QWidget& parent) : QWidget(&parent),
   setAutoFillBackground(true);
 }
 
-void StripView::Dress(const Grid&) {
+void StripView::ApplyLook(const Grid&) {
   QPalette colours = palette();
   colours.setColor(QPalette::Window, ToColour(Control().Look().Back));
   setPalette(colours);

@@ -15,8 +15,8 @@ class LabelView final : public QLabel, public ControlView {
   QWidget& Widget() override { return *this; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override;
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override;
 
  private:
   void FitFont();
@@ -32,8 +32,8 @@ class StripView final : public QWidget, public ControlView {
   QWidget& Widget() override { return *this; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override {}
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override {}
   void paintEvent(QPaintEvent* event) override;
 };
 
@@ -44,8 +44,8 @@ class PictureView final : public QWidget, public ControlView {
   QWidget& Widget() override { return *this; }
 
  protected:
-  void Dress(const Grid&) override {}
-  void Fill() override {}
+  void ApplyLook(const Grid&) override {}
+  void ApplyContent() override {}
   void paintEvent(QPaintEvent* event) override;
 
  private:

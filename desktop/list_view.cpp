@@ -33,7 +33,7 @@ ListView::ListView(forms::ListBox& list, QWidget& parent) : QListWidget(&parent)
   viewport()->setMouseTracking(true);
 }
 
-void ListView::Dress(const Grid& grid) {
+void ListView::ApplyLook(const Grid& grid) {
   const forms::Look& look = list_.Look();
   setFont(grid.Font(look));
   QPalette colours = palette();
@@ -41,12 +41,12 @@ void ListView::Dress(const Grid& grid) {
   for (auto role : {QPalette::Text, QPalette::WindowText}) colours.setColor(role, ToColour(look.Fore));
   colours.setColor(QPalette::Highlight, ToColour(look.Fore));
   colours.setColor(QPalette::HighlightedText, ToColour(look.Back));
-  colours.setColor(QPalette::Disabled, QPalette::Text, Faded(ToColour(look.Fore), ToColour(look.Back)));
+  colours.setColor(QPalette::Disabled, QPalette::Text, DisabledColour(ToColour(look.Fore), ToColour(look.Back)));
   setPalette(colours);
   verticalScrollBar()->setPalette(PlainColours());
 }
 
-void ListView::Fill() {
+void ListView::ApplyContent() {
   mirroring_ = true;
   if (shown_ != list_.Items()) {
     shown_ = list_.Items();
@@ -69,7 +69,7 @@ void ListView::ShowWholeRows() {
 void ListView::focusInEvent(QFocusEvent* event) {
   mirroring_ = true;
   QListWidget::focusInEvent(event);
-  Fill();
+  ApplyContent();
 }
 
 }  // namespace desktop

@@ -18,8 +18,8 @@ class ListView final : public QListWidget, public ControlView {
   bool Mirroring() const { return mirroring_; }
 
  protected:
-  void Dress(const Grid& grid) override;
-  void Fill() override;
+  void ApplyLook(const Grid& grid) override;
+  void ApplyContent() override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:

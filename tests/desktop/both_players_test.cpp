@@ -1,5 +1,5 @@
-// The same actions, chosen by a fixed seed, on the bare forms and on the drawn widgets: both must end up alike after
-// every one.
+// Plays the same actions, chosen by a fixed seed, on the bare forms and on the drawn widgets, and compares the two
+// after each action.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -14,7 +14,7 @@
 namespace story {
 namespace {
 
-// Answers by turns, and writes down what came.
+// Gives its answers in turn and logs every request.
 class LoggingDesk final : public forms::Desk {
  public:
   std::string Log;
@@ -59,7 +59,7 @@ constexpr std::string_view Films[] = {"film 1 Title=\"Alien\" Format=\"L\" Genre
                                       "film 3 Title=\"Casablanca\" Format=\"D\" Genre=\"DR\" Letter=\"W\"",
                                       "films 4 45 Title=\"Film ##\" Format=\"D\" Genre=\"SF\""};
 
-// Sorted; not sorted; none; with keys that lead nowhere; with key files that are empty, short, or of no film.
+// Sorted; unsorted; empty; with keys of missing films; with key files that are empty or cut short, or name no film.
 const Collection Collections[] = {
     {Films[0], Films[1], Films[2], Films[3], "sorted"},
     {Films[0], Films[1], Films[2]},
@@ -71,7 +71,7 @@ const Collection Collections[] = {
 };
 
 struct PlayedProgram {
-  // With the settings on and from the opening windows on, or as stories start.
+  // as_delivered: starts at the opening windows with the settings on; otherwise as stories start.
   template <typename AnyPlayer>
   PlayedProgram(const AnyPlayer*, const Collection& collection, bool as_delivered) {
     World world{Folder.Path()};
@@ -85,7 +85,7 @@ struct PlayedProgram {
     Player->Settle();
   }
 
-  // All that a person sees, and what has come up so far.
+  // Everything the user sees, and the log so far.
   std::string Seen() const {
     std::string seen = Desk.Log;
     for (const screen::StateEntry* state : Running.RecordScreen.Entries()) seen += "\n" + Seen(*state);
@@ -117,7 +117,7 @@ struct PlayedProgram {
   std::unique_ptr<story::Player> Player;
 };
 
-// The first line in which the two differ, as each has it; "" where they do not.
+// The first line that differs, in both versions; "" if none does.
 std::string FirstDifference(const std::string& bare, const std::string& drawn) {
   std::istringstream bare_lines(bare), drawn_lines(drawn);
   for (std::string one, other; std::getline(bare_lines, one) && std::getline(drawn_lines, other);)
@@ -140,7 +140,7 @@ std::string ControlAtRandom(const forms::Window& window, Dice& dice) {
   }
 }
 
-// One action by the dice, as a line of what it was; on both programs.
+// Plays one random action on both; returns its description.
 std::string ActAtRandom(PlayedProgram& one, PlayedProgram& other, Dice& dice) {
   const forms::Window& window = *one.Running.Windows.Front();
   auto both = [&](auto action) { action(*one.Player), action(*other.Player); };

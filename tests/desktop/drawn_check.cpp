@@ -14,7 +14,7 @@ namespace {
 using desktop::Shown;
 
 void See(bool as_it_should_be, const std::string& name, const std::string& what) {
-  if (!as_it_should_be) throw Unplayable{"expected " + name + " drawn as the form has it, came another " + what};
+  if (!as_it_should_be) throw Unplayable{"expected " + name + " drawn as the form has it, got another " + what};
 }
 
 void CheckContent(const forms::Control& control, QWidget& widget) {

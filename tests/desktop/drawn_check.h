@@ -1,4 +1,4 @@
-// Whether the widgets show what the forms say.
+// Checks that the widgets show what the forms say.
 #pragma once
 
 #include "desktop/stack_view.h"

@@ -1,4 +1,4 @@
-// What the user does in a text box.
+// Editing in a text box.
 #include <gtest/gtest.h>
 
 #include <QClipboard>

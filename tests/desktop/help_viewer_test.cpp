@@ -1,4 +1,4 @@
-// The viewer on a help file of the test's own.
+// The help viewer on a test file.
 #include "desktop/help_viewer.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// What the keys do on the drawn window.
+// Keys on the drawn window.
 #include <gtest/gtest.h>
 
 #include <QMenu>
@@ -58,7 +58,7 @@ TEST_F(Keys, AltAndALetterReachTheControlWhereverTheFocusIs) {
   EXPECT_EQ(Form.Title.Text(), "");
 }
 
-TEST_F(Keys, AltAndALetterOpenTheMenuThatNoControlStandsBefore) {
+TEST_F(Keys, AltAndALetterOpenTheMenuIfNoControlHasTheLetter) {
   Key(Qt::Key_F, "f", Qt::AltModifier);
   QMenu* menu = Drawn().Menu().ActionOf(Form.File)->menu();
   EXPECT_TRUE(menu->isVisible());

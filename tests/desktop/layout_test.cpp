@@ -1,4 +1,4 @@
-// The record screen at 100 % and 200 %: nothing is cut off, nothing lies over anything else.
+// The record screen at 100 % and 200 %: nothing is cut off, nothing overlaps.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -25,12 +25,12 @@ class Layout : public testing::TestWithParam<int> {
 
   desktop::FormView& Form() { return *view_.Front(); }
 
-  // The widgets that are up, but the strip below the buttons and labels without a ground or a text of their own.
+  // The visible widgets, except the toolbar strip and transparent labels.
   std::vector<QWidget*> Shown() {
     std::vector<QWidget*> shown;
     for (const forms::Control* control : program_.RecordScreen.Controls()) {
-      bool ground = !control->Look().Transparent && control->Kind != forms::Kind::Strip;
-      if (ground && control->Kind != forms::Kind::MenuItem && control->Visible())
+      bool opaque = !control->Look().Transparent && control->Kind != forms::Kind::Strip;
+      if (opaque && control->Kind != forms::Kind::MenuItem && control->Visible())
         shown.push_back(&Form().ViewOf(*control)->Widget());
     }
     return shown;

@@ -1,4 +1,4 @@
-// That the widgets show what the form says, and nothing before they are needed.
+// Widgets show what the form says, and are created only when needed.
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -71,7 +71,7 @@ TEST_F(Mirror, ColoursAlignmentAndStatesFollow) {
   EXPECT_FALSE(WidgetOf(Form.Star).isEnabled());
 }
 
-TEST_F(Mirror, TheWindowsCaptionAndGroundFollow) {
+TEST_F(Mirror, TheWindowsCaptionAndBackgroundFollow) {
   Form.SetCaption("Caf\xe9");
   Form.SetBackColor(0x00FFFF);
   View.Sync();
@@ -79,26 +79,26 @@ TEST_F(Mirror, TheWindowsCaptionAndGroundFollow) {
   EXPECT_EQ(Drawn().Surface().palette().color(QPalette::Window), QColor(255, 255, 0));
 }
 
-TEST_F(Mirror, PlacesAndLettersGrowWithTheWindow) {
+TEST_F(Mirror, PlacesAndFontsGrowWithTheWindow) {
   QSize before = WidgetOf(Form.Star).size();
-  int letters = WidgetOf(Form.Save).font().pixelSize();
+  int font_size = WidgetOf(Form.Save).font().pixelSize();
   Drawn().resize(Drawn().width() * 2, Drawn().height() * 2);
   QApplication::processEvents();
   EXPECT_NEAR(WidgetOf(Form.Star).width(), before.width() * 2, 2);
-  EXPECT_NEAR(WidgetOf(Form.Save).font().pixelSize(), letters * 2, 2);
+  EXPECT_NEAR(WidgetOf(Form.Save).font().pixelSize(), font_size * 2, 2);
 }
 
 TEST_F(Mirror, ThePaddingOfATagIsFoldedAndItsLongRunsBreakTheLine) {
   EXPECT_EQ(dynamic_cast<QLabel&>(WidgetOf(Form.TitleTag)).text(), "The\ntitle of it");
 }
 
-TEST_F(Mirror, ALabelShrinksItsLettersUntilItsTextFits) {
+TEST_F(Mirror, ALabelShrinksItsFontUntilItsTextFits) {
   auto& label = dynamic_cast<QLabel&>(WidgetOf(Form.TitleTag));
-  int letters = label.font().pixelSize();
+  int font_size = label.font().pixelSize();
   Form.TitleTag.SetCaption(
       "A very long tag that can by no means find room at the letters' full size, whatever is done about it");
   View.Sync();
-  EXPECT_LT(label.font().pixelSize(), letters);
+  EXPECT_LT(label.font().pixelSize(), font_size);
   QRect needed = QFontMetrics(label.font()).boundingRect(QRect(0, 0, label.width(), 0), Qt::TextWordWrap, label.text());
   EXPECT_LE(needed.height(), label.height() + QFontMetrics(label.font()).descent());
 }

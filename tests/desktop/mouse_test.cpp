@@ -1,4 +1,4 @@
-// What the mouse does on the drawn window.
+// The mouse on the drawn window.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -118,7 +118,7 @@ TEST_F(MouseOn, ADoubleClickOnAnItemPicksItOnce) {
   EXPECT_EQ(seen, "down double");
 }
 
-TEST_F(MouseOn, APressBesideTheItemsOnlyTakesTheFocus) {
+TEST_F(MouseOn, APressOutsideTheItemsOnlyTakesTheFocus) {
   std::string seen;
   Form.List.Click = [&] { seen += "click "; };
   Form.List.MouseDown = [&] { seen += "down "; };

@@ -1,4 +1,4 @@
-// Jobs on paper: their size, and the PDF files that they become where there is no printer.
+// Jobs on paper: their size, and the PDF files written if there is no printer.
 #include "desktop/paper.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ constexpr double Inch = 72;
 const QSizeF Letter(8 * Inch, 10.5 * Inch);
 const QSizeF A4(559.28, 805.89);
 
-// Pages of that many lines, which reach to that column.
+// Each page has that many lines, which reach that column.
 runtime::PrintJob JobOf(int pages, int lines, int columns) {
   runtime::Printer printer;
   printer.SetFont("Courier New", 12);
@@ -72,7 +72,7 @@ TEST(FitGrid, IsTheSameOnAllPages) {
   EXPECT_EQ(FitGrid(job, Letter, Inch).Size, FitGrid(JobOf(1, 70, 89), Letter, Inch).Size);
 }
 
-// The documents folder of a user of its own, on a machine without a printer.
+// A home folder of its own, on a machine without a printer.
 class PaperTest : public testing::Test {
  protected:
   PaperTest() : old_home_(qgetenv("HOME")), old_settings_(qgetenv("XDG_CONFIG_HOME")) {

@@ -1,4 +1,4 @@
-// The story runner: plays stories on the bare forms, and with --desktop on the drawn widgets, without a display.
+// The story runner: plays stories on the bare forms, or with --desktop on the drawn widgets. Needs no display.
 #include <QApplication>
 #include <iostream>
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace {
 
-// Without a display the toolkit says at every turn that it cannot raise a window.
+// Without a display the toolkit keeps saying that it cannot raise a window.
 void SayWhatMatters(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (!text.startsWith("This plugin does not support"))
     std::cerr << qFormatLogMessage(type, context, text).toStdString() << "\n";
@@ -20,7 +20,7 @@ void SayWhatMatters(QtMsgType type, const QMessageLogContext& context, const QSt
 int main(int argc, char** argv) {
   int qt_argc = 1;
   std::unique_ptr<QApplication> application;
-  // The toolkit is started when the first story needs it: the bare forms do not.
+  // The toolkit starts with the first story that needs it; the bare forms do not.
   auto make_widget_player = [&](Program& program) -> std::unique_ptr<story::Player> {
     if (!application) {
       if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

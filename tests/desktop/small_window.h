@@ -1,4 +1,4 @@
-// A small drawn window to try things on, and the events that a user's hand would make.
+// A small drawn window, and the mouse and key events of a user.
 #pragma once
 
 #include <QApplication>
@@ -16,7 +16,7 @@
 
 namespace desktop {
 
-// Answers every box at once and keeps count of what came.
+// Answers every box at once and records requests.
 class CountingDesk final : public forms::Desk {
  public:
   int Beeps = 0;

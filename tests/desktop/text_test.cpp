@@ -1,4 +1,4 @@
-// Texts between the code page and the toolkit.
+// Conversion between the code page and the toolkit.
 #include "desktop/text.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Injects the events that the user's mouse and keys would make.
+// Sends the events that the user's mouse and keys would cause.
 #include "tests/desktop/widget_player.h"
 
 #include <QAction>
@@ -66,7 +66,7 @@ void WidgetPlayer::ClickOn(const std::string& name, bool twice) {
   if (control.Kind == forms::Kind::MenuItem) {
     ChooseFromMenu(static_cast<forms::MenuItem&>(control));
   } else if (face && control.Kind == forms::Kind::ListBox) {
-    // Each spot of a list that is full is an item; a click on none of them is handed to the form.
+    // A full list has no spot outside its items, so a click that picks none goes straight to the form.
     auto click = twice ? &forms::Window::UserDblClick : &forms::Window::UserClick;
     program_.Deliver([&] { (control.Owner().*click)(control); });
   } else if (face) {
@@ -97,7 +97,7 @@ void WidgetPlayer::Pick(const std::string& list, const std::string& item) {
   Settle();
 }
 
-// A line of the bar is clicked there; an item in its menu, opened for it.
+// Clicks an item of the bar there, any other item in its opened menu.
 void WidgetPlayer::ChooseFromMenu(const forms::MenuItem& item) {
   desktop::FormView* form = view_.ViewOf(item.Owner());
   QAction* action = form && form->isVisible() ? form->Menu().ActionOf(item) : nullptr;
@@ -175,18 +175,18 @@ void WidgetPlayer::Settle() {
 
 void WidgetPlayer::Picture(const std::string& path) {
   desktop::FormView* front = view_.Front();
-  if (!front || !desktop::SavePicture(*front, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
+  if (!front || !desktop::SavePicture(*front, path)) throw Unplayable{"expected a picture in " + path + ", got none"};
 }
 
 void WidgetPlayer::PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) {
-  if (!desktop::SavePagePicture(job, page, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
+  if (!desktop::SavePagePicture(job, page, path)) throw Unplayable{"expected a picture in " + path + ", got none"};
 }
 
 void WidgetPlayer::HelpPicture(const std::string& folder, int topic, const std::string& path) {
   desktop::HelpViewer viewer(folder);
   viewer.Open(topic);
   QApplication::processEvents();
-  if (!desktop::SavePicture(viewer, path)) throw Unplayable{"expected a picture in " + path + ", came none"};
+  if (!desktop::SavePicture(viewer, path)) throw Unplayable{"expected a picture in " + path + ", got none"};
 }
 
 }  // namespace story

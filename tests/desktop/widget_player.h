@@ -28,7 +28,7 @@ class WidgetPlayer final : public Player {
   void HelpPicture(const std::string& folder, int topic, const std::string& path) override;
 
  private:
-  // The widget of a control that can be met with the mouse; nullptr where it cannot.
+  // The part of a control that gets mouse events; nullptr if it is not visible.
   QWidget* FaceOf(const forms::Control& control) const;
   void ClickOn(const std::string& name, bool twice);
   void ChooseFromMenu(const forms::MenuItem& item);
