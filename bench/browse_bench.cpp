@@ -8,11 +8,12 @@
 #include <vector>
 
 #include "app/program.h"
-#include "bench/collection.h"
-#include "bench/film_generator.h"
 #include "bench/measured.h"
-#include "bench/quiet_desk.h"
 #include "desktop/stack_view.h"
+#include "tests/kit/collection.h"
+#include "tests/kit/quiet_desk.h"
+#include "tests/kit/source_tree.h"
+#include "tools/film_generator.h"
 
 namespace {
 
@@ -41,10 +42,10 @@ class Walk {
            });
   }
   frmPage1& Window() { return program_.RecordScreen; }
-  bench::QuietDesk& Desk() { return desk_; }
+  kit::QuietDesk& Desk() { return desk_; }
 
  private:
-  bench::QuietDesk desk_;
+  kit::QuietDesk desk_;
   runtime::RealDisk disk_;
   Program program_;
   std::optional<desktop::StackView> view_;
@@ -97,10 +98,10 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  const bench::Collection collection("reelora_browse_bench");
+  const kit::Collection collection;
   for (std::int64_t films : Sizes) {
-    bench::GenerateFilms(argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat",
-                         (collection.Folder() / "Recpra.Dat").string(), films);
+    tools::GenerateFilms(argc > 1 ? argv[1] : kit::SampleFile().string(), (collection.Folder() / "Recpra.Dat").string(),
+                         films);
     Walk(collection.Folder(), false).Run(&frmPage1::mnuSort_Click);
     std::printf("%lld films\n", static_cast<long long>(films));
     for (bool drawn : {false, true}) {

@@ -10,13 +10,14 @@
 #include <stdexcept>
 
 #include "app/program.h"
-#include "bench/collection.h"
-#include "bench/film_generator.h"
 #include "bench/measured.h"
-#include "bench/quiet_desk.h"
 #include "store/master_file.h"
+#include "tests/kit/collection.h"
+#include "tests/kit/quiet_desk.h"
+#include "tools/film_generator.h"
 #ifdef REELORA_SQLITE
 #include <sqlite3.h>
+#include "tests/kit/source_tree.h"
 #endif
 
 namespace {
@@ -44,13 +45,13 @@ double Grep(const std::string& path) {
 
 // Asks the handler as a user does; the text is in no film, so that the whole file is read and the screen is reset.
 double Search(const std::string& folder, void (frmPage1::*handler)()) {
-  bench::QuietDesk desk;
+  kit::QuietDesk desk;
   runtime::RealDisk disk(folder);
   Program program(desk, disk);
   program.StartRecordScreen();
   desk.NextAnswer = Sought;
   double seconds = bench::Timed([&] { program.Deliver([&] { (program.RecordScreen.*handler)(); }); });
-  if (!desk.Failure.empty()) throw std::runtime_error(desk.Failure);
+  if (!desk.Reported.empty()) throw std::runtime_error(desk.Reported + " " + desk.ReportedFile);
   return seconds;
 }
 
@@ -91,7 +92,7 @@ double ScanTable(const std::string& folder) {
 
 void Compare(const std::string& source, const files::path& folder, std::int64_t films) {
   const std::string path = folder / "Recpra.Dat";
-  bench::GenerateFilms(source, path, films);
+  tools::GenerateFilms(source, path, films);
   auto best = [](auto work) { return bench::Best(Runs, [work] { return std::vector<double>{work()}; }); };
   double read = best([&] { return ReadPlainly(path); }).Seconds();
   double grep = best([&] { return Grep(path); }).Seconds();
@@ -117,10 +118,10 @@ void Compare(const std::string& source, const files::path& folder, std::int64_t 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string source = argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat";
+  const std::string source = argc > 1 ? argv[1] : kit::SampleFile().string();
   std::vector<std::int64_t> sizes;
   for (int index = 2; index < argc; ++index) sizes.push_back(std::atoll(argv[index]));
   if (sizes.empty()) sizes = {32767, 100000, 1000000};
-  const bench::Collection collection("reelora_find_bench");
+  const kit::Collection collection;
   for (std::int64_t films : sizes) Compare(source, collection.Folder(), films);
 }

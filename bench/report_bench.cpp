@@ -10,14 +10,15 @@
 #include <optional>
 
 #include "app/program.h"
-#include "bench/collection.h"
-#include "bench/film_generator.h"
 #include "bench/measured.h"
-#include "bench/quiet_desk.h"
-#include "bench/unsynced_disk.h"
 #include "desktop/page_painter.h"
 #include "desktop/stack_view.h"
 #include "runtime/print_job.h"
+#include "tests/kit/collection.h"
+#include "tests/kit/quiet_desk.h"
+#include "tests/kit/source_tree.h"
+#include "tests/kit/unsynced_disk.h"
+#include "tools/film_generator.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ JobBytes BytesOf(const runtime::PrintJob& job) {
 }
 
 // Keeps the last document, and paints as the desk of the running program does.
-class ReportDesk final : public bench::QuietDesk {
+class ReportDesk final : public kit::QuietDesk {
  public:
   desktop::StackView* View = nullptr;
   std::optional<runtime::PrintJob> Document;
@@ -62,10 +63,11 @@ class ReportDesk final : public bench::QuietDesk {
 
 struct Reports {
   ReportDesk Desk;
-  bench::UnsyncedDisk Disk;
+  runtime::RealDisk Real;
+  kit::UnsyncedDisk Disk{Real};
   Program Running;
 
-  explicit Reports(const std::filesystem::path& folder) : Disk(folder), Running(Desk, Disk) {
+  explicit Reports(const std::filesystem::path& folder) : Real(folder), Running(Desk, Disk) {
     Running.StartRecordScreen();
   }
   double Run(const forms::MenuItem& item) {
@@ -106,9 +108,9 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  const bench::Collection collection("reelora_report_bench");
+  const kit::Collection collection;
   const std::filesystem::path& folder = collection.Folder();
-  bench::GenerateFilms(argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat", folder / "Recpra.Dat", Films);
+  tools::GenerateFilms(argc > 1 ? argv[1] : kit::SampleFile().string(), folder / "Recpra.Dat", Films);
   {
     Reports sorting(folder);
     sorting.Run(sorting.Running.RecordScreen.mnuSort);

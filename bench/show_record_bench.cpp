@@ -7,10 +7,11 @@
 #include <vector>
 
 #include "app/program.h"
-#include "bench/collection.h"
 #include "bench/measured.h"
-#include "bench/quiet_desk.h"
 #include "store/film_codes.h"
+#include "tests/kit/collection.h"
+#include "tests/kit/quiet_desk.h"
+#include "tests/kit/source_tree.h"
 
 namespace {
 
@@ -43,13 +44,13 @@ void CopyTexts(const store::FilmRecord& film, std::size_t number, Texts& texts) 
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::vector<store::FilmRecord> films = LoadFilms(argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat");
+  std::vector<store::FilmRecord> films = LoadFilms(argc > 1 ? argv[1] : kit::SampleFile().string());
   if (films.empty()) {
     std::fprintf(stderr, "no films to show\n");
     return 1;
   }
-  const bench::Collection collection("reelora_show_record_bench");
-  bench::QuietDesk desk;
+  const kit::Collection collection;
+  kit::QuietDesk desk;
   runtime::RealDisk disk(collection.Folder());
   Program program(desk, disk);
   program.StartRecordScreen();

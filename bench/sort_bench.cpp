@@ -11,9 +11,10 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "bench/film_generator.h"
 #include "bench/sort_contestants.h"
 #include "runtime/failure.h"
+#include "tests/kit/source_tree.h"
+#include "tools/film_generator.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ void PrintParts(const bench::Measured& sorted, double films) {
 
 void Measure(const std::string& source, const std::string& folder, std::int64_t films) {
   const int runs = static_cast<int>(std::clamp<std::int64_t>(FilmsInAll / films, 5, 300));
-  bench::GenerateFilms(source, folder + "/Recpra.Dat", films);
+  tools::GenerateFilms(source, folder + "/Recpra.Dat", films);
   std::printf("%lld films\n", static_cast<long long>(films));
   bench::Measured read = bench::BestInOne(runs, [&] { return bench::ReadMaster(folder); });
   Print("(a) plain read of the master file", read, read.Seconds());
@@ -78,7 +79,7 @@ int main(int argc, char** argv) {
     fs::path folder = fs::path(argv[2]) / "sort_bench";
     fs::remove_all(folder);
     fs::create_directories(folder);
-    fs::copy(fs::path(REELORA_DELIVERED) / "UPPER.ALT", folder);
+    fs::copy(kit::DeliveredFolder() / "UPPER.ALT", folder);
     for (int argument = 3; argument < argc; ++argument) Measure(argv[1], folder.string(), Number(argv[argument]));
     fs::remove_all(folder);
     return 0;

@@ -6,11 +6,11 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "bench/unsynced_disk.h"
 #include "runtime/whole_io.h"
 #include "sort/operation.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
+#include "tests/kit/unsynced_disk.h"
 
 namespace bench {
 namespace {
@@ -63,7 +63,7 @@ std::vector<double> ReadMaster(const std::string& folder) {
 
 std::vector<double> SortPasses(const std::string& folder, bool synced) {
   runtime::RealDisk real(folder);
-  UnsyncedDisk unsynced(folder);
+  kit::UnsyncedDisk unsynced(real);
   return SortPassesOn(synced ? static_cast<Disk&>(real) : unsynced);
 }
 

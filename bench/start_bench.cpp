@@ -13,12 +13,13 @@
 #include <stdexcept>
 
 #include "app/program.h"
-#include "bench/collection.h"
-#include "bench/film_generator.h"
 #include "bench/measured.h"
 #include "desktop/application_look.h"
 #include "desktop/qt_desk.h"
 #include "desktop/stack_view.h"
+#include "tests/kit/collection.h"
+#include "tests/kit/source_tree.h"
+#include "tools/film_generator.h"
 
 namespace {
 
@@ -90,7 +91,7 @@ void Compare(const std::string& source, const std::filesystem::path& folder) {
   const bench::Measured plain = Start("--plain", folder);
   std::printf("200 plain widgets      %6.1f ms, %.1f MiB\n", plain.Parts[0] * 1e3, plain.Parts[1]);
   for (std::int64_t films : {100, 3200, 100000}) {
-    bench::GenerateFilms(source, folder / "Recpra.Dat", films);
+    tools::GenerateFilms(source, folder / "Recpra.Dat", films);
     const bench::Measured ours = Start("--program", folder);
     std::printf("program, %7lld films  %6.1f ms, %.1f MiB; ratios %.2f and %.2f (goal: at most 1.5)\n",
                 static_cast<long long>(films), ours.Parts[0] * 1e3, ours.Parts[1], ours.Parts[0] / plain.Parts[0],
@@ -102,11 +103,11 @@ void Compare(const std::string& source, const std::filesystem::path& folder) {
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const std::string first = argc > 1 ? argv[1] : REELORA_DELIVERED "/sample/Recpra.Dat";
+  const std::string first = argc > 1 ? argv[1] : kit::SampleFile().string();
   if (first == "--plain" || first == "--program") {
     int status = first == "--plain" ? StartPlain(argc, argv) : StartProgram(argc, argv, argv[2]);
     return status;
   }
-  const bench::Collection collection("reelora_start_bench");
+  const kit::Collection collection;
   Compare(first, collection.Folder());
 }

@@ -1,28 +1,61 @@
-// film_generator SOURCE TARGET N: writes a master file of N films made from those of the source.
-#include <charconv>
-#include <cstring>
-#include <iostream>
+// A numbered title keeps its width: its end gives way to the number.
+#include "tools/film_generator.h"
 
-#include "bench/film_generator.h"
-#include "runtime/failure.h"
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+#include <vector>
 
-int main(int argc, char** argv) {
-  std::int64_t count = 0;
-  bool readable = argc == 4;
-  if (readable) {
-    const char* end = argv[3] + std::strlen(argv[3]);
-    auto [stop, error] = std::from_chars(argv[3], end, count);
-    readable = error == std::errc() && stop == end && count >= 0;
-  }
-  if (!readable) {
-    std::cerr << "usage: film_generator SOURCE TARGET N\n";
-    return 2;
-  }
-  try {
-    bench::GenerateFilms(argv[1], argv[2], count);
-  } catch (const runtime::Failure& failure) {
-    std::cerr << failure.Name << ": " << failure.File << "\n";
-    return 1;
-  }
-  return 0;
+#include "runtime/text.h"
+#include "runtime/whole_io.h"
+#include "store/film_record.h"
+
+namespace tools {
+namespace {
+
+namespace fs = std::filesystem;
+using store::FilmField;
+
+constexpr std::size_t FilmsInBlock = 4096;
+
+std::vector<store::FilmRecord> ReadFilms(const fs::path& path) {
+  runtime::RealDisk disk(path.parent_path().string());
+  runtime::OpenFile file(disk, path.filename().string(), runtime::Disk::Mode::Read);
+  std::vector<store::FilmRecord> films(static_cast<std::size_t>(file.Length()) / store::RecordLength);
+  if (films.empty()) throw runtime::Failure{runtime::InputPastEnd, path.string()};
+  file.Read(films.front().Bytes.data(), films.size() * store::RecordLength, 0);
+  return films;
 }
+
+void NumberTitle(store::FilmRecord& film, std::int64_t round) {
+  std::string number = runtime::NumberText(round);
+  std::string_view title = runtime::Trim(film.Get(FilmField::Title));
+  std::size_t room = static_cast<std::size_t>(store::RowOf(FilmField::Title).Width) - number.size();
+  film.Set(FilmField::Title, std::string(title.substr(0, room)) + number);
+}
+
+}  // namespace
+
+void GenerateFilms(const std::string& source_path, const std::string& target_path, std::int64_t count) {
+  const std::vector<store::FilmRecord> films = ReadFilms(fs::absolute(source_path));
+  const fs::path target = fs::absolute(target_path);
+  runtime::RealDisk disk(target.parent_path().string());
+  runtime::OpenFile file(disk, target.filename().string(), runtime::Disk::Mode::Create);
+  file.Truncate(0);
+  std::vector<store::FilmRecord> block;
+  std::int64_t offset = 0;
+  for (std::int64_t number = 0; number < count; ++number) {
+    auto at = static_cast<std::size_t>(number) % films.size();
+    block.push_back(films[at]);
+    std::int64_t round = number / static_cast<std::int64_t>(films.size()) + 1;
+    if (round > 1) NumberTitle(block.back(), round);
+    if (block.size() < FilmsInBlock && number + 1 < count) continue;
+    std::string_view bytes(block.front().Bytes.data(), block.size() * store::RecordLength);
+    file.Write(bytes, offset);
+    offset += static_cast<std::int64_t>(bytes.size());
+    block.clear();
+  }
+  file.Sync();
+}
+
+}  // namespace tools

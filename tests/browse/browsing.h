@@ -9,11 +9,12 @@
 #include <vector>
 
 #include "app/program.h"
-#include "bench/quiet_desk.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/quiet_desk.h"
+#include "tests/kit/source_tree.h"
 #include "tests/story/set_up.h"
 
-class BrowsingDesk final : public bench::QuietDesk {
+class BrowsingDesk final : public kit::QuietDesk {
  public:
   // What is typed into every input box.
   std::string Typed;
@@ -21,14 +22,12 @@ class BrowsingDesk final : public bench::QuietDesk {
   std::function<void()> Watch = [] {};
   // The texts of the message boxes; "beep" for a beep.
   std::vector<std::string> Shown;
-  std::string Reported;
 
   std::string InputBox(std::string_view, std::string_view) override {
     Watch();
     return Typed;
   }
   void Beep() override { Shown.emplace_back("beep"); }
-  void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
 
  private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
@@ -40,7 +39,7 @@ class BrowsingDesk final : public bench::QuietDesk {
 
 class BrowsingTest : public testing::Test {
  protected:
-  BrowsingTest() : world{fresh.Path()} { story::LayOutFolder(world, REELORA_SOURCE "/delivered"); }
+  BrowsingTest() : world{fresh.Path()} { story::LayOutFolder(world, kit::DeliveredFolder()); }
 
   void SetUpLine(std::string_view line) { story::SetUp(world, story::ParseLine(line, 1), fresh.Path()); }
   frmPage1& Start() {
@@ -56,7 +55,7 @@ class BrowsingTest : public testing::Test {
     program->Deliver([&] { program->RecordScreen.UserClick(control); });
   }
 
-  story::FreshFolder fresh;
+  kit::FreshFolder fresh;
   story::World world;
   BrowsingDesk desk;
   std::optional<runtime::RealDisk> disk;

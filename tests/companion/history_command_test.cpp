@@ -9,7 +9,7 @@
 #include "runtime/files.h"
 #include "runtime/folder_lock.h"
 #include "store/master_file.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/story/world.h"
 
 namespace companion {
@@ -56,7 +56,7 @@ class HistoryCommand : public testing::Test {
     return lines;
   }
 
-  story::FreshFolder Folder;
+  kit::FreshFolder Folder;
   runtime::RealDisk Disk{Folder.Path().string()};
   std::ostringstream Out, Complaints;
 };

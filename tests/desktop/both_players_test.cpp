@@ -7,8 +7,9 @@
 #include <sstream>
 
 #include "tests/desktop/widget_player.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/source_tree.h"
 #include "tests/story/bare_player.h"
-#include "tests/story/fresh_folder.h"
 #include "tests/story/set_up.h"
 
 namespace story {
@@ -75,7 +76,7 @@ struct PlayedProgram {
   template <typename AnyPlayer>
   PlayedProgram(const AnyPlayer*, const Collection& collection, bool as_delivered) {
     World world{Folder.Path()};
-    LayOutFolder(world, REELORA_DELIVERED);
+    LayOutFolder(world, kit::DeliveredFolder());
     if (as_delivered) {
       for (const char* name : {"AutoSave", "AutoSort", "Fo1"}) WriteBytes(Folder.Path() / name, "YES\r\n");
     }
@@ -110,7 +111,7 @@ struct PlayedProgram {
     return seen;
   }
 
-  FreshFolder Folder;
+  kit::FreshFolder Folder;
   LoggingDesk Desk;
   runtime::RealDisk Disk{Folder.Path().string()};
   Program Running{Desk, Disk};

@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 
 #include "desktop/help_page.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/story/world.h"
 
 namespace desktop {
@@ -29,7 +29,7 @@ struct Viewer : testing::Test {
     QApplication::sendEvent(&widget, &press);
   }
 
-  story::FreshFolder Folder;
+  kit::FreshFolder Folder;
   HelpViewer Window{Folder.Path().string()};
 };
 

@@ -5,7 +5,8 @@
 #include <QLabel>
 
 #include "tests/desktop/widget_player.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/source_tree.h"
 #include "tests/story/planned_desk.h"
 #include "tests/story/set_up.h"
 
@@ -15,7 +16,7 @@ namespace {
 class Layout : public testing::TestWithParam<int> {
  protected:
   Layout() {
-    LayOutFolder(world_, REELORA_DELIVERED);
+    LayOutFolder(world_, kit::DeliveredFolder());
     program_.StartRecordScreen();
     view_.Sync();
     QWidget& surface = Form().Surface();
@@ -67,7 +68,7 @@ class Layout : public testing::TestWithParam<int> {
     return "?";
   }
 
-  FreshFolder fresh_;
+  kit::FreshFolder fresh_;
   World world_{fresh_.Path()};
   PlannedDesk desk_{world_};
   runtime::RealDisk disk_{fresh_.Path().string()};

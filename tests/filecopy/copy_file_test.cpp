@@ -5,14 +5,14 @@
 
 #include "runtime/clock.h"
 #include "runtime/failure.h"
-#include "tests/safety/faulty_disk.h"
+#include "tests/kit/faulty_disk.h"
 
 namespace {
 
-using safety::Fault;
-using safety::FaultyDisk;
-using safety::Folder;
-using safety::MemoryDisk;
+using kit::Fault;
+using kit::FaultyDisk;
+using kit::Folder;
+using kit::MemoryDisk;
 
 const std::string Name = "Recpra.Dat";
 const std::string Old(1500, 'o');
@@ -28,7 +28,7 @@ Outcome Copy(runtime::Disk& source, runtime::Disk& target) {
     filecopy::CopyFile(source, Name, target, Name);
   } catch (const runtime::Failure&) {
     return Outcome::Failed;
-  } catch (const safety::Killed&) {
+  } catch (const kit::Killed&) {
     return Outcome::Killed;
   }
   return Outcome::Done;

@@ -7,21 +7,21 @@
 #include <ctime>
 
 #include "app/program.h"
-#include "tests/filecopy/answering_desk.h"
-#include "tests/safety/faulty_disk.h"
-#include "tests/safety/films.h"
-#include "tests/safety/passing_disk.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/answering_desk.h"
+#include "tests/kit/faulty_disk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/passing_disk.h"
 
 namespace {
 
-using safety::Folder;
-using safety::MemoryDisk;
+using kit::Folder;
+using kit::MemoryDisk;
 
 constexpr std::string_view NoDisk =
     "There is no disk in floppy drive, or wrong drive was selected. Insert disk and click ok.";
 
-class TimedDisk final : public safety::PassingDisk {
+class TimedDisk final : public kit::PassingDisk {
  public:
   TimedDisk(runtime::Disk& below, std::int64_t modified) : PassingDisk(below), modified_(modified) {}
   std::int64_t Modified(const std::string&) override { return modified_; }
@@ -59,11 +59,11 @@ struct CopyWindow : testing::Test {
   }
 
   std::int64_t FloppyTime = Moment(std::chrono::year(1999) / 12 / 31, 23, 59);
-  MemoryDisk Hard{safety::FolderOfFilms(2)};
+  MemoryDisk Hard{kit::FolderOfFilms(2)};
   TimedDisk HardWithTimes{Hard, Moment(std::chrono::year(2026) / 11 / 21, 5, 30)};
   MemoryDisk Floppy{Folder()};
   runtime::Disk* OnFloppy = &Floppy;
-  AnsweringDesk Desk;
+  kit::AnsweringDesk Desk;
   Program Running{Desk, HardWithTimes};
 };
 
@@ -107,7 +107,7 @@ TEST_F(CopyWindow, ADriveWithoutItsColonIsTheSameDrive) {
 
 TEST_F(CopyWindow, AFullDiskLeavesTheOldFileAndAnotherTry) {
   MemoryDisk below(Folder{{"Recpra.Dat", "old"}});
-  safety::FaultyDisk full(below, {safety::Fault::Full, 4, true});
+  kit::FaultyDisk full(below, {kit::Fault::Full, 4, true});
   OnFloppy = &full;
   OpenAndChoose("Recpra.Dat");
   Pick(Running.Copy.Drive1, "a:");
@@ -127,7 +127,7 @@ TEST_F(CopyWindow, AFullDiskLeavesTheOldFileAndAnotherTry) {
 }
 
 TEST_F(CopyWindow, ADiskThatCannotBeReadGivesTheWarning) {
-  safety::FaultyDisk broken(Floppy, {safety::Fault::Error, 0, true});
+  kit::FaultyDisk broken(Floppy, {kit::Fault::Error, 0, true});
   OnFloppy = &broken;
   OpenAndChoose("Recpra.Dat");
   Pick(Running.Copy.Drive1, "a:");
@@ -150,10 +150,10 @@ TEST_F(CopyWindow, AFileChosenWithTheFileListSetsDriveA) {
 }
 
 TEST(CopyWindowFolders, AFolderThatChangesTakesItsFileListAlong) {
-  story::FreshFolder folder;
+  kit::FreshFolder folder;
   runtime::RealDisk disk(folder.Path().string());
-  for (const auto& [name, bytes] : safety::FolderOfFilms(1)) {
-    std::string parent = safety::FolderOf(name);
+  for (const auto& [name, bytes] : kit::FolderOfFilms(1)) {
+    std::string parent = kit::FolderOf(name);
     if (!parent.empty()) disk.MakeFolder(parent);
     int handle = disk.Open(name, runtime::Disk::Mode::Create);
     disk.WriteAt(handle, bytes.data(), bytes.size(), 0);
@@ -162,7 +162,7 @@ TEST(CopyWindowFolders, AFolderThatChangesTakesItsFileListAlong) {
   ASSERT_EQ(disk.MakeFolder("older"), 0);
   ASSERT_EQ(disk.MakeFolder("folder.dat"), 0);
   disk.Close(disk.Open("older/Kept.dat", runtime::Disk::Mode::Create));
-  AnsweringDesk desk;
+  kit::AnsweringDesk desk;
   Program program(desk, disk);
   program.StartRecordScreen();
   program.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.mnuCopy); });

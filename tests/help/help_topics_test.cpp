@@ -10,8 +10,9 @@
 
 #include "app/program.h"
 #include "help/help_file.h"
-#include "tests/filecopy/answering_desk.h"
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/answering_desk.h"
+#include "tests/kit/memory_disk.h"
+#include "tests/kit/source_tree.h"
 
 namespace {
 
@@ -23,16 +24,15 @@ std::string ReadWhole(const std::filesystem::path& path) {
 }
 
 help::HelpFile DeliveredHelp() {
-  return help::ParseHelp(
-      ReadWhole(std::filesystem::path(REELORA_SOURCE) / "delivered" / std::string(help::HelpFileName)));
+  return help::ParseHelp(ReadWhole(kit::DeliveredFolder() / std::string(help::HelpFileName)));
 }
 
 // Who asks for a topic, by its number.
 using Askers = std::map<int, std::string>;
 
 Askers AskedByControls() {
-  safety::MemoryDisk disk(safety::Folder{});
-  AnsweringDesk desk;
+  kit::MemoryDisk disk(kit::Folder{});
+  kit::AnsweringDesk desk;
   Program program(desk, disk);
   Askers askers;
   for (const forms::Window* window : program.Windows.All()) {
@@ -50,7 +50,7 @@ Askers AskedByHandlers() {
   Askers askers;
   const std::regex number("[1-9][0-9]*");
   for (const char* folder : {"screen", "browse", "find", "reports", "prefs", "filecopy", "opening"}) {
-    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(REELORA_SOURCE) / folder)) {
+    for (const auto& entry : std::filesystem::directory_iterator(kit::SourceFolder() / folder)) {
       std::istringstream code(ReadWhole(entry.path()));
       for (std::string line; std::getline(code, line);) {
         std::size_t set = line.find("HelpContext = ");

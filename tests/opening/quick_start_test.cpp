@@ -2,19 +2,19 @@
 #include <gtest/gtest.h>
 
 #include "app/program.h"
-#include "tests/filecopy/answering_desk.h"
-#include "tests/safety/films.h"
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/answering_desk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/memory_disk.h"
 
 namespace {
 
 TEST(QuickStart, AFlagFileThatCannotBeReadIsMadeWithYes) {
   for (const char* content : {"missing", ""}) {
-    safety::Folder folder = safety::FolderOfFilms(1);
+    kit::Folder folder = kit::FolderOfFilms(1);
     folder.erase("Fo1");
     if (*content == '\0') folder["Fo1"] = content;
-    safety::MemoryDisk disk(folder);
-    AnsweringDesk desk;
+    kit::MemoryDisk disk(folder);
+    kit::AnsweringDesk desk;
     Program program(desk, disk);
     program.Deliver([&] { program.QuickStart.Show(); });
     EXPECT_EQ(disk.Content().at("Fo1"), "YES\r\n");
@@ -24,8 +24,8 @@ TEST(QuickStart, AFlagFileThatCannotBeReadIsMadeWithYes) {
 }
 
 TEST(QuickStart, StartClosesTheKeyFileAndEndsTheEdit) {
-  safety::MemoryDisk disk(safety::FolderOfFilms(1));
-  AnsweringDesk desk;
+  kit::MemoryDisk disk(kit::FolderOfFilms(1));
+  kit::AnsweringDesk desk;
   Program program(desk, disk);
   program.StartOpener();
   program.RecordScreen.EditMode = 1;

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "app/program.h"
-#include "tests/filecopy/answering_desk.h"
-#include "tests/safety/films.h"
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/answering_desk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/memory_disk.h"
 
 namespace {
 
@@ -17,8 +17,8 @@ struct ColourMenu : testing::Test {
     Running.Deliver([&] { Running.RecordScreen.UserClick(item); });
   }
 
-  safety::MemoryDisk Disk{safety::FolderOfFilms(1)};
-  AnsweringDesk Desk;
+  kit::MemoryDisk Disk{kit::FolderOfFilms(1)};
+  kit::AnsweringDesk Desk;
   Program Running{Desk, Disk};
   frmPage1& Window = Running.RecordScreen;
 };

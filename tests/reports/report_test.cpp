@@ -5,53 +5,47 @@
 #include <map>
 
 #include "app/program.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/quiet_desk.h"
+#include "tests/kit/source_tree.h"
 #include "tests/story/set_up.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// Answers Yes; each look at the clock is a second later.
-class ReportDesk final : public forms::Desk {
+// Each look at the clock is a second later.
+class ReportDesk final : public kit::QuietDesk {
  public:
   bool PrinterFails = false;
   std::optional<runtime::PrintJob> Document;
   std::vector<std::string> Boxes;
-  std::string Reported;
   std::vector<std::string> Painted;
   std::function<std::string()> Seen = [] { return std::string(); };
 
-  std::string InputBox(std::string_view, std::string_view) override { return "Smith"; }
-  void Beep() override {}
-  std::optional<std::uint32_t> ColourDialog(std::uint32_t) override { return std::nullopt; }
-  void PrinterDialog() override {}
   void Print(const runtime::PrintJob& job) override {
     if (PrinterFails) throw runtime::Failure{runtime::PrinterError, ""};
     Document = job;
   }
-  void Help(int) override {}
   std::chrono::local_seconds Now() override { return now_ += std::chrono::seconds(1); }
-  std::string DriveLetters() override { return ""; }
-  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
   void Repaint() override { Painted.push_back(Seen()); }
-  void RepaintNow() override {}
-  void Closed() override {}
-  void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
-
- protected:
-  forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
-    Boxes.emplace_back(text);
-    return buttons == forms::Buttons::YesNo ? forms::Answer::Yes : forms::Answer::Ok;
-  }
 
  private:
+  forms::Answer AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
+                              forms::Buttons buttons) override {
+    Boxes.emplace_back(text);
+    return QuietDesk::AskMessageBox(icon, title, text, buttons);
+  }
+
   std::chrono::local_seconds now_;
 };
 
 class ReportTest : public testing::Test {
  protected:
-  ReportTest() : world{fresh.Path()} { story::LayOutFolder(world, REELORA_SOURCE "/delivered"); }
+  ReportTest() : world{fresh.Path()} {
+    desk.NextAnswer = "Smith";
+    story::LayOutFolder(world, kit::DeliveredFolder());
+  }
 
   void SetUpLine(std::string_view line) { story::SetUp(world, story::ParseLine(line, 1), fresh.Path()); }
   void Start() {
@@ -69,7 +63,7 @@ class ReportTest : public testing::Test {
     return files;
   }
 
-  story::FreshFolder fresh;
+  kit::FreshFolder fresh;
   story::World world;
   ReportDesk desk;
   std::optional<runtime::RealDisk> disk;

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/story/world.h"
 
 namespace runtime {
@@ -30,7 +30,7 @@ class FilesTest : public testing::Test {
     return "";
   }
 
-  story::FreshFolder fresh;
+  kit::FreshFolder fresh;
   RealDisk disk{fresh.Path().string()};
   Files files{disk};
 };

@@ -5,13 +5,13 @@
 
 #include <filesystem>
 
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
 
 namespace runtime {
 namespace {
 
 TEST(FolderLock, HoldsTheFolderAgainstASecondRunUntilItGoes) {
-  story::FreshFolder folder;
+  kit::FreshFolder folder;
   {
     FolderLock first(folder.Path().string());
     EXPECT_TRUE(first.Held());
@@ -21,7 +21,7 @@ TEST(FolderLock, HoldsTheFolderAgainstASecondRunUntilItGoes) {
 }
 
 TEST(FolderLock, LiesInTheFoldersOwnSubfolder) {
-  story::FreshFolder folder;
+  kit::FreshFolder folder;
   FolderLock lock(folder.Path().string());
   EXPECT_TRUE(std::filesystem::exists(folder.Path() / ".reelora/lock"));
 }

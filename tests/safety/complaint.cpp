@@ -7,7 +7,7 @@
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/kit/passing_disk.h"
 #include "tests/safety/steps.h"
 
 namespace safety {
@@ -24,8 +24,8 @@ bool StandsIn(std::string_view history, std::string_view record) {
 }
 
 // The first film of before that is neither in its slot nor in the history, as a complaint.
-std::string FilmLost(const Folder& before, const Folder& found) {
-  auto contents = [](const Folder& folder, const std::string& name) {
+std::string FilmLost(const kit::Folder& before, const kit::Folder& found) {
+  auto contents = [](const kit::Folder& folder, const std::string& name) {
     auto file = folder.find(name);
     return file == folder.end() ? std::string() : file->second;
   };
@@ -42,27 +42,28 @@ std::string FilmLost(const Folder& before, const Folder& found) {
 
 }  // namespace
 
-Folder Visible(const Folder& content) {
-  Folder visible;
+kit::Folder Visible(const kit::Folder& content) {
+  kit::Folder visible;
   std::copy_if(content.begin(), content.end(), std::inserter(visible, visible.end()),
-               [](const auto& file) { return FolderOf(file.first).empty(); });
+               [](const auto& file) { return kit::FolderOf(file.first).empty(); });
   return visible;
 }
 
 std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
   if (fit) return fit(below);
-  return std::make_unique<PassingDisk>(below);
+  return std::make_unique<kit::PassingDisk>(below);
 }
 
-std::string Complaint(MemoryDisk& disk, const std::vector<Folder>& allowed, const Folder& before, const Fitting& fit) {
+std::string Complaint(kit::MemoryDisk& disk, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
+                      const Fitting& fit) {
   std::unique_ptr<runtime::Disk> fitted = Fitted(disk, fit);
   Running run(*fitted);
   if (run.Program.Stopped()) {
     const runtime::Failure& failure = *run.Program.Stopped();
     return "the start stops: " + std::string(failure.Name) + ", " + failure.File;
   }
-  Folder found = disk.Content();
-  Folder visible = Visible(found);
+  kit::Folder found = disk.Content();
+  kit::Folder visible = Visible(found);
   if (std::find(allowed.begin(), allowed.end(), visible) != allowed.end())
     return FilmLost(before, found) + FilmLost(allowed.front(), found);
   std::string complaint = "a folder that is neither the old one nor the new one:";
@@ -73,9 +74,9 @@ std::string Complaint(MemoryDisk& disk, const std::vector<Folder>& allowed, cons
   return complaint;
 }
 
-std::string Complaint(const Folder& found, const std::vector<Folder>& allowed, const Folder& before,
+std::string Complaint(const kit::Folder& found, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
                       const Fitting& fit) {
-  MemoryDisk disk(found);
+  kit::MemoryDisk disk(found);
   return Complaint(disk, allowed, before, fit);
 }
 

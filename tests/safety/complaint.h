@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 
 namespace safety {
 
 // The folder without the safety folder.
-Folder Visible(const Folder& content);
+kit::Folder Visible(const kit::Folder& content);
 
 // Makes what stands between a run of the program and the disk below; no function: nothing does.
 using Fitting = std::function<std::unique_ptr<runtime::Disk>(runtime::Disk&)>;
@@ -20,10 +20,10 @@ std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit);
 // Starts the program on the disk, which stays as the start leaves it, and tells what is wrong: it does not start, the
 // folder is none of those allowed, or a film of the folder before, or of the first one allowed, is neither in its slot
 // nor in the history. "" where nothing is.
-std::string Complaint(MemoryDisk& disk, const std::vector<Folder>& allowed, const Folder& before,
+std::string Complaint(kit::MemoryDisk& disk, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
                       const Fitting& fit = {});
 // The same for a folder that was found.
-std::string Complaint(const Folder& found, const std::vector<Folder>& allowed, const Folder& before,
+std::string Complaint(const kit::Folder& found, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
                       const Fitting& fit = {});
 
 }  // namespace safety

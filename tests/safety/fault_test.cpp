@@ -7,9 +7,9 @@
 #include "runtime/text.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
+#include "tests/kit/faulty_disk.h"
+#include "tests/kit/films.h"
 #include "tests/safety/complaint.h"
-#include "tests/safety/faulty_disk.h"
-#include "tests/safety/films.h"
 #include "tests/safety/played.h"
 #include "tests/safety/power_loss.h"
 #include "tests/safety/road.h"
@@ -20,22 +20,22 @@ namespace {
 // Failure: what the program has to report; "" where the fault is to remain unseen.
 struct FaultRow {
   std::string Name;
-  Fault As;
+  kit::Fault As;
   bool FromThenOn;
   std::string_view Failure;
 };
 const FaultRow Faults[] = {
-    {"disk full", Fault::Full, false, runtime::DiskFull},
-    {"disk full from then on", Fault::Full, true, runtime::DiskFull},
-    {"error", Fault::Error, false, runtime::DeviceError},
-    {"error from then on", Fault::Error, true, runtime::DeviceError},
-    {"refused", Fault::Refused, false, runtime::PathError},
-    {"refused from then on", Fault::Refused, true, runtime::PathError},
-    {"half a write, then disk full", Fault::ShortThenFull, false, runtime::DiskFull},
-    {"half a write, then disk full from then on", Fault::ShortThenFull, true, runtime::DiskFull},
-    {"interrupted", Fault::Interrupted, false, ""},
-    {"short", Fault::Short, false, ""},
-    {"short from then on", Fault::Short, true, ""},
+    {"disk full", kit::Fault::Full, false, runtime::DiskFull},
+    {"disk full from then on", kit::Fault::Full, true, runtime::DiskFull},
+    {"error", kit::Fault::Error, false, runtime::DeviceError},
+    {"error from then on", kit::Fault::Error, true, runtime::DeviceError},
+    {"refused", kit::Fault::Refused, false, runtime::PathError},
+    {"refused from then on", kit::Fault::Refused, true, runtime::PathError},
+    {"half a write, then disk full", kit::Fault::ShortThenFull, false, runtime::DiskFull},
+    {"half a write, then disk full from then on", kit::Fault::ShortThenFull, true, runtime::DiskFull},
+    {"interrupted", kit::Fault::Interrupted, false, ""},
+    {"short", kit::Fault::Short, false, ""},
+    {"short from then on", kit::Fault::Short, true, ""},
 };
 
 // The films that the screen shows, one after the other, are those of the master file.
@@ -48,21 +48,21 @@ void ExpectFilmsOnScreen(Program& program, const std::string& master) {
 }
 
 // The next start shows what is there, and the next film can be saved.
-void ExpectGoesOn(MemoryDisk& memory) {
+void ExpectGoesOn(kit::MemoryDisk& memory) {
   std::string master = memory.Content().at(std::string(store::MasterFileName));
   Running run(memory);
   ExpectFilmsOnScreen(run.Program, master);
   run.Program.Deliver([&] { run.Program.RecordScreen.cmdReset_Click(); });
   EditFilm(1, 9)(run.Program);
   ASSERT_FALSE(run.Program.Stopped());
-  master.replace(0, std::min<std::size_t>(master.size(), store::RecordLength), FilmBytes(1, 9));
+  master.replace(0, std::min<std::size_t>(master.size(), store::RecordLength), kit::FilmBytes(1, 9));
   ASSERT_EQ(memory.Content().at(std::string(store::MasterFileName)), master);
 }
 
 class EveryCall : public testing::TestWithParam<std::size_t> {
  protected:
   const Road& Walked = Roads()[GetParam()];
-  std::vector<std::vector<Folder>> Allowed = Stations(Walked);
+  std::vector<std::vector<kit::Folder>> Allowed = Stations(Walked);
   std::size_t Calls = CallsOf(Walked);
 };
 
@@ -70,8 +70,8 @@ TEST_P(EveryCall, FailsNamedAndLeavesTheOldOrTheNew) {
   for (const FaultRow& fault : Faults) {
     for (std::size_t at = 0; at < Calls; ++at) {
       SCOPED_TRACE(Walked.Name + ", " + fault.Name + " at call " + std::to_string(at));
-      MemoryDisk memory(Walked.Before);
-      FaultyDisk faulty(memory, {fault.As, at, fault.FromThenOn});
+      kit::MemoryDisk memory(Walked.Before);
+      kit::FaultyDisk faulty(memory, {fault.As, at, fault.FromThenOn});
       Played played = Play(Walked, faulty);
       if (played.Stopped) {
         ASSERT_FALSE(fault.Failure.empty()) << "stopped by " << played.Stopped->Name;
@@ -88,16 +88,16 @@ TEST_P(EveryCall, FailsNamedAndLeavesTheOldOrTheNew) {
 
 // What a failing write has begun is taken back before the program stops.
 TEST_P(EveryCall, LeavesNoMixtureBehindWhenItFailsOnce) {
-  for (Fault fault : {Fault::Full, Fault::Error, Fault::ShortThenFull})
+  for (kit::Fault fault : {kit::Fault::Full, kit::Fault::Error, kit::Fault::ShortThenFull})
     EXPECT_EQ(TakeBackComplaint(Walked, fault), "") << Walked.Name;
 }
 
 TEST_P(EveryCall, MayBeTheLastBeforeAKill) {
-  for (Fault fault : {Fault::Kill, Fault::KillHalfway}) {
+  for (kit::Fault fault : {kit::Fault::Kill, kit::Fault::KillHalfway}) {
     for (std::size_t at = 0; at < Calls; ++at) {
       SCOPED_TRACE(Walked.Name + ", killed at call " + std::to_string(at));
-      MemoryDisk memory(Walked.Before);
-      FaultyDisk faulty(memory, {fault, at});
+      kit::MemoryDisk memory(Walked.Before);
+      kit::FaultyDisk faulty(memory, {fault, at});
       Played played = Play(Walked, faulty);
       ASSERT_TRUE(played.Killed);
       ASSERT_EQ(Complaint(memory, Allowed[played.Steps], Walked.Before), "");

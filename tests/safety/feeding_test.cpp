@@ -6,8 +6,8 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/safety/films.h"
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/memory_disk.h"
 #include "tests/safety/steps.h"
 
 namespace safety {
@@ -32,9 +32,9 @@ void Look(Program& program, int steps) {
 
 // Starts on a master file of these bytes, goes forth and back.
 void ExpectOnlyRead(const std::string& master) {
-  Folder folder = FolderOfFilms(0);
+  kit::Folder folder = kit::FolderOfFilms(0);
   folder[Master] = master;
-  MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   Running run(disk);
   Look(run.Program, static_cast<int>(std::min<std::size_t>(master.size() / store::RecordLength, 6)) + 2);
   ASSERT_FALSE(run.Program.Stopped()) << run.Program.Stopped()->Name;
@@ -44,7 +44,7 @@ void ExpectOnlyRead(const std::string& master) {
 
 TEST(Feeding, AMasterFileOfEveryLengthUpToThreeRecords) {
   std::mt19937 random(1);
-  std::string films = FilmBytes(1, 0) + FilmBytes(2, 0) + FilmBytes(3, 0);
+  std::string films = kit::FilmBytes(1, 0) + kit::FilmBytes(2, 0) + kit::FilmBytes(3, 0);
   for (std::size_t length = 0; length <= films.size(); ++length) {
     SCOPED_TRACE(length);
     ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(films.substr(0, length)));
@@ -64,9 +64,9 @@ TEST(Feeding, AMasterFileOfAThousandRandomLengths) {
 class FedSmallFile : public testing::TestWithParam<const char*> {
  protected:
   void ExpectStartOrNamedFailure(const std::string& content) {
-    Folder folder = FolderOfFilms(3);
+    kit::Folder folder = kit::FolderOfFilms(3);
     folder[GetParam()] = content;
-    MemoryDisk disk(folder);
+    kit::MemoryDisk disk(folder);
     Running run(disk);
     Look(run.Program, 2);
     if (run.Program.Stopped()) {
@@ -82,7 +82,7 @@ class FedSmallFile : public testing::TestWithParam<const char*> {
 
 TEST_P(FedSmallFile, OfEveryLength) {
   std::mt19937 random(3);
-  const std::string delivered = FolderOfFilms(0).at(GetParam());
+  const std::string delivered = kit::FolderOfFilms(0).at(GetParam());
   for (std::size_t length = 0; length <= 300; ++length) {
     SCOPED_TRACE(length);
     std::string repeated;
@@ -94,9 +94,9 @@ TEST_P(FedSmallFile, OfEveryLength) {
 }
 
 TEST_P(FedSmallFile, ThatIsMissing) {
-  Folder folder = FolderOfFilms(3);
+  kit::Folder folder = kit::FolderOfFilms(3);
   folder.erase(GetParam());
-  MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   Running run(disk);
   ASSERT_TRUE(run.Program.Stopped());
   EXPECT_EQ(run.Program.Stopped()->Name, runtime::FileNotFound);

@@ -6,25 +6,11 @@
 
 #include "runtime/files.h"
 #include "runtime/whole_io.h"
-#include "tests/safety/memory_disk.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/kit/memory_disk.h"
+#include "tests/kit/refusing_disk.h"
 
 namespace safety {
 namespace {
-
-// Refuses what it is told to refuse.
-class RefusingDisk final : public PassingDisk {
- public:
-  using PassingDisk::PassingDisk;
-  int Open(const std::string& name, Mode mode) override { return NoOpen ? -EACCES : PassingDisk::Open(name, mode); }
-  std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
-    if (!NoRead) return PassingDisk::ReadAt(handle, target, count, offset);
-    std::fill_n(target, count, '!');
-    return -EIO;
-  }
-  bool NoOpen = false;
-  bool NoRead = false;
-};
 
 class FilesByNumber : public testing::Test {
  protected:
@@ -34,8 +20,8 @@ class FilesByNumber : public testing::Test {
     return target;
   }
 
-  MemoryDisk Memory{Folder{{"Data", "aaaabbbbccccdddd"}, {".reelora/Other.new", "left"}}};
-  RefusingDisk Disk{Memory};
+  kit::MemoryDisk Memory{kit::Folder{{"Data", "aaaabbbbccccdddd"}, {".reelora/Other.new", "left"}}};
+  kit::RefusingDisk Disk{Memory};
   runtime::Files Files{Disk};
 };
 
@@ -52,7 +38,7 @@ TEST_F(FilesByNumber, AReadThatFailsLeavesNothingToBeReadLater) {
 
 TEST_F(FilesByNumber, AReplacedFileThatCannotBeOpenedStaysTheOldOne) {
   Files.OpenRandom(2, "Data", 4);
-  Disk.NoOpen = true;
+  Disk.Unopenable = "Data";
   EXPECT_THROW(Files.Replaced("Data"), runtime::Failure);
   EXPECT_EQ(Files.Length(2), 16);
   EXPECT_EQ(Read(2, 3), "cccc");
@@ -88,7 +74,7 @@ TEST_F(FilesByNumber, AWriteIsReadAtOnceWhateverWasReadAhead) {
 }
 
 TEST_F(FilesByNumber, LeftoversGoAndNothingElse) {
-  Folder kept = Memory.Content();
+  kit::Folder kept = Memory.Content();
   kept.erase(".reelora/Other.new");
   runtime::RemoveLeftovers(Disk);
   EXPECT_EQ(Memory.Content(), kept);

@@ -3,37 +3,37 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/safety/films.h"
+#include "tests/kit/films.h"
 
 namespace safety {
 namespace {
 
 const std::string Master(store::MasterFileName);
 
-Folder MasterOf(std::string master) { return {{Master, std::move(master)}}; }
+kit::Folder MasterOf(std::string master) { return {{Master, std::move(master)}}; }
 
 std::string WithRecord(int slot, const std::string& record) {
-  return Films(1, slot - 1) + record + Films(slot + 1, LastSlotTried);
+  return kit::Films(1, slot - 1) + record + kit::Films(slot + 1, LastSlotTried);
 }
 
 std::string Blank(const std::string& tail) { return std::string(store::RecordLength - tail.size(), ' ') + tail; }
 
-std::vector<Folder> AllowedNew(int slot, int finished) {
-  std::string master = Films(1, slot - 1);
-  for (int time = 1; time <= finished; ++time) master += FilmBytes(slot - 1 + time, time);
-  return {MasterOf(master), MasterOf(master + FilmBytes(slot + finished, finished + 1))};
+std::vector<kit::Folder> AllowedNew(int slot, int finished) {
+  std::string master = kit::Films(1, slot - 1);
+  for (int time = 1; time <= finished; ++time) master += kit::FilmBytes(slot - 1 + time, time);
+  return {MasterOf(master), MasterOf(master + kit::FilmBytes(slot + finished, finished + 1))};
 }
 
-std::vector<Folder> AllowedEdit(int slot, int finished) {
-  return {MasterOf(WithRecord(slot, FilmBytes(slot, finished))),
-          MasterOf(WithRecord(slot, FilmBytes(slot, finished + 1)))};
+std::vector<kit::Folder> AllowedEdit(int slot, int finished) {
+  return {MasterOf(WithRecord(slot, kit::FilmBytes(slot, finished))),
+          MasterOf(WithRecord(slot, kit::FilmBytes(slot, finished + 1)))};
 }
 
 // Odd times delete, which writes the blank record without and then with its line end; even times write a new film.
-std::vector<Folder> AllowedDelete(int slot, int finished) {
+std::vector<kit::Folder> AllowedDelete(int slot, int finished) {
   if (finished % 2 == 1)
-    return {MasterOf(WithRecord(slot, Blank("\r\n"))), MasterOf(WithRecord(slot, FilmBytes(slot, finished + 1)))};
-  return {MasterOf(WithRecord(slot, FilmBytes(slot, finished))), MasterOf(WithRecord(slot, Blank(""))),
+    return {MasterOf(WithRecord(slot, Blank("\r\n"))), MasterOf(WithRecord(slot, kit::FilmBytes(slot, finished + 1)))};
+  return {MasterOf(WithRecord(slot, kit::FilmBytes(slot, finished))), MasterOf(WithRecord(slot, Blank(""))),
           MasterOf(WithRecord(slot, Blank("\r\n")))};
 }
 
@@ -43,16 +43,16 @@ std::string LastAt(int time) { return std::to_string(time) + "\r\n"; }
 
 const std::vector<Habit>& Habits() {
   static const std::vector<Habit> habits = {
-      {"New", [](int slot) { return FolderOfFilms(slot - 1); },
+      {"New", [](int slot) { return kit::FolderOfFilms(slot - 1); },
        [](int slot, int time) { return NewFilm(slot - 1 + time, time); }, AllowedNew},
-      {"Edit", [](int) { return FolderOfFilms(LastSlotTried); }, EditFilm, AllowedEdit},
-      {"Delete", [](int) { return FolderOfFilms(LastSlotTried); },
+      {"Edit", [](int) { return kit::FolderOfFilms(LastSlotTried); }, EditFilm, AllowedEdit},
+      {"Delete", [](int) { return kit::FolderOfFilms(LastSlotTried); },
        [](int slot, int time) { return time % 2 == 1 ? DeleteFilm(slot) : NewFilm(slot, time); }, AllowedDelete},
-      {"Setting", [](int) { return FolderOfFilms(2); },
+      {"Setting", [](int) { return kit::FolderOfFilms(2); },
        [](int, int time) { return WriteSmallFile("Last", std::to_string(time)); },
        [](int, int finished) {
-         Folder none = {{"Last", ""}}, now = {{"Last", LastAt(finished)}}, next = {{"Last", LastAt(finished + 1)}};
-         return finished == 0 ? std::vector<Folder>{none, next} : std::vector<Folder>{now, next};
+         kit::Folder none = {{"Last", ""}}, now = {{"Last", LastAt(finished)}}, next = {{"Last", LastAt(finished + 1)}};
+         return finished == 0 ? std::vector<kit::Folder>{none, next} : std::vector<kit::Folder>{now, next};
        }},
   };
   return habits;

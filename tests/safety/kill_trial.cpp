@@ -15,8 +15,8 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/safety/films.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/unsynced_disk.h"
 #include "tests/safety/steps.h"
 
 namespace safety {
@@ -26,13 +26,6 @@ namespace fs = std::filesystem;
 
 const std::string Master(store::MasterFileName);
 constexpr int LongestMicroseconds = 300;
-
-class UnsyncedDisk final : public PassingDisk {
- public:
-  using PassingDisk::PassingDisk;
-  int Sync(int) override { return 0; }
-  int SyncFolder(const std::string&) override { return 0; }
-};
 
 // Where the files live in memory, if this machine has such a place.
 fs::path ScratchFolder() {
@@ -60,14 +53,14 @@ class Ground {
   Ground() : home_(ScratchFolder()), trial_(home_ / "trial") {
     fs::remove_all(home_);
     fs::create_directories(home_ / "small");
-    for (const auto& [name, content] : FolderOfFilms(0)) WriteFile(home_ / "small" / name, content);
+    for (const auto& [name, content] : kit::FolderOfFilms(0)) WriteFile(home_ / "small" / name, content);
   }
   ~Ground() { fs::remove_all(home_); }
   Ground(const Ground&) = delete;
   Ground& operator=(const Ground&) = delete;
 
   // The small files are links, since the program replaces them and never writes into them.
-  const fs::path& LayOut(const Folder& content) {
+  const fs::path& LayOut(const kit::Folder& content) {
     fs::remove_all(trial_);
     fs::create_directory(trial_);
     for (const auto& [name, bytes] : content) {
@@ -86,7 +79,7 @@ class Ground {
 
 [[noreturn]] void SaveUntilKilled(const fs::path& folder, const Habit& habit, int slot, const Fitting& fit, int told) {
   runtime::RealDisk real(folder.string());
-  UnsyncedDisk unsynced(real);
+  kit::UnsyncedDisk unsynced(real);
   auto fitted = Fitted(unsynced, fit);
   Running run(*fitted);
   const char mark = '+';
@@ -131,13 +124,13 @@ int KillOnce(const fs::path& folder, const Habit& habit, int slot, const Fitting
 }
 
 // Starts the program again and looks at the files that the habit changes.
-std::string ComplaintOf(const fs::path& folder, const std::vector<Folder>& allowed, const Fitting& fit) {
+std::string ComplaintOf(const fs::path& folder, const std::vector<kit::Folder>& allowed, const Fitting& fit) {
   runtime::RealDisk real(folder.string());
-  UnsyncedDisk unsynced(real);
+  kit::UnsyncedDisk unsynced(real);
   auto fitted = Fitted(unsynced, fit);
   Running run(*fitted);
   if (run.Program.Stopped()) return "the start stops: " + std::string(run.Program.Stopped()->Name);
-  for (const Folder& files : allowed) {
+  for (const kit::Folder& files : allowed) {
     if (std::all_of(files.begin(), files.end(),
                     [&](const auto& file) { return ReadFile(folder / file.first) == file.second; }))
       return "";

@@ -17,15 +17,15 @@ Played Play(const Road& road, runtime::Disk& disk, const std::function<void(std:
     }
     played.Stopped = run.Program.Stopped();
     played.Reported = run.Desk.Reported;
-  } catch (const safety::Killed&) {
+  } catch (const kit::Killed&) {
     played.Killed = true;
   }
   return played;
 }
 
 std::size_t CallsOf(const Road& road) {
-  MemoryDisk memory(road.Before);
-  FaultyDisk counting(memory);
+  kit::MemoryDisk memory(road.Before);
+  kit::FaultyDisk counting(memory);
   Play(road, counting);
   return counting.Calls();
 }

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "runtime/failure.h"
-#include "tests/safety/faulty_disk.h"
+#include "tests/kit/faulty_disk.h"
 #include "tests/safety/road.h"
 
 namespace safety {

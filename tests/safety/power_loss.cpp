@@ -6,7 +6,7 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/safety/films.h"
+#include "tests/kit/films.h"
 #include "tests/safety/played.h"
 
 namespace safety {
@@ -21,12 +21,12 @@ std::string At(std::size_t moment, const std::string& complaint) {
 }
 
 // The power fails again while the start repairs what the first failure has left.
-std::string TwiceComplaint(const Folder& state, const std::vector<Folder>& allowed, const Folder& before,
+std::string TwiceComplaint(const kit::Folder& state, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
                            const Fitting& fit) {
-  MemoryDisk disk(state);
+  kit::MemoryDisk disk(state);
   std::string complaint = Complaint(disk, allowed, before, fit);
   for (std::size_t moment = 1; complaint.empty() && moment < disk.Moments(); ++moment) {
-    for (const Folder& again : disk.AfterPowerLoss(moment, MaxStatesInRecovery)) {
+    for (const kit::Folder& again : disk.AfterPowerLoss(moment, MaxStatesInRecovery)) {
       complaint = Complaint(again, allowed, before, fit);
       if (!complaint.empty()) break;
     }
@@ -35,10 +35,10 @@ std::string TwiceComplaint(const Folder& state, const std::vector<Folder>& allow
 }
 
 // What saving film 1 in version 9 makes of each of the folders.
-std::vector<Folder> WithFilmOne(std::vector<Folder> folders) {
-  for (Folder& folder : folders) {
+std::vector<kit::Folder> WithFilmOne(std::vector<kit::Folder> folders) {
+  for (kit::Folder& folder : folders) {
     std::string& master = folder[std::string(store::MasterFileName)];
-    master.replace(0, std::min<std::size_t>(master.size(), store::RecordLength), FilmBytes(1, 9));
+    master.replace(0, std::min<std::size_t>(master.size(), store::RecordLength), kit::FilmBytes(1, 9));
   }
   return folders;
 }
@@ -46,15 +46,15 @@ std::vector<Folder> WithFilmOne(std::vector<Folder> folders) {
 }  // namespace
 
 std::string PowerLossComplaint(const Road& road, const Fitting& fit) {
-  std::vector<std::vector<Folder>> stations = Stations(road);
-  MemoryDisk memory(road.Before);
+  std::vector<std::vector<kit::Folder>> stations = Stations(road);
+  kit::MemoryDisk memory(road.Before);
   std::vector<std::size_t> finished;
   Play(road, *Fitted(memory, fit), [&](std::size_t) { finished.push_back(memory.Moments()); });
-  std::set<std::pair<std::size_t, Folder>> seen;
+  std::set<std::pair<std::size_t, kit::Folder>> seen;
   for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
     auto steps =
         static_cast<std::size_t>(std::upper_bound(finished.begin(), finished.end(), moment) - finished.begin());
-    for (const Folder& state : memory.AfterPowerLoss(moment, MaxStates)) {
+    for (const kit::Folder& state : memory.AfterPowerLoss(moment, MaxStates)) {
       if (!seen.emplace(steps, state).second) continue;
       std::string complaint = TwiceComplaint(state, stations[steps], road.Before, fit);
       if (!complaint.empty()) return At(moment, complaint);
@@ -63,12 +63,12 @@ std::string PowerLossComplaint(const Road& road, const Fitting& fit) {
   return "";
 }
 
-std::string PowerLossAfterFaultComplaint(const Road& road, Fault fault, const Fitting& fit) {
-  std::vector<std::vector<Folder>> stations = Stations(road);
+std::string PowerLossAfterFaultComplaint(const Road& road, kit::Fault fault, const Fitting& fit) {
+  std::vector<std::vector<kit::Folder>> stations = Stations(road);
   std::size_t calls = CallsOf(road);
   for (std::size_t at = 0; at < calls; ++at) {
-    MemoryDisk memory(road.Before);
-    FaultyDisk faulty(memory, {fault, at});
+    kit::MemoryDisk memory(road.Before);
+    kit::FaultyDisk faulty(memory, {fault, at});
     Played played = Play(road, *Fitted(faulty, fit));
     std::size_t fault_moment = memory.Moments();
     if (fault_moment == 0) continue;
@@ -77,14 +77,14 @@ std::string PowerLossAfterFaultComplaint(const Road& road, Fault fault, const Fi
     EditFilm(1, 9)(run.Program);
     if (run.Program.Stopped()) return "the program stops after a fault at call " + std::to_string(at);
 
-    const std::vector<Folder>& old_ones = stations[played.Steps];
-    std::vector<Folder> after = WithFilmOne(old_ones);
-    std::vector<Folder> during = old_ones;
+    const std::vector<kit::Folder>& old_ones = stations[played.Steps];
+    std::vector<kit::Folder> after = WithFilmOne(old_ones);
+    std::vector<kit::Folder> during = old_ones;
     during.insert(during.end(), after.begin(), after.end());
-    std::set<Folder> seen;
+    std::set<kit::Folder> seen;
     for (std::size_t moment = fault_moment; moment <= memory.Moments(); ++moment) {
-      const std::vector<Folder>& allowed = moment == memory.Moments() ? after : during;
-      for (const Folder& state : memory.AfterPowerLoss(moment, MaxStatesAfterFault)) {
+      const std::vector<kit::Folder>& allowed = moment == memory.Moments() ? after : during;
+      for (const kit::Folder& state : memory.AfterPowerLoss(moment, MaxStatesAfterFault)) {
         if (moment != memory.Moments() && !seen.insert(state).second) continue;
         std::string complaint = Complaint(state, allowed, road.Before, fit);
         if (!complaint.empty()) return "after a fault at call " + std::to_string(at) + ", " + At(moment, complaint);
@@ -94,15 +94,15 @@ std::string PowerLossAfterFaultComplaint(const Road& road, Fault fault, const Fi
   return "";
 }
 
-std::string TakeBackComplaint(const Road& road, Fault fault, const Fitting& fit) {
-  std::vector<std::vector<Folder>> stations = Stations(road);
+std::string TakeBackComplaint(const Road& road, kit::Fault fault, const Fitting& fit) {
+  std::vector<std::vector<kit::Folder>> stations = Stations(road);
   std::size_t calls = CallsOf(road);
   for (std::size_t at = 0; at < calls; ++at) {
-    MemoryDisk memory(road.Before);
-    FaultyDisk faulty(memory, {fault, at});
+    kit::MemoryDisk memory(road.Before);
+    kit::FaultyDisk faulty(memory, {fault, at});
     Played played = Play(road, *Fitted(faulty, fit));
-    const std::vector<Folder>& allowed = stations[played.Steps];
-    Folder left = Visible(memory.Content());
+    const std::vector<kit::Folder>& allowed = stations[played.Steps];
+    kit::Folder left = Visible(memory.Content());
     if (played.Started && std::find(allowed.begin(), allowed.end(), left) == allowed.end())
       return "a mixture is left behind by a fault at call " + std::to_string(at);
   }

@@ -15,14 +15,14 @@ TEST_P(EveryRoad, SurvivesALossOfPowerAtEachMoment) { EXPECT_EQ(PowerLossComplai
 
 // A program that was killed leaves bytes that the disk may still lose, when the journal has gone on to the next film.
 TEST_P(EveryRoad, SurvivesALossOfPowerAfterAKill) {
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, Fault::Kill), "") << Walked.Name;
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, Fault::KillHalfway), "") << Walked.Name;
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::Kill), "") << Walked.Name;
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::KillHalfway), "") << Walked.Name;
 }
 
 // After a failed sync the disk may have dropped what it was given, and still report success for the next one.
 TEST_P(EveryRoad, SurvivesALossOfPowerAfterAFailure) {
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, Fault::Error), "") << Walked.Name;
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, Fault::ShortThenFull), "") << Walked.Name;
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::Error), "") << Walked.Name;
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::ShortThenFull), "") << Walked.Name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Roads, EveryRoad, testing::Range<std::size_t>(0, Roads().size()));

@@ -6,8 +6,9 @@
 
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
-#include "tests/safety/films.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/passing_disk.h"
+#include "tests/kit/refusing_disk.h"
 
 namespace safety {
 namespace {
@@ -26,16 +27,16 @@ void Write(Disk& disk, int slot, const std::string& record) {
 }
 
 // The folder that a write of version 1 into slot 7 of eight films leaves.
-Folder Written() {
-  MemoryDisk disk(Folder{{Master, Films(1, 8)}});
-  Write(disk, 7, FilmBytes(7, 1));
+kit::Folder Written() {
+  kit::MemoryDisk disk(kit::Folder{{Master, kit::Films(1, 8)}});
+  Write(disk, 7, kit::FilmBytes(7, 1));
   return disk.Content();
 }
 
 // The master file after an opening of the folder with that master file in it.
-std::string Recovered(Folder folder, const std::string& master) {
+std::string Recovered(kit::Folder folder, const std::string& master) {
   folder[Master] = master;
-  MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   OpenFile file(disk, Master, Disk::Mode::Create);
   RecordJournal(disk).Recover(file, store::RecordLength);
   return disk.Content().at(Master);
@@ -45,21 +46,21 @@ std::string With(std::string master, int slot, const std::string& record) {
   return master.replace(static_cast<std::size_t>(slot - 1) * store::RecordLength, record.size(), record);
 }
 
-const std::string Mixed = FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 0).substr(300);
+const std::string Mixed = kit::FilmBytes(7, 1).substr(0, 300) + kit::FilmBytes(7, 0).substr(300);
 
 TEST(Recovery, FinishesARecordTornAtAnyByte) {
-  std::string old_record = FilmBytes(7, 0), new_record = FilmBytes(7, 1);
+  std::string old_record = kit::FilmBytes(7, 0), new_record = kit::FilmBytes(7, 1);
   for (std::size_t torn = 1; torn < new_record.size(); ++torn) {
     std::string mixed = new_record.substr(0, torn) + old_record.substr(torn);
-    std::string master = Recovered(Written(), With(Films(1, 8), 7, mixed));
+    std::string master = Recovered(Written(), With(kit::Films(1, 8), 7, mixed));
     bool is_old = mixed == old_record;
-    ASSERT_EQ(master, With(Films(1, 8), 7, is_old ? old_record : new_record)) << torn;
+    ASSERT_EQ(master, With(kit::Films(1, 8), 7, is_old ? old_record : new_record)) << torn;
   }
 }
 
 TEST(Recovery, LeavesTheOldAndTheNewRecord) {
-  EXPECT_EQ(Recovered(Written(), Films(1, 8)), Films(1, 8));
-  MemoryDisk disk(Written());
+  EXPECT_EQ(Recovered(Written(), kit::Films(1, 8)), kit::Films(1, 8));
+  kit::MemoryDisk disk(Written());
   OpenFile file(disk, Master, Disk::Mode::Create);
   RecordJournal(disk).Recover(file, store::RecordLength);
   EXPECT_EQ(disk.Content(), Written());
@@ -67,13 +68,13 @@ TEST(Recovery, LeavesTheOldAndTheNewRecord) {
 }
 
 TEST(Recovery, LeavesARestoredBackupAlone) {
-  std::string torn = FilmBytes(7, 1).substr(0, 300) + FilmBytes(7, 2).substr(300);
-  EXPECT_EQ(Recovered(Written(), With(Films(1, 8), 7, torn)), With(Films(1, 8), 7, torn));
-  EXPECT_EQ(Recovered(Written(), Films(1, 6)), Films(1, 6));
-  EXPECT_EQ(Recovered(Written(), Films(1, 9)), Films(1, 9));
-  EXPECT_EQ(Recovered(Written(), Films(1, 7) + "x"), Films(1, 7) + "x");
+  std::string torn = kit::FilmBytes(7, 1).substr(0, 300) + kit::FilmBytes(7, 2).substr(300);
+  EXPECT_EQ(Recovered(Written(), With(kit::Films(1, 8), 7, torn)), With(kit::Films(1, 8), 7, torn));
+  EXPECT_EQ(Recovered(Written(), kit::Films(1, 6)), kit::Films(1, 6));
+  EXPECT_EQ(Recovered(Written(), kit::Films(1, 9)), kit::Films(1, 9));
+  EXPECT_EQ(Recovered(Written(), kit::Films(1, 7) + "x"), kit::Films(1, 7) + "x");
   for (int films : {7, 9}) {
-    std::string longer_or_shorter = With(Films(1, films), 7, Mixed);
+    std::string longer_or_shorter = With(kit::Films(1, films), 7, Mixed);
     EXPECT_EQ(Recovered(Written(), longer_or_shorter), longer_or_shorter);
   }
 }
@@ -90,8 +91,8 @@ std::string Forged(std::string journal, std::size_t place, std::int64_t number) 
 
 TEST(Recovery, LeavesTheBlockOfAnotherFormatAlone) {
   constexpr std::size_t SlotPlace = 40;
-  const std::string master = With(Films(1, 8), 7, Mixed);
-  Folder folder = Written();
+  const std::string master = With(kit::Films(1, 8), 7, Mixed);
+  kit::Folder folder = Written();
   ASSERT_EQ(Forged(folder[Journal], SlotPlace, 7), folder[Journal]);
   folder[Journal] = Forged(folder[Journal], 0, 0);
   EXPECT_EQ(Recovered(folder, master), master);
@@ -99,34 +100,27 @@ TEST(Recovery, LeavesTheBlockOfAnotherFormatAlone) {
 
 // Passing over it would leave the torn record, and the next write would take the block's place.
 TEST(Recovery, FailsWhereTheJournalCannotBeRead) {
-  class Unreadable final : public PassingDisk {
-   public:
-    using PassingDisk::PassingDisk;
-    int Open(const std::string& name, Mode mode) override {
-      return name == Journal ? -EACCES : PassingDisk::Open(name, mode);
-    }
-  };
-  MemoryDisk memory(Written());
-  Unreadable disk(memory);
+  kit::MemoryDisk memory(Written());
+  kit::RefusingDisk disk(memory, Journal);
   OpenFile file(disk, Master, Disk::Mode::Create);
   EXPECT_THROW(RecordJournal(disk).Recover(file, store::RecordLength), runtime::Failure);
 }
 
 TEST(Recovery, CutsAnAppendThatStoppedShortAndNothingElse) {
-  MemoryDisk disk(Folder{{Master, Films(1, 6)}});
-  Write(disk, 7, FilmBytes(7, 1));
-  const Folder appended = disk.Content();
+  kit::MemoryDisk disk(kit::Folder{{Master, kit::Films(1, 6)}});
+  Write(disk, 7, kit::FilmBytes(7, 1));
+  const kit::Folder appended = disk.Content();
   for (std::size_t part = 0; part < store::RecordLength; ++part)
-    ASSERT_EQ(Recovered(appended, Films(1, 6) + FilmBytes(7, 1).substr(0, part)), Films(1, 6)) << part;
-  std::string other = FilmBytes(7, 5).substr(0, 400);
-  EXPECT_EQ(Recovered(appended, Films(1, 6) + other), Films(1, 6) + other);
+    ASSERT_EQ(Recovered(appended, kit::Films(1, 6) + kit::FilmBytes(7, 1).substr(0, part)), kit::Films(1, 6)) << part;
+  std::string other = kit::FilmBytes(7, 5).substr(0, 400);
+  EXPECT_EQ(Recovered(appended, kit::Films(1, 6) + other), kit::Films(1, 6) + other);
 }
 
 TEST(Recovery, PassesOverAJournalThatIsNotWhole) {
-  const std::string mixed = With(Films(1, 8), 7, Mixed);
+  const std::string mixed = With(kit::Films(1, 8), 7, Mixed);
   const std::string whole = Written().at(Journal);
   for (std::size_t place = 0; place < whole.size(); ++place) {
-    Folder cut = Written(), garbled = Written();
+    kit::Folder cut = Written(), garbled = Written();
     cut[Journal] = whole.substr(0, place);
     garbled[Journal][place] = static_cast<char>(whole[place] ^ 4);
     ASSERT_EQ(Recovered(cut, mixed), mixed) << place;
@@ -135,10 +129,10 @@ TEST(Recovery, PassesOverAJournalThatIsNotWhole) {
 }
 
 TEST(Recovery, LeavesAnotherFileAlone) {
-  const std::string mixed = With(Films(1, 8), 7, Mixed);
-  Folder folder = Written();
+  const std::string mixed = With(kit::Films(1, 8), 7, Mixed);
+  kit::Folder folder = Written();
   folder["Other.Dat"] = mixed;
-  MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   OpenFile file(disk, "Other.Dat", Disk::Mode::Create);
   RecordJournal(disk).Recover(file, store::RecordLength);
   EXPECT_EQ(disk.Content(), folder);
@@ -148,86 +142,87 @@ TEST(History, KeepsTheFilmThatIsOverwritten) {
   std::string history = Written().at(History);
   ASSERT_EQ(history.size(), static_cast<std::size_t>(runtime::HistoryHeadLength + store::RecordLength));
   EXPECT_EQ(history.substr(19, 9), " 0000007 ");
-  EXPECT_EQ(history.substr(runtime::HistoryHeadLength), FilmBytes(7, 0));
+  EXPECT_EQ(history.substr(runtime::HistoryHeadLength), kit::FilmBytes(7, 0));
 }
 
 TEST(History, KeepsNeitherAFreeSlotNorTheSameFilm) {
   std::string free_slot(store::RecordLength, ' ');
-  MemoryDisk disk(Folder{{Master, With(Films(1, 8), 7, free_slot)}});
-  Write(disk, 7, FilmBytes(7, 1));
-  Write(disk, 7, FilmBytes(7, 1));
-  Write(disk, 9, FilmBytes(9, 1));
+  kit::MemoryDisk disk(kit::Folder{{Master, With(kit::Films(1, 8), 7, free_slot)}});
+  Write(disk, 7, kit::FilmBytes(7, 1));
+  Write(disk, 7, kit::FilmBytes(7, 1));
+  Write(disk, 9, kit::FilmBytes(9, 1));
   EXPECT_EQ(disk.Content().at(History), "");
 }
 
 TEST(History, PutsTheNextEntryOverATornOne) {
-  Folder folder = Written();
+  kit::Folder folder = Written();
   std::string first = folder[History];
   folder[History] += first.substr(0, 100);
-  MemoryDisk disk(folder);
-  Write(disk, 8, FilmBytes(8, 1));
+  kit::MemoryDisk disk(folder);
+  Write(disk, 8, kit::FilmBytes(8, 1));
   std::string history = disk.Content().at(History);
   ASSERT_EQ(history.size(), 2 * first.size());
   EXPECT_EQ(history.substr(0, first.size()), first);
-  EXPECT_EQ(history.substr(first.size() + runtime::HistoryHeadLength), FilmBytes(8, 0));
+  EXPECT_EQ(history.substr(first.size() + runtime::HistoryHeadLength), kit::FilmBytes(8, 0));
 }
 
 TEST(RecordJournal, RefusesASlotThatLiesFarBehindTheFile) {
-  MemoryDisk disk(Folder{{Master, Films(1, 8)}});
+  kit::MemoryDisk disk(kit::Folder{{Master, kit::Films(1, 8)}});
   try {
-    Write(disk, 9'999'999, FilmBytes(1, 1));
+    Write(disk, 9'999'999, kit::FilmBytes(1, 1));
     FAIL() << "no failure";
   } catch (const runtime::Failure& failure) {
     EXPECT_EQ(failure.Name, runtime::BadRecordNumber);
   }
-  EXPECT_EQ(disk.Content(), (Folder{{Master, Films(1, 8)}}));
+  EXPECT_EQ(disk.Content(), (kit::Folder{{Master, kit::Films(1, 8)}}));
 }
 
 TEST(RecordJournal, PutsBlanksBetweenTheEndAndTheSlot) {
-  MemoryDisk disk(Folder{{Master, Films(1, 2)}});
-  Write(disk, 5, FilmBytes(5, 1));
-  EXPECT_EQ(disk.Content().at(Master), Films(1, 2) + std::string(2 * store::RecordLength, ' ') + FilmBytes(5, 1));
+  kit::MemoryDisk disk(kit::Folder{{Master, kit::Films(1, 2)}});
+  Write(disk, 5, kit::FilmBytes(5, 1));
+  EXPECT_EQ(disk.Content().at(Master),
+            kit::Films(1, 2) + std::string(2 * store::RecordLength, ' ') + kit::FilmBytes(5, 1));
 }
 
 // A run that was killed may have made the files and not have synced the folders.
 TEST(RecordJournal, SyncsTheFoldersAtTheFirstWriteAfterEachOpening) {
-  class Counting final : public PassingDisk {
+  class Counting final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
     int SyncFolder(const std::string& name) override {
       Synced.push_back(name);
-      return PassingDisk::SyncFolder(name);
+      return kit::PassingDisk::SyncFolder(name);
     }
     std::vector<std::string> Synced;
   };
-  MemoryDisk memory(Written());
+  kit::MemoryDisk memory(Written());
   Counting disk(memory);
   RecordJournal journal(disk);
   OpenFile file(disk, Master, Disk::Mode::Create);
   const std::vector<std::string> both = {".reelora", ""}, both_twice = {".reelora", "", ".reelora", ""};
-  for (int version : {2, 3}) journal.Write(file, 7, FilmBytes(7, version));
+  for (int version : {2, 3}) journal.Write(file, 7, kit::FilmBytes(7, version));
   EXPECT_EQ(disk.Synced, both);
   journal.Recover(file, store::RecordLength);
-  journal.Write(file, 7, FilmBytes(7, 4));
+  journal.Write(file, 7, kit::FilmBytes(7, 4));
   EXPECT_EQ(disk.Synced, both_twice);
 }
 
 // A failed sync that is tried again may report success for what the disk has dropped.
 TEST(RecordJournal, SyncsTheRecordOnlyOnceWhenThatFails) {
-  class FailingOnce final : public PassingDisk {
+  class FailingOnce final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
     int Sync(int handle) override {
-      if (NameOf(handle) != Master) return PassingDisk::Sync(handle);
-      return ++Syncs == 1 ? -EIO : PassingDisk::Sync(handle);
+      if (NameOf(handle) != Master) return kit::PassingDisk::Sync(handle);
+      return ++Syncs == 1 ? -EIO : kit::PassingDisk::Sync(handle);
     }
     int Syncs = 0;
   };
-  MemoryDisk memory(Folder{{Master, Films(1, 8)}});
+  kit::MemoryDisk memory(kit::Folder{{Master, kit::Films(1, 8)}});
   FailingOnce disk(memory);
-  EXPECT_THROW(Write(disk, 7, FilmBytes(7, 1)), runtime::Failure);
+  EXPECT_THROW(Write(disk, 7, kit::FilmBytes(7, 1)), runtime::Failure);
   EXPECT_EQ(disk.Syncs, 1);
-  EXPECT_EQ(memory.Content().at(Master), Films(1, 8));
+  EXPECT_EQ(memory.Content().at(Master), kit::Films(1, 8));
 }
 
 }  // namespace

@@ -2,62 +2,63 @@
 #include "tests/safety/road.h"
 
 #include "store/master_file.h"
+#include "tests/kit/films.h"
+#include "tests/kit/passing_disk.h"
 #include "tests/safety/complaint.h"
-#include "tests/safety/films.h"
-#include "tests/safety/passing_disk.h"
 
 namespace safety {
 namespace {
 
 // Keeps the folder of each moment at which a file of the user's was made safe or replaced.
-class WatchingDisk final : public PassingDisk {
+class WatchingDisk final : public kit::PassingDisk {
  public:
-  WatchingDisk(MemoryDisk& below, std::vector<Folder>& seen) : PassingDisk(below), memory_(below), seen_(seen) {}
+  WatchingDisk(kit::MemoryDisk& below, std::vector<kit::Folder>& seen)
+      : kit::PassingDisk(below), memory_(below), seen_(seen) {}
   int Sync(int handle) override {
-    int result = PassingDisk::Sync(handle);
-    if (FolderOf(NameOf(handle)).empty()) seen_.push_back(Visible(memory_.Content()));
+    int result = kit::PassingDisk::Sync(handle);
+    if (kit::FolderOf(NameOf(handle)).empty()) seen_.push_back(Visible(memory_.Content()));
     return result;
   }
   int Rename(const std::string& from, const std::string& to) override {
-    int result = PassingDisk::Rename(from, to);
+    int result = kit::PassingDisk::Rename(from, to);
     seen_.push_back(Visible(memory_.Content()));
     return result;
   }
 
  private:
-  MemoryDisk& memory_;
-  std::vector<Folder>& seen_;
+  kit::MemoryDisk& memory_;
+  std::vector<kit::Folder>& seen_;
 };
 
 }  // namespace
 
 const std::vector<Road>& Roads() {
   static const std::vector<Road> roads = [] {
-    Folder no_master = FolderOfFilms(0);
+    kit::Folder no_master = kit::FolderOfFilms(0);
     no_master.erase(std::string(store::MasterFileName));
-    std::string half = FilmBytes(13, 3);
+    std::string half = kit::FilmBytes(13, 3);
     return std::vector<Road>{
-        {"new films at the end", FolderOfFilms(12), {NewFilm(13, 1), NewFilm(14, 2)}},
-        {"edited films", FolderOfFilms(9), {EditFilm(7, 1), EditFilm(8, 2), EditFilm(8, 3)}},
-        {"a deleted film and a new one in its slot", FolderOfFilms(9), {DeleteFilm(7), NewFilm(7, 1)}},
-        {"an edited film put back", FolderOfFilms(9), {EditFilm(7, 1), PutFilmBack(), PutFilmBack()}},
-        {"a new film over a short trailing part", FolderOfFilms(12, half.substr(0, 200)), {NewFilm(13, 1)}},
-        {"a new film behind a long trailing part", FolderOfFilms(12, half.substr(0, 500)), {NewFilm(14, 1)}},
-        {"the first film of an empty file", FolderOfFilms(0), {NewFilm(1, 1), NewFilm(2, 2)}},
+        {"new films at the end", kit::FolderOfFilms(12), {NewFilm(13, 1), NewFilm(14, 2)}},
+        {"edited films", kit::FolderOfFilms(9), {EditFilm(7, 1), EditFilm(8, 2), EditFilm(8, 3)}},
+        {"a deleted film and a new one in its slot", kit::FolderOfFilms(9), {DeleteFilm(7), NewFilm(7, 1)}},
+        {"an edited film put back", kit::FolderOfFilms(9), {EditFilm(7, 1), PutFilmBack(), PutFilmBack()}},
+        {"a new film over a short trailing part", kit::FolderOfFilms(12, half.substr(0, 200)), {NewFilm(13, 1)}},
+        {"a new film behind a long trailing part", kit::FolderOfFilms(12, half.substr(0, 500)), {NewFilm(14, 1)}},
+        {"the first film of an empty file", kit::FolderOfFilms(0), {NewFilm(1, 1), NewFilm(2, 2)}},
         {"the first film of a missing file", no_master, {NewFilm(1, 1)}},
-        {"an edited film saved on closing", FolderOfFilms(8), {EditAndClose(7, 1)}},
-        {"small files", FolderOfFilms(8), {WriteSmallFile("AutoSave", "YES"), WriteSmallFile("Last", " 7 ")}},
+        {"an edited film saved on closing", kit::FolderOfFilms(8), {EditAndClose(7, 1)}},
+        {"small files", kit::FolderOfFilms(8), {WriteSmallFile("AutoSave", "YES"), WriteSmallFile("Last", " 7 ")}},
     };
   }();
   return roads;
 }
 
-std::vector<std::vector<Folder>> Stations(const Road& road) {
-  MemoryDisk memory(road.Before);
-  std::vector<Folder> seen;
+std::vector<std::vector<kit::Folder>> Stations(const Road& road) {
+  kit::MemoryDisk memory(road.Before);
+  std::vector<kit::Folder> seen;
   WatchingDisk watching(memory, seen);
   Running run(watching);
-  std::vector<std::vector<Folder>> stations;
+  std::vector<std::vector<kit::Folder>> stations;
   for (const Step& step : road.Steps) {
     seen = {Visible(memory.Content())};
     step(run.Program);

@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 #include "tests/safety/steps.h"
 
 namespace safety {
 
 struct Road {
   std::string Name;
-  Folder Before;
+  kit::Folder Before;
   std::vector<Step> Steps;
 };
 
@@ -21,6 +21,6 @@ const std::vector<Road>& Roads();
 
 // What may be found after so many finished steps: where the step ended, and what the next one passes through. Without
 // the safety folder.
-std::vector<std::vector<Folder>> Stations(const Road& road);
+std::vector<std::vector<kit::Folder>> Stations(const Road& road);
 
 }  // namespace safety

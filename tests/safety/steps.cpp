@@ -2,7 +2,7 @@
 #include "tests/safety/steps.h"
 
 #include "store/history.h"
-#include "tests/safety/films.h"
+#include "tests/kit/films.h"
 
 namespace safety {
 namespace {
@@ -12,7 +12,7 @@ void Click(Program& program, forms::Button& button) {
 }
 
 void TypeInto(Program& program, int slot, int version) {
-  program.Deliver([&] { TypeFilm(program.RecordScreen, slot, version); });
+  program.Deliver([&] { kit::TypeFilm(program.RecordScreen, slot, version); });
 }
 
 }  // namespace

@@ -6,21 +6,14 @@
 #include <string>
 
 #include "app/program.h"
-#include "bench/quiet_desk.h"
+#include "tests/kit/quiet_desk.h"
 
 namespace safety {
-
-class YesDesk final : public bench::QuietDesk {
- public:
-  void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
-  // What the last failure report named, "" for none.
-  std::string Reported;
-};
 
 // A started program with its desk.
 struct Running {
   explicit Running(runtime::Disk& disk) : Program(Desk, disk) { Program.StartRecordScreen(); }
-  YesDesk Desk;
+  kit::QuietDesk Desk;
   ::Program Program;
 };
 

@@ -11,10 +11,10 @@ namespace {
 std::string AnyComplaint(const Fitting& fit) {
   for (const Road& road : Roads()) {
     for (const std::string& complaint :
-         {PowerLossComplaint(road, fit), TakeBackComplaint(road, Fault::ShortThenFull, fit)}) {
+         {PowerLossComplaint(road, fit), TakeBackComplaint(road, kit::Fault::ShortThenFull, fit)}) {
       if (!complaint.empty()) return road.Name + ": " + complaint;
     }
-    for (Fault fault : {Fault::Kill, Fault::KillHalfway, Fault::Error}) {
+    for (kit::Fault fault : {kit::Fault::Kill, kit::Fault::KillHalfway, kit::Fault::Error}) {
       std::string complaint = PowerLossAfterFaultComplaint(road, fault, fit);
       if (!complaint.empty()) return road.Name + ": " + complaint;
     }

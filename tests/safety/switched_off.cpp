@@ -33,11 +33,11 @@ const std::vector<SafeguardRow>& Safeguards() {
 }
 
 SwitchedOff::SwitchedOff(runtime::Disk& below, Safeguard guard)
-    : PassingDisk(below), guard_(guard), master_(store::MasterFileName) {}
+    : kit::PassingDisk(below), guard_(guard), master_(store::MasterFileName) {}
 
 int SwitchedOff::Open(const std::string& name, Mode mode) {
   if (IsOff(Safeguard::Recovery) && name == Journal && mode == Mode::Read) return -ENOENT;
-  int handle = PassingDisk::Open(name, mode);
+  int handle = kit::PassingDisk::Open(name, mode);
   journal_was_there_ = journal_was_there_ || (name == Journal && mode == Mode::Read && handle >= 0);
   return handle;
 }
@@ -46,13 +46,13 @@ std::int64_t SwitchedOff::WriteAt(int handle, const char* source, std::size_t co
   const std::string& name = NameOf(handle);
   journal_written_ = journal_written_ || name == Journal;
   if ((IsOff(Safeguard::JournalWrite) && name == Journal) || TakesBack(name)) return static_cast<std::int64_t>(count);
-  std::int64_t result = PassingDisk::WriteAt(handle, source, count, offset);
+  std::int64_t result = kit::PassingDisk::WriteAt(handle, source, count, offset);
   failed_ = failed_ || (result < 0 && result != -EINTR);
   return result;
 }
 
 int SwitchedOff::Truncate(int handle, std::int64_t length) {
-  return TakesBack(NameOf(handle)) ? 0 : PassingDisk::Truncate(handle, length);
+  return TakesBack(NameOf(handle)) ? 0 : kit::PassingDisk::Truncate(handle, length);
 }
 
 int SwitchedOff::Sync(int handle) {
@@ -63,13 +63,13 @@ int SwitchedOff::Sync(int handle) {
                  (IsOff(Safeguard::RecoverySync) && name == master_ && !journal_written_) ||
                  (IsOff(Safeguard::AsideSync) && name.ends_with(runtime::AsideEnding));
   if (skipped) return 0;
-  int result = PassingDisk::Sync(handle);
+  int result = kit::PassingDisk::Sync(handle);
   failed_ = failed_ || (result < 0 && result != -EINTR);
   return result;
 }
 
 int SwitchedOff::Rename(const std::string& from, const std::string& to) {
-  if (!IsOff(Safeguard::AsideRename)) return PassingDisk::Rename(from, to);
+  if (!IsOff(Safeguard::AsideRename)) return kit::PassingDisk::Rename(from, to);
   std::string content;
   {
     runtime::OpenFile source(Below(), from, Mode::Read);
@@ -87,7 +87,7 @@ int SwitchedOff::SyncFolder(const std::string& name) {
   bool skipped = (IsOff(Safeguard::SafetyFolderSync) && name == runtime::SafetyFolder) ||
                  (IsOff(Safeguard::CollectionFolderSync) && name.empty()) ||
                  (IsOff(Safeguard::FolderSyncEachRun) && journal_was_there_);
-  return skipped ? 0 : PassingDisk::SyncFolder(name);
+  return skipped ? 0 : kit::PassingDisk::SyncFolder(name);
 }
 
 Fitting Without(Safeguard guard) {

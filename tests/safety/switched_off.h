@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/kit/passing_disk.h"
 #include "tests/safety/complaint.h"
-#include "tests/safety/passing_disk.h"
 
 namespace safety {
 
@@ -32,7 +32,7 @@ struct SafeguardRow {
 };
 const std::vector<SafeguardRow>& Safeguards();
 
-class SwitchedOff final : public PassingDisk {
+class SwitchedOff final : public kit::PassingDisk {
  public:
   SwitchedOff(runtime::Disk& below, Safeguard guard);
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+#include "tests/kit/source_tree.h"
 #include "tests/story/sort_reference.h"
 #include "tests/story/world.h"
 
@@ -35,24 +36,24 @@ SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view s
 }
 
 std::string DeliveredWeights() {
-  static const std::string weights = story::ReadBytes(REELORA_SOURCE "/delivered/UPPER.ALT").value();
+  static const std::string weights = story::ReadBytes(kit::DeliveredFolder() / "UPPER.ALT").value();
   return weights;
 }
 
-safety::Folder FolderWith(const std::string& master) {
+kit::Folder FolderWith(const std::string& master) {
   return {{"Recpra.Dat", master}, {"UPPER.ALT", DeliveredWeights()}};
 }
 
-std::string FileOn(const safety::MemoryDisk& disk, const std::string& name) {
-  safety::Folder content = disk.Content();
+std::string FileOn(const kit::MemoryDisk& disk, const std::string& name) {
+  kit::Folder content = disk.Content();
   auto file = content.find(name);
   return file == content.end() ? "" : file->second;
 }
 
-std::string Leftovers(const safety::MemoryDisk& disk) {
+std::string Leftovers(const kit::MemoryDisk& disk) {
   std::string names;
   for (const auto& [name, bytes] : disk.Content()) {
-    if (!safety::FolderOf(name).empty()) names += name + " ";
+    if (!kit::FolderOf(name).empty()) names += name + " ";
   }
   return names;
 }
@@ -62,7 +63,7 @@ namespace {
 using OnePass = std::function<SortOutcome(runtime::Disk&, std::string_view output, std::string_view statement)>;
 
 void ExpectPassesAsReference(const std::string& master, const OnePass& sort) {
-  safety::MemoryDisk memory(FolderWith(master));
+  kit::MemoryDisk memory(FolderWith(master));
   SharedDisk disk(memory);
   const auto pairs = story::SortedPairs(master, DeliveredWeights());
   for (std::size_t pass = 0; pass < std::size(Tests); ++pass) {

@@ -7,8 +7,8 @@
 
 #include "runtime/disk.h"
 #include "sort/operation.h"
-#include "tests/safety/memory_disk.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/kit/memory_disk.h"
+#include "tests/kit/passing_disk.h"
 
 namespace sort {
 
@@ -33,14 +33,14 @@ std::string StatementOfPass(std::size_t pass);
 std::string DeliveredWeights();
 
 // A folder that holds this master file and the weights as delivered.
-safety::Folder FolderWith(const std::string& master);
+kit::Folder FolderWith(const std::string& master);
 // "" where there is none of that name.
-std::string FileOn(const safety::MemoryDisk& disk, const std::string& name);
+std::string FileOn(const kit::MemoryDisk& disk, const std::string& name);
 // The names of the files in the safety folder, one after the other.
-std::string Leftovers(const safety::MemoryDisk& disk);
+std::string Leftovers(const kit::MemoryDisk& disk);
 
 // Two threads may read and write through it.
-class SharedDisk final : public safety::PassingDisk {
+class SharedDisk final : public kit::PassingDisk {
  public:
   using PassingDisk::PassingDisk;
   std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {

@@ -6,14 +6,14 @@
 
 #include "runtime/whole_io.h"
 #include "store/film_record.h"
-#include "tests/safety/faulty_disk.h"
+#include "tests/kit/faulty_disk.h"
 #include "tests/sort/calls.h"
 #include "tests/story/sort_reference.h"
 
 namespace sort {
 namespace {
 
-using safety::Fault;
+using kit::Fault;
 
 constexpr std::string_view OldKeys = "the old keys";
 
@@ -29,8 +29,8 @@ std::string Films() {
   return master;
 }
 
-safety::Folder Before() {
-  safety::Folder folder = FolderWith(Films());
+kit::Folder Before() {
+  kit::Folder folder = FolderWith(Films());
   folder["Titlepra.Dat"] = OldKeys;
   return folder;
 }
@@ -44,8 +44,8 @@ const std::string& NewKeys() {
 const SortLimits Limits[] = {{}, {300, 1'000'000}};
 
 std::size_t CallsOf(const SortLimits& limits) {
-  safety::MemoryDisk memory(Before());
-  safety::FaultyDisk disk(memory);
+  kit::MemoryDisk memory(Before());
+  kit::FaultyDisk disk(memory);
   EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, limits).Retcode, SortDone);
   EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
   return disk.Calls();
@@ -60,12 +60,12 @@ std::optional<SortOutcome> TrySort(Sorter& sorter) {
   }
 }
 
-std::optional<SortOutcome> TrySortOn(safety::FaultyDisk& disk, const SortLimits& limits) {
+std::optional<SortOutcome> TrySortOn(kit::FaultyDisk& disk, const SortLimits& limits) {
   Sorter sorter(disk, limits);
   return TrySort(sorter);
 }
 
-void ExpectSortsAfterwards(safety::MemoryDisk& memory) {
+void ExpectSortsAfterwards(kit::MemoryDisk& memory) {
   runtime::RemoveLeftovers(memory);
   ASSERT_EQ(Leftovers(memory), "");
   SortOutcome outcome = SortOn(memory, "Titlepra.Dat", TitlesStatement);
@@ -80,8 +80,8 @@ TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
     for (bool from_then_on : {false, true}) {
       for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
         SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
-        safety::MemoryDisk memory(Before());
-        safety::FaultyDisk disk(memory, {fault, at, from_then_on});
+        kit::MemoryDisk memory(Before());
+        kit::FaultyDisk disk(memory, {fault, at, from_then_on});
         std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
         bool replaced = !outcome || outcome->Retcode == SortDone;
         ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
@@ -97,8 +97,8 @@ TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
 
 TEST_P(EveryCallOfASort, LeavesNothingAsideAfterAFailureThatGoesBy) {
   for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
-    safety::MemoryDisk memory(Before());
-    safety::FaultyDisk disk(memory, {Fault::Full, at});
+    kit::MemoryDisk memory(Before());
+    kit::FaultyDisk disk(memory, {Fault::Full, at});
     std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
     if (outcome && outcome->Retcode != SortDone) {
       EXPECT_EQ(Leftovers(memory), "") << "at call " << at;
@@ -110,8 +110,8 @@ TEST_P(EveryCallOfASort, GoesOnAfterAnInterruptionOrAShortOne) {
   for (Fault fault : {Fault::Interrupted, Fault::Short}) {
     for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
       SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
-      safety::MemoryDisk memory(Before());
-      safety::FaultyDisk disk(memory, {fault, at, fault == Fault::Short});
+      kit::MemoryDisk memory(Before());
+      kit::FaultyDisk disk(memory, {fault, at, fault == Fault::Short});
       std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
       ASSERT_TRUE(outcome);
       ASSERT_EQ(outcome->Retcode, SortDone);
@@ -125,9 +125,9 @@ TEST_P(EveryCallOfASort, IsKilledToTheOldOrTheNewOutput) {
   for (Fault fault : {Fault::Kill, Fault::KillHalfway}) {
     for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
       SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
-      safety::MemoryDisk memory(Before());
-      safety::FaultyDisk disk(memory, {fault, at});
-      ASSERT_THROW(TrySortOn(disk, GetParam()), safety::Killed);
+      kit::MemoryDisk memory(Before());
+      kit::FaultyDisk disk(memory, {fault, at});
+      ASSERT_THROW(TrySortOn(disk, GetParam()), kit::Killed);
       std::string keys = FileOn(memory, "Titlepra.Dat");
       ASSERT_TRUE(keys == OldKeys || keys == NewKeys());
       ExpectSortsAfterwards(memory);
@@ -136,17 +136,17 @@ TEST_P(EveryCallOfASort, IsKilledToTheOldOrTheNewOutput) {
 }
 
 TEST_P(EveryCallOfASort, LosesPowerToTheOldOrTheNewOutput) {
-  safety::MemoryDisk memory(Before());
+  kit::MemoryDisk memory(Before());
   ASSERT_EQ(SortOn(memory, "Titlepra.Dat", TitlesStatement, GetParam()).Retcode, SortDone);
   for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
-    for (const safety::Folder& folder : memory.AfterPowerLoss(moment, 256)) {
+    for (const kit::Folder& folder : memory.AfterPowerLoss(moment, 256)) {
       ASSERT_TRUE(folder.contains("Titlepra.Dat"));
       const std::string& keys = folder.at("Titlepra.Dat");
       ASSERT_TRUE(keys == OldKeys || keys == NewKeys()) << "at moment " << moment;
       ASSERT_EQ(folder.at("Recpra.Dat"), Films());
     }
   }
-  for (const safety::Folder& folder : memory.AfterPowerLoss(memory.Moments(), 256))
+  for (const kit::Folder& folder : memory.AfterPowerLoss(memory.Moments(), 256))
     ASSERT_EQ(folder.at("Titlepra.Dat"), NewKeys()) << "what the sort has reported must stay";
 }
 
@@ -156,8 +156,8 @@ TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
   for (Fault fault : {Fault::Full, Fault::Error, Fault::ShortThenFull}) {
     for (std::size_t at = calls; at < 2 * calls; ++at) {
       SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
-      safety::MemoryDisk memory(Before());
-      safety::FaultyDisk disk(memory, {fault, at});
+      kit::MemoryDisk memory(Before());
+      kit::FaultyDisk disk(memory, {fault, at});
       Sorter sorter(disk, GetParam());
       ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
       runtime::ReplaceFile(memory, "Titlepra.Dat", OldKeys);
@@ -172,10 +172,10 @@ TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
 
 TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
   // Open and length of the input, open and read of the weights stand before all others.
-  safety::MemoryDisk memory(Before());
-  safety::FaultyDisk disk(memory, {Fault::Error, 0});
+  kit::MemoryDisk memory(Before());
+  kit::FaultyDisk disk(memory, {Fault::Error, 0});
   EXPECT_EQ(TrySortOn(disk, {})->Retcode, SortInputUnreadable);
-  class ReadlessInput final : public safety::PassingDisk {
+  class ReadlessInput final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
     std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
@@ -184,7 +184,7 @@ TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
   };
   ReadlessInput readless(memory);
   EXPECT_EQ(SortOn(readless, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
-  class FullDisk final : public safety::PassingDisk {
+  class FullDisk final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
     std::int64_t WriteAt(int, const char*, std::size_t, std::int64_t) override { return -ENOSPC; }

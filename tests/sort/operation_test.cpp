@@ -25,7 +25,7 @@ std::string Key(std::string title, std::string_view number) {
 }
 
 // The status, with neither the output nor the count changed.
-std::int32_t RefusedStatus(safety::MemoryDisk& disk, std::string_view statement) {
+std::int32_t RefusedStatus(kit::MemoryDisk& disk, std::string_view statement) {
   SortOutcome outcome = SortOn(disk, "Titlepra.Dat", statement);
   EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), "the old keys");
@@ -33,16 +33,16 @@ std::int32_t RefusedStatus(safety::MemoryDisk& disk, std::string_view statement)
   return outcome.Retcode;
 }
 
-safety::Folder OldFolder() {
-  safety::Folder folder = FolderWith(Film("Solaris"));
+kit::Folder OldFolder() {
+  kit::Folder folder = FolderWith(Film("Solaris"));
   folder["Titlepra.Dat"] = "the old keys";
   return folder;
 }
 
 TEST(SortOperation, ReplacesTheOutputAndCountsItsRecords) {
-  safety::Folder folder = OldFolder();
+  kit::Folder folder = OldFolder();
   folder["Recpra.Dat"] = Film("solaris") + Film("Brazil") + Film("") + Film("SOLARIS") + Film("Amelie");
-  safety::MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
   EXPECT_EQ(outcome.Retcode, SortDone);
   EXPECT_EQ(outcome.Numrec, 4);
@@ -53,9 +53,9 @@ TEST(SortOperation, ReplacesTheOutputAndCountsItsRecords) {
 
 TEST(SortOperation, MakesAnEmptyOutputOfAnEmptyInput) {
   for (const std::string& master : {std::string(), Film("Solaris").substr(0, 648)}) {
-    safety::Folder folder = OldFolder();
+    kit::Folder folder = OldFolder();
     folder["Recpra.Dat"] = master;
-    safety::MemoryDisk disk(folder);
+    kit::MemoryDisk disk(folder);
     SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
     EXPECT_EQ(outcome.Retcode, SortDone);
     EXPECT_EQ(outcome.Numrec, 0);
@@ -65,19 +65,19 @@ TEST(SortOperation, MakesAnEmptyOutputOfAnEmptyInput) {
 }
 
 TEST(SortOperation, GivesStatus1ForAStatementThatCannotBeRead) {
-  safety::MemoryDisk disk(OldFolder());
+  kit::MemoryDisk disk(OldFolder());
   EXPECT_EQ(RefusedStatus(disk, "S(1,40,C,A) nothing of that kind"), SortStatementUnreadable);
 }
 
 TEST(SortOperation, GivesStatus2WhereTheInputIsMissing) {
-  safety::Folder folder = OldFolder();
+  kit::Folder folder = OldFolder();
   folder.erase("Recpra.Dat");
-  safety::MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortInputUnreadable);
 }
 
 // An input that says to be longer than it is, and counts the reads of it.
-class LongInput final : public safety::PassingDisk {
+class LongInput final : public kit::PassingDisk {
  public:
   LongInput(runtime::Disk& below, std::int64_t more_records) : PassingDisk(below), more_records_(more_records) {}
   int Reads() const { return reads_; }
@@ -96,7 +96,7 @@ class LongInput final : public safety::PassingDisk {
 };
 
 TEST(SortOperation, GivesStatus2ForMoreRecordsThanSevenDigitsNumber) {
-  safety::MemoryDisk memory(OldFolder());
+  kit::MemoryDisk memory(OldFolder());
   LongInput disk(memory, MaxSortRecords);
   SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
   EXPECT_EQ(outcome.Retcode, SortInputUnreadable);
@@ -106,14 +106,14 @@ TEST(SortOperation, GivesStatus2ForMoreRecordsThanSevenDigitsNumber) {
 }
 
 TEST(SortOperation, TakesAsManyRecordsAsSevenDigitsNumber) {
-  safety::MemoryDisk memory(OldFolder());
+  kit::MemoryDisk memory(OldFolder());
   LongInput disk(memory, MaxSortRecords - 1);
   EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
   EXPECT_GT(disk.Reads(), 0);
 }
 
 TEST(SortOperation, GivesStatus2WhereTheInputIsShorterThanItSaid) {
-  safety::MemoryDisk memory(OldFolder());
+  kit::MemoryDisk memory(OldFolder());
   LongInput disk(memory, 1);
   EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
   EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), "the old keys");
@@ -122,24 +122,24 @@ TEST(SortOperation, GivesStatus2WhereTheInputIsShorterThanItSaid) {
 
 TEST(SortOperation, GivesStatus3WhereTheWeightsAreMissingOrOfAnotherLength) {
   for (int length : {-1, 0, 255, 257, 512}) {
-    safety::Folder folder = OldFolder();
+    kit::Folder folder = OldFolder();
     folder.erase("UPPER.ALT");
     if (length >= 0) folder["UPPER.ALT"] = std::string(static_cast<std::size_t>(length), 'A');
-    safety::MemoryDisk disk(folder);
+    kit::MemoryDisk disk(folder);
     EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortWeightsUnreadable) << length;
   }
 }
 
 TEST(SortOperation, NeedsNoWeightsWhereTheStatementNamesNone) {
-  safety::Folder folder = FolderWith(Film("b") + Film("C") + Film("a") + Film("\xE9"));
+  kit::Folder folder = FolderWith(Film("b") + Film("C") + Film("a") + Film("\xE9"));
   folder.erase("UPPER.ALT");
-  safety::MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   EXPECT_EQ(SortOn(disk, "out", "S(1,1,C,A) OUTREC(1,1) Record(649)").Retcode, SortDone);
   EXPECT_EQ(FileOn(disk, "out"), "Cab\xE9");
 }
 
 TEST(SortOperation, GivesStatus4WhereTheOutputCannotBePut) {
-  safety::MemoryDisk disk(OldFolder());
+  kit::MemoryDisk disk(OldFolder());
   SortOutcome outcome = SortOn(disk, "no such folder/Titlepra.Dat", TitlesStatement);
   EXPECT_EQ(outcome.Retcode, SortOutputUnwritable);
   EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
@@ -147,7 +147,7 @@ TEST(SortOperation, GivesStatus4WhereTheOutputCannotBePut) {
 }
 
 TEST(SortOperation, ComparesAConstantAsIfPaddedWithBlanks) {
-  safety::MemoryDisk disk(FolderWith(Film("Ran") + Film("Rango") + Film("ran") + Film("Ram")));
+  kit::MemoryDisk disk(FolderWith(Film("Ran") + Film("Rango") + Film("ran") + Film("Ram")));
   SortOn(disk, "out", "S(1,5,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,5,Arrn) Include(1,40,C,EQ,\"RAN\") Record(649)");
   EXPECT_EQ(FileOn(disk, "out"), "Ran  0000001ran  0000003");
   SortOn(disk, "out", "S(1,5,C,A) OUTREC(1,5,Arrn) Include(1,3,C,EQ,\"Ran  \") Record(649)");
@@ -164,7 +164,7 @@ TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
   for (int piece = 0; piece < 12; ++piece) pieces += piece == 0 ? "1,32767" : ",1,32767";
   for (std::int64_t two_workers_from : {1, 100}) {
     for (std::size_t memory : {std::size_t{1}, std::size_t{64} << 20}) {
-      safety::MemoryDisk memory_disk(FolderWith(records));
+      kit::MemoryDisk memory_disk(FolderWith(records));
       SharedDisk disk(memory_disk);
       SortOutcome outcome =
           SortOn(disk, "out", "S(1,1,C,A) OUTREC(" + pieces + ") Record(32767)", {memory, two_workers_from});
@@ -179,17 +179,17 @@ TEST(SortOperation, KeepsTheOrderOfRecordsThatAreEqualInALongKey) {
   std::string records(3 * LongestRecord, 'a');
   std::string fields = "1,32767,C,A";
   for (int field = 1; field < 64; ++field) fields += ",1,32767,C,A";
-  safety::MemoryDisk disk(FolderWith(records));
+  kit::MemoryDisk disk(FolderWith(records));
   SortOutcome outcome = SortOn(disk, "out", "S(" + fields + ") OUTREC(Arrn) Record(32767)");
   EXPECT_EQ(outcome.Retcode, SortDone);
   EXPECT_EQ(FileOn(disk, "out"), "000000100000020000003");
 }
 
 TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
-  safety::Folder folder = OldFolder();
+  kit::Folder folder = OldFolder();
   folder[".reelora/Titlepra.Dat.new"] = std::string(5000, '?');
   folder[".reelora/Titlepra.Dat.runs.new"] = std::string(5000, '?');
-  safety::MemoryDisk disk(folder);
+  kit::MemoryDisk disk(folder);
   EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, {1, 100}).Retcode, SortDone);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Solaris", "0000001"));
   EXPECT_EQ(Leftovers(disk), "");

@@ -3,17 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
+#include <fstream>
 #include <random>
 
 #include "runtime/text.h"
 #include "runtime/whole_io.h"
 #include "sort/statement.h"
 #include "store/film_record.h"
+#include "tests/kit/source_tree.h"
 #include "tests/sort/calls.h"
 #include "tests/story/sort_reference.h"
-#include "tests/story/world.h"
+#include "tools/film_text.h"
 
 namespace sort {
 namespace {
@@ -98,17 +98,16 @@ TEST(SortProperty, LargeCollectionsComeOutAsTheReference) {
 }
 
 TEST(SortProperty, TheRealFilmsComeOutAsTheReference) {
-  const char* shared = std::getenv("REELORA_SHARED");
-  std::filesystem::path folder = shared ? shared : REELORA_SOURCE "/../shared";
-  auto master = story::ReadBytes(folder / "collections/films-3200/Recpra.Dat");
-  if (!master) GTEST_SKIP() << "there are no real films in " << folder << " (REELORA_SHARED)";
-  ASSERT_EQ(master->size(), 3200u * store::RecordLength);
-  ExpectAsReference(*master, {});
-  ExpectAsReference(*master, {10'000, 0});
-  ExpectAsReference(*master, {100'000, 1'000'000});
+  std::ifstream text(kit::SourceFolder() / "tests/sort/real_films.txt");
+  const tools::FilmText films = tools::ReadFilmText(text, "real_films.txt");
+  ASSERT_EQ(films.Faults, "");
+  ASSERT_EQ(films.MasterFile.size(), 3200u * store::RecordLength);
+  ExpectAsReference(films.MasterFile, {});
+  ExpectAsReference(films.MasterFile, {10'000, 0});
+  ExpectAsReference(films.MasterFile, {100'000, 1'000'000});
 }
 
-// Something happens to the films behind the back of a sorter.
+// Changes the films between two sorts of one sorter.
 void Change(std::string& master, Chance& chance) {
   const std::size_t films = master.size() / store::RecordLength;
   auto film = [&] { return chance.Below(films) * store::RecordLength; };
@@ -137,7 +136,7 @@ TEST(SortProperty, OneSorterSeesWhatHasChangedSinceItsLastSort) {
   Chance chance(77);
   for (int collection = 0; collection < 300; ++collection) {
     std::string master = RandomCollection(chance, 40);
-    safety::MemoryDisk memory(FolderWith(master));
+    kit::MemoryDisk memory(FolderWith(master));
     SharedDisk disk(memory);
     Sorter sorter(disk, RandomLimits(chance));
     for (int sort = 0; sort < 12; ++sort) {
@@ -259,7 +258,7 @@ TEST(SortProperty, AnyStatementDoesWhatItSays) {
   Chance chance(649);
   for (int trial = 0; trial < 500; ++trial) {
     std::string input = chance.Text(chance.Below(400), "aAbB\xE9\xC9 ~");
-    safety::MemoryDisk memory(FolderWith(input));
+    kit::MemoryDisk memory(FolderWith(input));
     SharedDisk disk(memory);
     Sorter sorter(disk, RandomLimits(chance));
     AnyStatement sort = RandomSort(chance);

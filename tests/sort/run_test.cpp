@@ -8,16 +8,17 @@
 #include <vector>
 
 #include "app/program.h"
-#include "bench/quiet_desk.h"
 #include "runtime/clock.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/quiet_desk.h"
+#include "tests/kit/source_tree.h"
 #include "tests/story/set_up.h"
 
 namespace screen {
 namespace {
 
 // A desk with an eye on the moments of a run; nobody answers its boxes but with No.
-class WatchedDesk final : public bench::QuietDesk {
+class WatchedDesk final : public kit::QuietDesk {
  public:
   std::function<void()> OnPaint = [] {}, OnBeep = [] {};
 
@@ -33,14 +34,14 @@ class WatchedDesk final : public bench::QuietDesk {
 class SortRunTest : public testing::Test {
  protected:
   SortRunTest() {
-    story::LayOutFolder(World, REELORA_SOURCE "/delivered");
+    story::LayOutFolder(World, kit::DeliveredFolder());
     for (const char* line : {"film 1 Title=\"Solaris\" Format=\"D\"", "film 2 Title=\"Alien\" Format=\"L\"",
                              "film 3 Title=\"Ran\" Format=\"D\""}) {
       story::SetUp(World, story::ParseLine(line, 1), World.Folder);
     }
   }
 
-  story::FreshFolder Folder;
+  kit::FreshFolder Folder;
   story::World World{.Folder = Folder.Path()};
   runtime::RealDisk Disk{Folder.Path().string()};
   WatchedDesk Desk;

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/source_tree.h"
 
 namespace story {
 namespace {
@@ -14,7 +15,7 @@ class SetUpTest : public testing::Test {
  protected:
   SetUpTest() : world{fresh.Path() / "folder"} {
     fs::create_directory(world.Folder);
-    LayOutFolder(world, REELORA_DELIVERED);
+    LayOutFolder(world, kit::DeliveredFolder());
   }
   void Play(std::string_view line) { story::SetUp(world, ParseLine(line, 5), fresh.Path()); }
   std::string Bytes(std::string_view name) const { return ReadBytes(world.Folder / name).value_or("(missing)"); }
@@ -28,7 +29,7 @@ class SetUpTest : public testing::Test {
     return false;
   }
 
-  FreshFolder fresh;
+  kit::FreshFolder fresh;
   World world;
 };
 

@@ -6,8 +6,9 @@
 #include <map>
 #include <utility>
 
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/source_tree.h"
 #include "tests/story/bare_player.h"
-#include "tests/story/fresh_folder.h"
 #include "tests/story/set_up.h"
 
 namespace story {
@@ -40,7 +41,7 @@ class Performance {
 
   // Throws Difference, the first.
   void Play() {
-    LayOutFolder(world_, REELORA_DELIVERED);
+    LayOutFolder(world_, kit::DeliveredFolder());
     for (std::size_t at = 0; at < lines_.size();) at = PlayFrom(at);
   }
 
@@ -167,7 +168,7 @@ std::optional<Difference> PlayStory(const fs::path& path, const RunnerOptions& o
   } catch (const Difference& difference) {
     return difference;
   }
-  FreshFolder fresh(options.Keep);
+  kit::FreshFolder fresh(options.Keep);
   fs::path folder = fresh.Path() / "folder";
   fs::create_directory(folder);
   if (options.Keep) std::cout << path.string() << ": kept in " << folder.string() << "\n";

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
 
 namespace story {
 namespace {
@@ -20,7 +20,7 @@ class StoryRunnerTest : public testing::Test {
     return difference ? std::to_string(difference->Line) + ": " + difference->What : "";
   }
 
-  FreshFolder fresh;
+  kit::FreshFolder fresh;
 };
 
 TEST_F(StoryRunnerTest, PlaysAStory) {

@@ -10,7 +10,7 @@
 
 #include "runtime/disk.h"
 
-namespace safety {
+namespace kit {
 
 // Names, those in the safety folder with its name before them, and contents.
 using Folder = std::map<std::string, std::string>;
@@ -69,4 +69,4 @@ class MemoryDisk final : public runtime::Disk {
 // The folder's part of a name, "" for none.
 std::string FolderOf(const std::string& name);
 
-}  // namespace safety
+}  // namespace kit

@@ -1,5 +1,5 @@
-// The system's own way to make a folder that nobody else has.
-#include "tests/story/fresh_folder.h"
+// mkdtemp makes a folder that nobody else has.
+#include "tests/kit/fresh_folder.h"
 
 #include <stdlib.h>
 
@@ -7,12 +7,12 @@
 #include <string>
 #include <system_error>
 
-namespace story {
+namespace kit {
 
 namespace fs = std::filesystem;
 
 FreshFolder::FreshFolder(bool keep) : keep_(keep) {
-  std::string pattern = (fs::temp_directory_path() / "reelora-story-XXXXXX").string();
+  std::string pattern = (fs::temp_directory_path() / "reelora-XXXXXX").string();
   if (!mkdtemp(pattern.data()))
     throw fs::filesystem_error("no temporary folder", pattern, std::error_code(errno, std::generic_category()));
   path_ = pattern;
@@ -23,4 +23,4 @@ FreshFolder::~FreshFolder() {
   if (!keep_) fs::remove_all(path_, left_behind);
 }
 
-}  // namespace story
+}  // namespace kit

@@ -1,4 +1,4 @@
-// A desk that answers as a test has planned, and keeps what it was asked.
+// A desk that gives planned answers and keeps what it was asked.
 #pragma once
 
 #include <deque>
@@ -7,19 +7,20 @@
 #include <string>
 #include <vector>
 
-#include "bench/quiet_desk.h"
+#include "tests/kit/quiet_desk.h"
 
-class AnsweringDesk final : public bench::QuietDesk {
+namespace kit {
+
+class AnsweringDesk final : public QuietDesk {
  public:
-  // The answers to come, Yes when there are no more; the colours to come, nothing is Cancel.
+  // Used front to back; after the last, Yes. An empty colour cancels the dialog.
   std::deque<forms::Answer> Answers;
   std::deque<std::optional<std::uint32_t>> Colours;
-  // The folder of the disk in each drive; nothing where it holds none.
+  // The folder of the disk in each drive; nothing if the drive is empty.
   std::map<char, std::optional<std::string>> Drives;
 
   std::vector<std::string> Boxes;
   std::vector<std::uint32_t> ColourStarts;
-  std::string Reported;
 
   std::optional<std::uint32_t> ColourDialog(std::uint32_t start) override {
     ColourStarts.push_back(start);
@@ -31,7 +32,6 @@ class AnsweringDesk final : public bench::QuietDesk {
     return letters;
   }
   std::optional<std::string> DriveFolder(char letter) override { return Drives[letter]; }
-  void FailureReport(std::string_view failure, std::string_view) override { Reported = failure; }
 
  private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
@@ -47,3 +47,5 @@ class AnsweringDesk final : public bench::QuietDesk {
     return front;
   }
 };
+
+}  // namespace kit

@@ -1,13 +1,13 @@
-// A new, empty folder among this machine's temporary ones, removed with everything in it at the end of its life.
+// A temporary folder, deleted on destruction.
 #pragma once
 
 #include <filesystem>
 
-namespace story {
+namespace kit {
 
 class FreshFolder {
  public:
-  // Keep: it stays when its life ends. Throws std::filesystem::filesystem_error where it cannot be made.
+  // Keep: the folder outlives the object. Throws std::filesystem::filesystem_error if it cannot be made.
   explicit FreshFolder(bool keep = false);
   FreshFolder(const FreshFolder&) = delete;
   FreshFolder& operator=(const FreshFolder&) = delete;
@@ -20,4 +20,4 @@ class FreshFolder {
   bool keep_;
 };
 
-}  // namespace story
+}  // namespace kit

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 
-namespace safety {
+namespace kit {
 
 // What a disk throws at which the program was killed; no call is answered after it.
 struct Killed {};
@@ -67,4 +67,4 @@ class FaultyDisk final : public runtime::Disk {
   std::size_t calls_ = 0;
 };
 
-}  // namespace safety
+}  // namespace kit

@@ -7,7 +7,7 @@
 
 #include "runtime/disk.h"
 
-namespace safety {
+namespace kit {
 
 class PassingDisk : public runtime::Disk {
  public:
@@ -44,4 +44,4 @@ class PassingDisk : public runtime::Disk {
   std::map<int, std::string> names_;
 };
 
-}  // namespace safety
+}  // namespace kit

@@ -1,11 +1,11 @@
 // The disk of these tests: what a loss of power may leave, and what a sync rules out.
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-namespace safety {
+namespace kit {
 namespace {
 
 using Mode = runtime::Disk::Mode;
@@ -95,4 +95,4 @@ TEST(PowerLoss, IsSampledWithNothingAndEverythingWhereTheStatesAreMany) {
 }
 
 }  // namespace
-}  // namespace safety
+}  // namespace kit

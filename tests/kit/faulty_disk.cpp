@@ -1,10 +1,10 @@
 // The count of the calls, and what a fault makes of each.
-#include "tests/safety/faulty_disk.h"
+#include "tests/kit/faulty_disk.h"
 
 #include <algorithm>
 #include <cerrno>
 
-namespace safety {
+namespace kit {
 namespace {
 
 constexpr std::int64_t PageBytes = 4096;
@@ -119,4 +119,4 @@ std::vector<std::string> FaultyDisk::List(const std::string& folder) {
   return error == 0 ? names : std::vector<std::string>();
 }
 
-}  // namespace safety
+}  // namespace kit

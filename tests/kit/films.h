@@ -4,9 +4,9 @@
 #include <string>
 
 #include "screen/frmPage1.h"
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 
-namespace safety {
+namespace kit {
 
 // The film that slot holds in its version; every byte of a long field differs between two versions.
 std::string FilmBytes(int slot, int version);
@@ -17,4 +17,4 @@ void TypeFilm(frmPage1& screen, int slot, int version);
 // The files that a start needs, as delivered, and a master file of that many films in version 0, with that behind them.
 Folder FolderOfFilms(int films, const std::string& behind = "");
 
-}  // namespace safety
+}  // namespace kit

@@ -1,5 +1,5 @@
 // The fields that a collector types text into, and what stands in them.
-#include "tests/safety/films.h"
+#include "tests/kit/films.h"
 
 #include <filesystem>
 #include <fstream>
@@ -7,8 +7,9 @@
 
 #include "store/film_record.h"
 #include "store/master_file.h"
+#include "tests/kit/source_tree.h"
 
-namespace safety {
+namespace kit {
 namespace {
 
 using store::FilmField;
@@ -53,7 +54,7 @@ std::string TextOf(FilmField field, int slot, int version) {
 
 Folder Delivered() {
   Folder folder;
-  for (const auto& entry : std::filesystem::directory_iterator(REELORA_SOURCE "/delivered")) {
+  for (const auto& entry : std::filesystem::directory_iterator(DeliveredFolder())) {
     if (!entry.is_regular_file()) continue;
     std::ifstream file(entry.path(), std::ios::binary);
     folder[entry.path().filename()] = std::string(std::istreambuf_iterator<char>(file), {});
@@ -90,4 +91,4 @@ Folder FolderOfFilms(int films, const std::string& behind) {
   return folder;
 }
 
-}  // namespace safety
+}  // namespace kit

@@ -1,10 +1,10 @@
 // The live files, which stand in nodes, and the log of what happens to them.
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 
 #include <cerrno>
 #include <utility>
 
-namespace safety {
+namespace kit {
 namespace {
 
 std::int64_t SectorOf(std::int64_t offset) { return offset / static_cast<std::int64_t>(SectorBytes); }
@@ -136,4 +136,4 @@ std::vector<std::string> MemoryDisk::List(const std::string& folder) {
   return names;
 }
 
-}  // namespace safety
+}  // namespace kit

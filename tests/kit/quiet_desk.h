@@ -1,17 +1,18 @@
-// A desk on which nobody sits: boxes are answered with their affirmative, nothing is drawn.
+// A desk that answers OK or Yes, draws nothing and keeps the failure that stopped the program.
 #pragma once
-
-#include <utility>
 
 #include "forms/desk.h"
 #include "runtime/clock.h"
 
-namespace bench {
+namespace kit {
 
 class QuietDesk : public forms::Desk {
  public:
-  // What the next input box gets as its answer.
+  // The answer to every input box.
   std::string NextAnswer;
+  // The failure that stopped the program and its file, "" if none did.
+  std::string Reported;
+  std::string ReportedFile;
 
   std::string InputBox(std::string_view, std::string_view) override { return NextAnswer; }
   void Beep() override {}
@@ -26,15 +27,14 @@ class QuietDesk : public forms::Desk {
   void RepaintNow() override {}
   void Closed() override {}
   void FailureReport(std::string_view failure, std::string_view file) override {
-    Failure = std::string(failure) + " " + std::string(file);
+    Reported = failure;
+    ReportedFile = file;
   }
-  // What stopped the program, "" if nothing did.
-  std::string Failure;
 
- private:
+ protected:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view, forms::Buttons buttons) override {
     return buttons == forms::Buttons::Ok ? forms::Answer::Ok : forms::Answer::Yes;
   }
 };
 
-}  // namespace bench
+}  // namespace kit

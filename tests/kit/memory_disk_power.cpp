@@ -4,9 +4,9 @@
 #include <random>
 #include <utility>
 
-#include "tests/safety/memory_disk.h"
+#include "tests/kit/memory_disk.h"
 
-namespace safety {
+namespace kit {
 namespace {
 
 // Something on the disk that takes its values in turn: what is safe, and the values since, of which any may be found.
@@ -166,4 +166,4 @@ std::vector<Folder> MemoryDisk::AfterPowerLoss(std::size_t moment, std::size_t m
   return folders;
 }
 
-}  // namespace safety
+}  // namespace kit
