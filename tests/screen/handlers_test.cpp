@@ -7,17 +7,17 @@
 #include <string>
 
 #include "app/program.h"
-#include "bench/quiet_desk.h"
 #include "screen/entry_fields.h"
-#include "tests/story/fresh_folder.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/quiet_desk.h"
 
 namespace {
 
 class Wiring : public testing::Test {
  protected:
-  story::FreshFolder folder_;
+  kit::FreshFolder folder_;
   runtime::RealDisk disk_{folder_.Path()};
-  bench::QuietDesk desk_;
+  kit::QuietDesk desk_;
   Program program_{desk_, disk_};
   frmPage1& screen_ = program_.RecordScreen;
 };
