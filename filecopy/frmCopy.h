@@ -15,10 +15,10 @@ namespace filecopy {
 inline constexpr std::string_view Pattern = "*.dat";
 
 // clang-format off
-inline constexpr forms::Look HeadingLook = { forms::Yellow, forms::Blue,  true,  "Arial", 16,   true };
-inline constexpr forms::Look StepLook    = { forms::Yellow, forms::Blue,  true,  "Arial", 10,   true };
-inline constexpr forms::Look AgainLook   = { forms::White,  forms::Blue,  true,  "Arial", 14,   true };
-inline constexpr forms::Look PickerLook  = { forms::Black,  forms::White, false, "Arial", 10,   false };
+inline constexpr forms::Look HeadingLook = { .Fore = forms::Yellow, .Back = forms::Blue, .Transparent = true, .FontSize = 16, .Bold = true };
+inline constexpr forms::Look StepLook    = { .Fore = forms::Yellow, .Back = forms::Blue, .Transparent = true, .FontSize = 10, .Bold = true };
+inline constexpr forms::Look AgainLook   = { .Fore = forms::White,  .Back = forms::Blue, .Transparent = true, .FontSize = 14, .Bold = true };
+inline constexpr forms::Look PickerLook  = { .Fore = forms::Black,  .Back = forms::White, .FontSize = 10 };
 // clang-format on
 
 }  // namespace filecopy

@@ -1,4 +1,4 @@
-// A quick look that passes over most films: whether a stretch of a record may hold a text at all.
+// A fast pre-filter for searches: skips most films whose fields cannot contain the text.
 #pragma once
 
 #include <array>
@@ -9,23 +9,22 @@ namespace find {
 
 class FilmFilter {
  public:
-  // Capitals: the text sought; the stretch runs from an offset on for so many bytes of each record.
+  // Capitals: the text sought. Offset and width: the part of each record to search.
   FilmFilter(std::string_view capitals, int offset, int width);
-  // How many whole records at the front of these bytes, most at the most, do not have the first two characters of the
-  // text side by side in the stretch, in either case. 0 for a text of fewer characters.
-  std::int64_t CountNonMatches(std::string_view records, std::int64_t most) const;
+  // Counts the leading whole records, at most `limit`, that do not contain the text's first two characters next to each
+  // other, ignoring case. 0 for a text of fewer than two characters.
+  std::int64_t CountNonMatches(std::string_view records, std::int64_t limit) const;
 
  private:
-  // A byte is the character, in either case, when the bits that do not tell the case are the same. Now and then another
-  // byte passes, too.
+  // Compares a byte with the bits that differ by case masked out, so a few other bytes match too.
   struct CharacterTest {
     unsigned char Mask = 0;
     unsigned char Bits = 0;
   };
   static CharacterTest TestOf(char capital);
-  bool MayHold(const char* record) const;
+  bool MayContain(const char* record) const;
 
-  bool takes_any_ = false;
+  bool matches_any_ = false;
   std::size_t offset_ = 0;
   std::size_t pairs_ = 0;
   std::array<CharacterTest, 2> tests_{};

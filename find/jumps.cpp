@@ -1,11 +1,11 @@
-// The direct jumps: to a number, to the highest slot, to the film entered last.
+// The direct jumps: to a record number, to the last record, to the film entered last.
 #include "screen/frmPage1.h"
 
 namespace {
 
-// Runs a statement of a handler that passes over what fails.
+// Runs a step and ignores its failure.
 template <typename Statement>
-void PassOverFailure(Statement statement) {
+void IgnoreFailure(Statement statement) {
   try {
     statement();
   } catch (const runtime::Failure&) {
@@ -21,7 +21,7 @@ void LeaveViewForJump(frmPage1& window, std::string_view heading) {
   window.cmdPrevious.Enable();
 }
 
-// The film is shown before its number is looked at; there is no test for a number too low.
+// The film is shown before its number is tested; a number below 1 is not tested at all.
 void EndJumpPastLast(frmPage1& window) {
   if (window.CurrentRecNo <= window.RecordCount) return;
   window.Desk.MessageBox(forms::Icon::Warning, "Reelora Prima ", "End of file!");
@@ -60,13 +60,13 @@ void frmPage1::mnuLast_Click() {
 }
 
 void frmPage1::mnuLastEntry_Click() {
-  PassOverFailure([this] { Files.OpenInput(CountFileNo, "Last"); });
-  PassOverFailure([this] { LastEntryRecNo = Files.ReadItem(CountFileNo); });
-  PassOverFailure([this] { Files.Close(CountFileNo); });
-  PassOverFailure([this] { CurrentRecNo = runtime::WholeNumber(LastEntryRecNo, "Last"); });
-  PassOverFailure([this] { ReadRecord(CurrentRecNo); });
+  IgnoreFailure([this] { Files.OpenInput(CountFileNo, "Last"); });
+  IgnoreFailure([this] { LastEntryRecNo = Files.ReadItem(CountFileNo); });
+  IgnoreFailure([this] { Files.Close(CountFileNo); });
+  IgnoreFailure([this] { CurrentRecNo = runtime::WholeNumber(LastEntryRecNo, "Last"); });
+  IgnoreFailure([this] { ReadRecord(CurrentRecNo); });
   txtGenreList.SetText("");
   txtLetter.SetText("");
-  PassOverFailure([this] { ShowRecord(); });
-  PassOverFailure([this] { EndJumpPastLast(*this); });
+  IgnoreFailure([this] { ShowRecord(); });
+  IgnoreFailure([this] { EndJumpPastLast(*this); });
 }

@@ -1,30 +1,33 @@
-// A field search: the master file is read in record order up to the first film whose field holds the text asked for, in
-// capitals on both sides. An entry asks for the text, or goes on with the one it kept.
+// Reads the master file in record order up to the first film whose field contains the text, both sides in capitals. A
+// run asks for the text, or continues with the stored one.
 #include "find/search.h"
 
 #include "runtime/text.h"
+#include "store/film_codes.h"
 
 namespace find {
 
 using forms::Icon;
 
-bool Search::KillsNext() const { return search_.Way == Way::Title; }
-bool Search::LooksAtStars() const { return search_.Way == Way::Stars; }
+bool Search::DisablesNext() const { return search_.Way == Way::Title; }
+bool Search::SearchesStars() const { return search_.Way == Way::Stars; }
 bool Search::MustEqual() const { return search_.Way == Way::Equal; }
+
+void ClearStarHits(frmPage1& window) {
+  for (const StarRow& star : LaterStars) window.*star.Hit = 0;
+}
 
 void Search::Run() {
   window_.SearchState = 1;
-  if (KillsNext()) window_.FindPending = 1;
+  if (DisablesNext()) window_.FindPending = 1;
   window_.Files.Close(KeyFileNo);
-  for (auto flag : ResumeFlags) {
-    bool kept = flag == search_.Resume || (flag == &State::ResumeDirector && !KillsNext());
-    if (!kept) window_.*flag = 0;
+  for (const FieldSearch& other : Searches) {
+    bool kept = other.Resume == search_.Resume || (other.Resume == &State::ResumeDirector && !DisablesNext());
+    if (!kept) window_.*other.Resume = 0;
   }
   window_.lblHead.SetCaption(search_.Heading);
-  if (search_.Match != MatchButton::Leaves) window_.cmdMatch.Enable();
-  if (search_.Match == MatchButton::EnablesAndNames) window_.cmdMatch.SetCaption("&Match");
-  if ((KillsNext() || LooksAtStars()) && window_.CurrentRecNo == 1) window_.RowCursor = 0;
-  bool resumes = KillsNext() ? TitleResumes() : Resumes();
+  if ((DisablesNext() || SearchesStars()) && window_.CurrentRecNo == 1) window_.RowCursor = 0;
+  bool resumes = DisablesNext() ? TitleResumes() : Resumes();
   if (!resumes && !AskText()) return;
   Scan();
 }
@@ -44,7 +47,7 @@ bool Search::Resumes() {
   return false;
 }
 
-// The title search looks at its flag before it looks at KeyFilePos.
+// The title search tests its flag before KeyFilePos.
 bool Search::TitleResumes() {
   if (window_.ResumeTitle == 0) {
     window_.KeyFilePos = 0;
@@ -59,11 +62,11 @@ bool Search::TitleResumes() {
   return false;
 }
 
-// False on an empty answer. The star search alone quotes the text as typed.
+// False after an empty answer. Only the star search later quotes the text as typed.
 bool Search::AskText() {
   screen::Text& query = window_.*search_.Query;
-  std::string answer = window_.Desk.InputBox(search_.Title, search_.Prompt);
-  if (LooksAtStars()) window_.StarTyped = answer;
+  std::string answer = window_.Desk.InputBox(search_.BoxTitle, search_.Prompt);
+  if (SearchesStars()) window_.StarTyped = answer;
   query = answer;
   if (answer.empty()) {
     window_.cmdReset_Click();
@@ -75,59 +78,56 @@ bool Search::AskText() {
   return true;
 }
 
-// Most films are passed over where they were read to; only one that may hold the text comes into CurrentFilm. The slot
-// behind the last is read before the end is told.
+// Most films are rejected in the read buffer; only those that may contain the text are read into CurrentFilm. The slot
+// past the last is read before the end is reported.
 void Search::Scan() {
   window_.MatchKind = search_.Kind;
   const std::int64_t last = window_.RecordCount;
   // The stars report may have left the kept text in small letters.
-  if (LooksAtStars() && window_.CurrentRecNo <= last) window_.StarQuery = runtime::Upper(window_.StarQuery);
+  if (SearchesStars() && window_.CurrentRecNo <= last) window_.StarQuery = runtime::Upper(window_.StarQuery);
   const FilmFilter filter = MakeFilter();
-  bool passed = false;
+  bool skipped = false;
   for (window_.ScanRecNo = window_.CurrentRecNo; window_.ScanRecNo <= last + 1; window_.ScanRecNo += 1) {
-    passed = PassOver(filter, last) || passed;
-    bool behind_end = Ahead().empty();
+    skipped = SkipNonMatches(filter, last) || skipped;
+    bool past_end = ReadAhead().empty();
     if (window_.ScanRecNo == last + 1) {
-      Close();
+      ReportEnd();
       return;
     }
-    // A slot behind the end of the file reads as the film before it, which has been passed over.
-    if (behind_end && passed) continue;
-    passed = false;
+    // A slot past the end of the file reads as the film before it, which was skipped.
+    if (past_end && skipped) continue;
+    skipped = false;
     window_.ReadRecord(window_.ScanRecNo);
     if (!Hits()) continue;
     window_.CurrentRecNo = window_.ScanRecNo;
     window_.ShowRecord();
     window_.RowCursor += 1;
-    HeadHit();
+    ShowHitHeading();
     return;
   }
 }
 
-std::string_view Search::Ahead() {
+std::string_view Search::ReadAhead() {
   return window_.Files.Peek(static_cast<int>(window_.MasterFileNo), window_.ScanRecNo);
 }
 
-// Goes on to the next film that may hit, to the end of the file or behind the last; tells whether films were passed
-// over. They leave behind what testing a film that does not hit leaves.
-bool Search::PassOver(const FilmFilter& filter, std::int64_t last) {
+// Skips to the next film that may match; true if it skipped any. The hit positions end as if each film had been tested.
+bool Search::SkipNonMatches(const FilmFilter& filter, std::int64_t last) {
   std::int64_t first = window_.ScanRecNo;
   while (window_.ScanRecNo <= last) {
-    std::int64_t films = filter.CountNonMatches(Ahead(), last + 1 - window_.ScanRecNo);
+    std::int64_t films = filter.CountNonMatches(ReadAhead(), last + 1 - window_.ScanRecNo);
     if (films == 0) break;
     window_.ScanRecNo += films;
   }
   if (window_.ScanRecNo == first) return false;
   window_.MatchPos = 0;
-  if (LooksAtStars()) {
-    for (const StarRow& star : LaterStars) window_.*star.Hit = 0;
-  }
+  if (SearchesStars()) ClearStarHits(window_);
   return true;
 }
 
 FilmFilter Search::MakeFilter() const {
   const store::FilmFieldRow& first = store::RowOf(search_.Field);
-  const store::FilmFieldRow& last = store::RowOf(LooksAtStars() ? FilmField::Star6 : search_.Field);
+  const store::FilmFieldRow& last = store::RowOf(SearchesStars() ? FilmField::Star6 : search_.Field);
   return {(window_.*search_.Query).Value(), first.Offset, last.Offset + last.Width - first.Offset};
 }
 
@@ -137,7 +137,7 @@ std::int64_t Search::PositionIn(FilmField field) const {
 }
 
 bool Search::Hits() {
-  if (LooksAtStars()) return StarHits();
+  if (SearchesStars()) return StarHits();
   if (MustEqual()) {
     bool equal = runtime::Upper(runtime::Trim(window_.CurrentFilm.Get(search_.Field))) == window_.MPAAQuery.Value();
     window_.MatchPos = equal ? 1 : 0;
@@ -147,7 +147,7 @@ bool Search::Hits() {
   return window_.MatchPos > 0;
 }
 
-// Each star is looked at only if the one before it has not hit; a hit left from an earlier search stops the chain, too.
+// Tests a star only if the one before it did not match; a hit left from an earlier search stops the chain too.
 bool Search::StarHits() {
   window_.MatchPos = PositionIn(FilmField::Star1);
   bool hit = window_.MatchPos > 0;
@@ -160,19 +160,20 @@ bool Search::StarHits() {
   return hit;
 }
 
-void Search::HeadHit() {
+void Search::ShowHitHeading() {
+  if (search_.AfterHit == HitText::Unchanged) return;
   std::string heading(search_.HitHeading);
   std::string_view field = window_.CurrentFilm.Get(search_.Field);
-  if (search_.AfterHit == HitText::Unchanged) return;
   if (search_.AfterHit == HitText::Whole) heading += field;
   if (search_.AfterHit == HitText::Trimmed) heading += runtime::Trim(field);
-  if (LooksAtStars()) heading += NameOfStarHit();
+  if (SearchesStars()) heading += NameOfStarHit();
   if (MustEqual())
-    heading.append(window_.txtRating.Text().starts_with("TV") ? "TV Rating is  " : "MPAA Rating is  ").append(field);
+    heading.append(window_.txtRating.Text().starts_with(store::TVRatingStart) ? "TV Rating is  " : "MPAA Rating is  ")
+        .append(field);
   window_.lblHead.SetCaption(heading);
 }
 
-// The last star that hit wins.
+// The last star that matches wins.
 std::string_view Search::NameOfStarHit() const {
   std::string_view name = window_.CurrentFilm.Get(FilmField::Star1);
   for (const StarRow& star : LaterStars) {
@@ -181,18 +182,18 @@ std::string_view Search::NameOfStarHit() const {
   return name;
 }
 
-void Search::Close() {
+void Search::ReportEnd() {
   window_.Desk.Beep();
   bool found_before = window_.RowCursor > 0;
   if (found_before) {
     window_.Desk.MessageBox(Icon::Warning, search_.EndTitle, "End of file!");
   } else {
     std::string text(search_.MissedLead);
-    text.append("\"").append(LooksAtStars() ? window_.StarTyped.Value() : (window_.*search_.Query).Value());
+    text.append("\"").append(SearchesStars() ? window_.StarTyped.Value() : (window_.*search_.Query).Value());
     window_.Desk.MessageBox(Icon::Warning, search_.MissedTitle, text.append("\"").append(search_.MissedTail));
   }
   window_.cmdReset_Click();
-  if (KillsNext() && found_before) window_.cmdReset_Click();
+  if (DisablesNext() && found_before) window_.cmdReset_Click();
 }
 
 }  // namespace find

@@ -1,4 +1,4 @@
-// One entry to a field search.
+// One run of a field search.
 #pragma once
 
 #include <cstdint>
@@ -6,11 +6,10 @@
 
 #include "find/field_search.h"
 #include "find/film_filter.h"
-#include "screen/frmPage1.h"
 
 namespace find {
 
-// The stars behind the first, and where the hit in each is kept.
+// Stars 2 to 6, and where the position of the text in each is stored.
 struct StarRow {
   FilmField Field;
   screen::Number16 State::*Hit;
@@ -25,29 +24,31 @@ inline constexpr StarRow LaterStars[] = {
 };
 // clang-format on
 
+void ClearStarHits(frmPage1& window);
+
 class Search {
  public:
   Search(frmPage1& window, const FieldSearch& search) : window_(window), search_(search) {}
-  // Shows the next film that hits, or says that there is none and resets the screen.
+  // Shows the next film that matches, or reports that there is none and resets the screen.
   void Run();
 
  private:
-  bool KillsNext() const;
-  bool LooksAtStars() const;
+  bool DisablesNext() const;
+  bool SearchesStars() const;
   bool MustEqual() const;
   bool Resumes();
   bool TitleResumes();
   bool AskText();
   void Scan();
   FilmFilter MakeFilter() const;
-  std::string_view Ahead();
-  bool PassOver(const FilmFilter& filter, std::int64_t last);
+  std::string_view ReadAhead();
+  bool SkipNonMatches(const FilmFilter& filter, std::int64_t last);
   std::int64_t PositionIn(FilmField field) const;
   bool Hits();
   bool StarHits();
-  void HeadHit();
+  void ShowHitHeading();
   std::string_view NameOfStarHit() const;
-  void Close();
+  void ReportEnd();
 
   frmPage1& window_;
   const FieldSearch& search_;

@@ -10,12 +10,11 @@ inline constexpr forms::Colour Gold = 0x4DE1FF;
 inline constexpr forms::Colour Silver = 0xF0E8E4;
 
 // clang-format off
-//                                              fore     back      transparent  font     points  bold   border  lines
-inline constexpr forms::Look HeadingLook    = { Gold,         Evening,  true,  "Arial", 20,    true,  false, forms::Align::Centre };
-inline constexpr forms::Look FeatureLook    = { Gold,         Evening,  true,  "Arial", 11,    true,  false, forms::Align::Left };
-inline constexpr forms::Look LineLook       = { Silver,       Evening,  true,  "Arial", 10,    false, false, forms::Align::Left };
-inline constexpr forms::Look ChoiceLook     = { Gold,         Evening,  true,  "Arial", 10,    true };
-inline constexpr forms::Look PushLook       = { forms::Black, 0xC0C0C0, false, "Arial", 11,    true };
+inline constexpr forms::Look HeadingLook = { .Fore = Gold,         .Back = Evening,  .Transparent = true, .FontSize = 20, .Bold = true };
+inline constexpr forms::Look FeatureLook = { .Fore = Gold,         .Back = Evening,  .Transparent = true, .FontSize = 11, .Bold = true, .Lines = forms::Align::Left };
+inline constexpr forms::Look LineLook    = { .Fore = Silver,       .Back = Evening,  .Transparent = true, .FontSize = 10, .Lines = forms::Align::Left };
+inline constexpr forms::Look ChoiceLook  = { .Fore = Gold,         .Back = Evening,  .Transparent = true, .FontSize = 10, .Bold = true };
+inline constexpr forms::Look PushLook    = { .Fore = forms::Black, .Back = 0xC0C0C0, .FontSize = 11, .Bold = true };
 // clang-format on
 
 }  // namespace opening

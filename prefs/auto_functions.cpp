@@ -16,8 +16,14 @@ struct AutoFunction {
 };
 
 // clang-format off
-constexpr AutoFunction AutoSave = { "Auto Save", "AutoSave", &screen::RunState::AutoSaveSetting, "NO", &screen::PageControls::txtAutoSave, screen::AutoSaveOn, screen::AutoSaveOff };
-constexpr AutoFunction AutoSort = { "Auto Sort", "AutoSort", &screen::RunState::AutoSortSetting, "",   &screen::PageControls::txtAutoSort, screen::AutoSortOn, screen::AutoSortOff };  // No leaves an empty line
+constexpr AutoFunction AutoSave = {
+  .Name = "Auto Save", .File = "AutoSave", .Setting = &screen::RunState::AutoSaveSetting, .NoLine = "NO",
+  .Box = &screen::PageControls::txtAutoSave, .On = screen::AutoSaveOn, .Off = screen::AutoSaveOff,
+};
+constexpr AutoFunction AutoSort = {
+  .Name = "Auto Sort", .File = "AutoSort", .Setting = &screen::RunState::AutoSortSetting, .NoLine = "",  // odd on purpose: an empty line
+  .Box = &screen::PageControls::txtAutoSort, .On = screen::AutoSortOn, .Off = screen::AutoSortOff,
+};
 // clang-format on
 
 void Choose(frmPage1& window, const AutoFunction& function) {

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "store/film_codes.h"
+
 using screen::RunState;
 
 namespace reports {
@@ -20,7 +22,7 @@ constexpr std::string_view ColumnHeads =
 // clang-format off
 constexpr AbridgedList AllTitlesList = {
   .OnEntry = Entry::LeavesFile, .ViewKind = "Title",
-  .CountFile = "Titlepra", .CountWord = &RunState::TitleCount, .KeyFile = "Titlepra.Dat",
+  .Keys = store::TitleKeys, .CountWord = &RunState::TitleCount,
   .Headline = "All Titles Abridged Print Program",
   .Unsorted = "Records have not been sorted.  Records must be sorted before a report can be written!",
   .Question = "Are you sure you want to Print Abridged List?,  This List only prints Title, Date, Genre and Format. It will take ",
@@ -29,8 +31,8 @@ constexpr AbridgedList AllTitlesList = {
 };
 // Odd on purpose: the view kind is the stem of the file name, not "DVD".
 constexpr AbridgedList DvdList = {
-  .OnEntry = Entry::ClosesFileOfOtherViews, .ViewKind = "DVDpra",
-  .CountFile = "DVDpra", .CountWord = &RunState::DVDCount, .KeyFile = "DVDpra.Dat",
+  .OnEntry = Entry::ClosesFileOfOtherViews, .ViewKind = store::DVDKeys.CountFile,
+  .Keys = store::DVDKeys, .CountWord = &RunState::DVDCount,
   .Headline = "All DVD Titles Abridged Print Program",
   .Unsorted = "DVD Records have not been sorted, or there are no records to sort.  Records must be sorted before a report can be written!",
   .Question = "Do you want to print DVD disc library?  This list only prints Title, Date, Genre and Format. It will take ",
@@ -39,7 +41,7 @@ constexpr AbridgedList DvdList = {
 };
 constexpr AbridgedList LaserList = {
   .OnEntry = Entry::ClosesFile, .ViewKind = "Laser",
-  .CountFile = "Laserpra", .CountWord = &RunState::LaserCount, .KeyFile = "Laserpra.Dat",
+  .Keys = store::LaserKeys, .CountWord = &RunState::LaserCount,
   .Headline = "All Laser Titles Abridged Print Program",
   .Unsorted = "Laser Records have not been sorted, or there are no records to sort.  Records must be sorted before a report can be written!",
   .Question = "Do you want to print laser disc library?  This list only prints Title, Date, Genre and Format. It will take ",
@@ -48,7 +50,7 @@ constexpr AbridgedList LaserList = {
 };
 constexpr AbridgedList VhsList = {
   .OnEntry = Entry::ClosesFile, .ViewKind = "VHS",
-  .CountFile = "VHSpra", .CountWord = &RunState::VHSCount, .KeyFile = "VHSpra.Dat",
+  .Keys = store::VHSKeys, .CountWord = &RunState::VHSCount,
   .Headline = "All VHS Titles Abridged Print Program",
   .Unsorted = "VHS Records have not been sorted, or there are no records to sort.  Records must be sorted before a report can be written!",
   .Question = "Do you want to print VHS library?  This list only prints Title, Date, Genre and Format. It will take ",
@@ -69,7 +71,7 @@ void AbridgedReport::Run() {
 void AbridgedReport::Enter() {
   bool keeps_file = list_.OnEntry == Entry::ClosesFileOfOtherViews && Page.ViewKind == "DVD";
   if (list_.OnEntry != Entry::LeavesFile && !keeps_file) Page.Files.Close(KeyFileNo);
-  Page.*list_.CountWord = Page.ReadOneItem(CountFileNo, list_.CountFile);
+  Page.*list_.CountWord = Page.ReadOneItem(CountFileNo, list_.Keys.CountFile);
   Page.ViewKind = list_.ViewKind;
   Page.lblHead.SetCaption(list_.Headline);
 }
@@ -89,7 +91,7 @@ void AbridgedReport::PrintPages() {
   while (true) {
     PrintPageHead();
     do {
-      if (!NextFilm(list_.KeyFile)) return PrintEnd();
+      if (!NextFilm(list_.Keys.Name)) return PrintEnd();
       LoadFilm();
       Page.ShowRecord();
       PrintFilm();
@@ -120,9 +122,10 @@ void AbridgedReport::PrintPageHead() {
 
 // A row starts at column 1, its heading at column 3; the other columns match.
 void AbridgedReport::PrintFilm() {
-  bool letter = Page.txtFormat.Text() == "L" || Page.CurrentFilm.Get(store::FilmField::Format) == "L";
+  bool letter = Page.txtFormat.Text() == store::FormatLaser ||
+                Page.CurrentFilm.Get(store::FilmField::Format) == store::FormatLaser;
   if (list_.Format == FormatWord::AlwaysLaser || (list_.Format == FormatWord::LaserForL && letter))
-    Page.txtFormat.SetText("Laser");
+    Page.txtFormat.SetText(*store::WordOf(store::Formats, store::FormatLaser));
   Paper.Print({runtime::Trim(Page.txtTitle.Text()), runtime::Tab{44}, runtime::Trim(Page.txtYear.Text()),
                runtime::Tab{53}, Page.txtGenreList.Text(), runtime::Tab{75}, Page.txtFormat.Text()});
   LineCount += 1;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "reports/print_frame.h"
+#include "store/key_file.h"
 
 namespace reports {
 
@@ -14,9 +15,8 @@ enum class FormatWord { AsShown, LaserForL, AlwaysLaser };
 struct AbridgedList {
   Entry OnEntry;  // what happens to an open key file; ClosesFileOfOtherViews keeps that of the view "DVD"
   std::string_view ViewKind;
-  std::string_view CountFile;
+  store::KeyFile Keys;
   screen::Text screen::RunState::*CountWord;
-  std::string_view KeyFile;
   std::string_view Headline;
   std::string_view Unsorted;
   std::string_view Question;

@@ -4,13 +4,15 @@
 #include <span>
 #include <vector>
 
+#include "store/film_codes.h"
+#include "store/key_file.h"
+
 using screen::PageControls;
 
 namespace reports {
 namespace {
 
 constexpr std::string_view Title = "Reelora Prima All Titles Full List  ";
-constexpr std::string_view KeyFile = "Titlepra.Dat";
 constexpr double FilmsPerPage = 8;
 constexpr int LastLine = 55;
 constexpr int FootLine = 56;
@@ -25,7 +27,7 @@ struct Cell {
 };
 // The line that depends on the format. The small differences in wording are on purpose.
 struct FormatLine {
-  std::string_view Word;
+  std::string_view Format;
   Cell Cells[5];
 };
 
@@ -43,15 +45,15 @@ constexpr Cell FourthLine[] = {
   { 64, "", &PageControls::txtGenreList },
 };
 constexpr FormatLine FormatLines[] = {
-  { "DVD",   { {  3, "Label:", &PageControls::txtLabel },  { 25, "DVD ",     &PageControls::txtNumReel, "Disc(s)" },
-               { 43, "MPAA :", &PageControls::txtRating }, { 55, "DVD Disc", nullptr },
-               { 70, "SND",    &PageControls::txtSound } } },
-  { "Laser", { {  3, "Label:", &PageControls::txtLabel },  { 25, "Laser ",   &PageControls::txtNumReel, " Disc(s)" },
-               { 43, "MPAA :", &PageControls::txtRating }, { 55, "",         &PageControls::txtCLV1 },
-               { 70, "SND: ",  &PageControls::txtSound } } },
-  { "VHS",   { {  3, "Label:", &PageControls::txtLabel },  { 25, "VHS ",     &PageControls::txtNumReel, " Cass(s)." },
-               { 43, "MPAA :", &PageControls::txtRating }, { 55, "Cass# ",   &PageControls::txtCassNo },
-               { 70, "SND: ",  &PageControls::txtSound } } },
+  { store::FormatDVD,   { {  3, "Label:", &PageControls::txtLabel },  { 25, "DVD ",     &PageControls::txtNumReel, "Disc(s)" },
+                          { 43, "MPAA :", &PageControls::txtRating }, { 55, "DVD Disc", nullptr },
+                          { 70, "SND",    &PageControls::txtSound } } },
+  { store::FormatLaser, { {  3, "Label:", &PageControls::txtLabel },  { 25, "Laser ",   &PageControls::txtNumReel, " Disc(s)" },
+                          { 43, "MPAA :", &PageControls::txtRating }, { 55, "",         &PageControls::txtCLV1 },
+                          { 70, "SND: ",  &PageControls::txtSound } } },
+  { store::FormatVHS,   { {  3, "Label:", &PageControls::txtLabel },  { 25, "VHS ",     &PageControls::txtNumReel, " Cass(s)." },
+                          { 43, "MPAA :", &PageControls::txtRating }, { 55, "Cass# ",   &PageControls::txtCassNo },
+                          { 70, "SND: ",  &PageControls::txtSound } } },
 };
 // clang-format on
 
@@ -80,7 +82,7 @@ void FullList::Run() {
   while (true) {
     PrintPageHead();
     do {
-      if (!NextFilm(KeyFile)) return PrintEnd();
+      if (!NextFilm(store::TitleKeys.Name)) return PrintEnd();
       LoadFilm();
       Page.ShowRecord();
       PrintFilm();
@@ -116,7 +118,7 @@ void FullList::PrintFilm() {
   PrintCells(Page, Paper, FourthLine);
   LineCount += 4;
   for (const FormatLine& line : FormatLines) {
-    if (Page.txtFormat.Text() != line.Word) continue;
+    if (Page.txtFormat.Text() != store::WordOf(store::Formats, line.Format)) continue;
     PrintCells(Page, Paper, line.Cells);
     LineCount += 1;
   }

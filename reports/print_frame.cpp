@@ -4,9 +4,9 @@
 #include <array>
 #include <charconv>
 
-#include "browse/key_walk.h"
 #include "runtime/clock.h"
 #include "runtime/text.h"
+#include "store/key_file.h"
 
 namespace reports {
 namespace {
@@ -47,12 +47,12 @@ bool PrintFrame::OpenKeys(std::string_view key_file) {
   return runtime::RoundToInt32(Keys()) >= 1;
 }
 
-double PrintFrame::Keys() const { return static_cast<double>(Page.Files.Length(KeyFileNo)) / browse::KeyLength; }
+double PrintFrame::Keys() const { return static_cast<double>(Page.Files.Length(KeyFileNo)) / store::KeyLength; }
 
 void PrintFrame::TakeKey() {
-  Page.KeyLengthWord = browse::KeyLength;
+  Page.KeyLengthWord = store::KeyLength;
   Page.TakeScanRecNo();
-  Page.KeyRecNoText = runtime::Fixed(Page.KeyRecord, browse::KeyLength).substr(browse::KeyTitleWidth);
+  Page.KeyRecNoText = runtime::Fixed(Page.KeyRecord, store::KeyLength).substr(store::KeyTitleWidth);
   Page.KeyFilePos += 1;
 }
 

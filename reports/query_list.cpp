@@ -1,10 +1,11 @@
 // One routine for the three lists, one table of their differences.
 #include "reports/query_list.h"
 
+#include "store/key_file.h"
+
 namespace reports {
 namespace {
 
-constexpr std::string_view KeyFile = "Titlepra.Dat";
 constexpr int LastLine = 56;
 constexpr int PageTab = 38;
 
@@ -50,7 +51,7 @@ bool QueryReport::Enter() {
 
 // If nothing was found by the last key, that key is not compared: a film that only the last key leads to is missed.
 QueryReport::Key QueryReport::NextKey() {
-  if (!OpenKeys(KeyFile)) return Key::Taken;
+  if (!OpenKeys(store::TitleKeys.Name)) return Key::Taken;
   Page.ReadKeyPastBlank();
   LookUpName();
   if (Keys() == static_cast<double>(Page.KeyFilePos) && Page.RowCursor == 0) return Key::NothingFound;

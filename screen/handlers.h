@@ -30,6 +30,11 @@
 #define FIELD_CLICK_HANDLERS(H) \
   H(txtDirector, Click) \
   H(txtStar1, Click) H(txtStar2, Click) H(txtStar3, Click) H(txtStar4, Click) H(txtStar5, Click) H(txtStar6, Click)
+/* find/find_menu.cpp: the field searches, which differ by their rows in find/field_search.h */
+#define SEARCH_HANDLERS(H) \
+  H(mnuFindTitle, Click) H(mnuFindDirector, Click) H(mnuFindStar, Click) H(mnuProducer, Click) H(mnuCinema, Click) \
+  H(mnuWriter, Click)    H(mnuMusic, Click)        H(mnuArt, Click)      H(mnuDance, Click)    H(mnuCostume, Click) \
+  H(mnuAwards, Click)    H(mnuMPAA, Click)         H(mnuSound, Click)
 
 #define SCREEN_HANDLERS(H) \
   /* frmPage1.cpp */       H(Toolbar1, MouseMove) H(lblsorted, MouseMove) \
@@ -71,11 +76,9 @@
   /* genre_view.cpp */     H(mnuFindGenre, Click)
 
 #define FIND_HANDLERS(H) \
-  /* find_menu.cpp */      H(mnuFindTitle, Click) H(mnuFindDirector, Click) H(mnuFindStar, Click) H(mnuProducer, Click) \
-                           H(mnuCinema, Click) H(mnuWriter, Click) H(mnuMusic, Click) H(mnuArt, Click) \
-                           H(mnuDance, Click) H(mnuCostume, Click) H(mnuAwards, Click) H(mnuMPAA, Click) \
-                           H(mnuSound, Click) H(cmdMatch, Click) \
-  /* jumps.cpp */          H(mnuFile, Click) H(mnuLast, Click) H(mnuLastEntry, Click)
+  /* find_menu.cpp */      H(cmdMatch, Click) \
+  /* jumps.cpp */          H(mnuFile, Click) H(mnuLast, Click) H(mnuLastEntry, Click) \
+  SEARCH_HANDLERS(H)
 
 #define REPORT_HANDLERS(H) \
   /* library_menu.cpp */   H(mnuPrint2, Click) H(mnuAll, Click) H(mnuShort, Click) H(mnuDVD, Click) H(mnuLaser, Click) \

@@ -55,6 +55,8 @@ inline constexpr std::array<std::string_view, 13> RatingCodes = {
 };
 // clang-format on
 
+inline constexpr std::string_view TVRatingStart = "TV";
+
 // The word of a code, the code of a word, the row of a genre; nothing where the table has none.
 template <std::size_t Rows>
 constexpr std::optional<std::string_view> WordOf(const std::array<CodeRow, Rows>& table, std::string_view code) {
