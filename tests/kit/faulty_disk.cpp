@@ -1,4 +1,4 @@
-// The count of the calls, and what a fault makes of each.
+// Counts calls and applies the fault.
 #include "tests/kit/faulty_disk.h"
 
 #include <algorithm>
@@ -9,13 +9,19 @@ namespace {
 
 constexpr std::int64_t PageBytes = 4096;
 
-// Where a write is cut: at the border of a page, or at its half.
+// Where a write is cut: at a page boundary, or in half.
 std::size_t CutOf(std::size_t count, std::int64_t offset) {
   auto to_border = static_cast<std::size_t>(PageBytes - offset % PageBytes);
   return to_border < count ? to_border : count / 2;
 }
 
 }  // namespace
+
+std::string_view NameOf(Fault fault) {
+  constexpr std::string_view Names[] = {"full",  "error",           "refused", "interrupted",
+                                        "short", "short then full", "kill",    "kill halfway"};
+  return Names[static_cast<std::size_t>(fault)];
+}
 
 bool FaultyDisk::IsDue() {
   if (killed_) throw Killed();
@@ -41,7 +47,7 @@ int FaultyDisk::ErrorOfCall() {
   }
 }
 
-// A call that has no half.
+// A call that cannot be done in part.
 template <typename Call>
 auto FaultyDisk::Made(Call call) -> decltype(call()) {
   if (!IsDue()) return call();

@@ -1,15 +1,16 @@
-// A disk in memory of which a chosen call goes wrong, once or from then on.
+// A disk in memory whose chosen call fails, once or from then on.
 #pragma once
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/kit/memory_disk.h"
 
 namespace kit {
 
-// What a disk throws at which the program was killed; no call is answered after it.
+// Simulates a kill: thrown by the call, and by every call after it.
 struct Killed {};
 
 enum class Fault {
@@ -17,11 +18,13 @@ enum class Fault {
   Error,          // EIO
   Refused,        // EACCES
   Interrupted,    // EINTR
-  Short,          // a write or read does half of it; other calls are not touched
-  ShortThenFull,  // a write does half of it, and the next one, or each later one, finds the disk full
+  Short,          // a write or read does half; other calls are unaffected
+  ShortThenFull,  // a write does half; the next one, or every later one, finds the disk full
   Kill,
-  KillHalfway,  // a write is cut at the border of a page, or at its half where it has none; other calls end whole
+  KillHalfway,  // cuts a write at a page boundary, or in half if it crosses none; other calls complete
 };
+
+std::string_view NameOf(Fault fault);
 
 struct FaultPlan {
   Fault As;
@@ -29,7 +32,7 @@ struct FaultPlan {
   bool FromThenOn = false;
 };
 
-// Close is no call that can fail. List has no way to tell, and is empty.
+// Close cannot fail; List fails as empty.
 class FaultyDisk final : public runtime::Disk {
  public:
   explicit FaultyDisk(MemoryDisk& below) : below_(below) {}
@@ -52,9 +55,9 @@ class FaultyDisk final : public runtime::Disk {
   std::vector<std::string> List(const std::string& folder) override;
 
  private:
-  // Counts the call; tells whether it is one that goes wrong.
+  // Counts the call; returns whether it fails.
   bool IsDue();
-  // The error number of a call that goes wrong as a whole, 0 for one that may go on; throws where it is a kill.
+  // The error of a call that fails as a whole, 0 if it may run; throws for a kill.
   int ErrorOfCall();
   template <typename Call>
   auto Made(Call call) -> decltype(call());

@@ -1,4 +1,4 @@
-// The fields that a collector types text into, and what stands in them.
+// The text fields that a user types into, and their content.
 #include "tests/kit/films.h"
 
 #include <filesystem>

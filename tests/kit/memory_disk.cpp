@@ -1,4 +1,4 @@
-// The live files, which stand in nodes, and the log of what happens to them.
+// The live files, kept as nodes, and the log of their changes.
 #include "tests/kit/memory_disk.h"
 
 #include <cerrno>

@@ -1,5 +1,5 @@
-// A disk in memory that knows what of it a sync has made sure of, and can tell every folder that a loss of power could
-// leave behind: sectors of 512 bytes, lengths and names reach the disk each by itself and in any order until a sync.
+// A disk in memory that tracks what is synced and enumerates every state a power failure can leave: until a sync,
+// sectors of 512 bytes, lengths and names reach the disk separately and in any order.
 #pragma once
 
 #include <cstdint>
@@ -12,24 +12,24 @@
 
 namespace kit {
 
-// Names, those in the safety folder with its name before them, and contents.
+// Contents by name; names in a subfolder begin with its name.
 using Folder = std::map<std::string, std::string>;
 
 inline constexpr std::size_t SectorBytes = 512;
 
 class MemoryDisk final : public runtime::Disk {
  public:
-  // The content is there and safe.
+  // The content counts as synced.
   explicit MemoryDisk(const Folder& content);
 
-  // What a program finds now.
+  // The files as a program sees them now.
   Folder Content() const;
-  // How many things have happened to the disk; each number up to it is a moment at which the power can fail.
+  // The count of changes so far; each number up to it is a moment at which the power can fail.
   std::size_t Moments() const { return log_.size(); }
-  // What the disk may hold when the power fails at that moment: all of it where there are no more than most states,
-  // else nothing of what is unsafe, all of it, and a choice that is the same in each run.
+  // The states the disk can be in after a power failure at that moment: all if at most `most`, else none of the
+  // unsynced changes, all of them, and a fixed sample.
   std::vector<Folder> AfterPowerLoss(std::size_t moment, std::size_t most) const;
-  // A sync of the file has failed: what it was to make sure of may be dropped in silence, unless it is written again.
+  // A sync of the file fails: its unsynced data may be lost silently unless written again.
   void FailSync(int handle);
 
   int Open(const std::string& name, Mode mode) override;
@@ -66,7 +66,7 @@ class MemoryDisk final : public runtime::Disk {
   Folder first_;
 };
 
-// The folder's part of a name, "" for none.
+// The folder part of a name, "" if it has none.
 std::string FolderOf(const std::string& name);
 
 }  // namespace kit

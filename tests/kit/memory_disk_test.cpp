@@ -1,4 +1,4 @@
-// The disk of these tests: what a loss of power may leave, and what a sync rules out.
+// What a loss of power may leave, and what a sync rules out.
 #include "tests/kit/memory_disk.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ void WriteAll(MemoryDisk& disk, int file, const std::string& bytes) {
   disk.WriteAt(file, bytes.data(), bytes.size(), 0);
 }
 
-// The contents of the file in all states of the present moment, each once; "-" where it is missing.
+// The contents of the file in all states of this moment, each once; "-" if it is missing.
 std::vector<std::string> States(const MemoryDisk& disk, const std::string& name) {
   std::vector<std::string> states;
   for (const Folder& folder : disk.AfterPowerLoss(disk.Moments(), 1000)) {

@@ -1,4 +1,4 @@
-// A disk that hands every call to another one: what the disks of these tests that change a few calls are made of.
+// Forwards every call to another disk; a derived disk changes a few of them.
 #pragma once
 
 #include <map>

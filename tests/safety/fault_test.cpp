@@ -1,5 +1,5 @@
-// Every call of every road goes wrong in every way: what is left is the old folder or the new one, the failure is
-// named, and the program starts on it.
+// Every disk call of every scenario fails in every way: the old folder or the new one is left, the failure is reported,
+// and the program starts on what is left.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,15 +9,15 @@
 #include "store/master_file.h"
 #include "tests/kit/faulty_disk.h"
 #include "tests/kit/films.h"
-#include "tests/safety/complaint.h"
-#include "tests/safety/played.h"
 #include "tests/safety/power_loss.h"
-#include "tests/safety/road.h"
+#include "tests/safety/scenario.h"
+#include "tests/safety/scenario_run.h"
+#include "tests/safety/soundness.h"
 
 namespace safety {
 namespace {
 
-// Failure: what the program has to report; "" where the fault is to remain unseen.
+// Failure: what the program must report; "" if the user must not notice the fault.
 struct FaultRow {
   std::string Name;
   kit::Fault As;
@@ -38,7 +38,7 @@ const FaultRow Faults[] = {
     {"short from then on", kit::Fault::Short, true, ""},
 };
 
-// The films that the screen shows, one after the other, are those of the master file.
+// The screen shows the films of the master file, one after the other.
 void ExpectFilmsOnScreen(Program& program, const std::string& master) {
   for (std::size_t slot = 1; slot * store::RecordLength <= master.size(); ++slot) {
     GoTo(program, static_cast<int>(slot));
@@ -47,66 +47,67 @@ void ExpectFilmsOnScreen(Program& program, const std::string& master) {
   }
 }
 
-// The next start shows what is there, and the next film can be saved.
+// The next start shows all films, and a film can be saved.
 void ExpectGoesOn(kit::MemoryDisk& memory) {
   std::string master = memory.Content().at(std::string(store::MasterFileName));
-  Running run(memory);
-  ExpectFilmsOnScreen(run.Program, master);
-  run.Program.Deliver([&] { run.Program.RecordScreen.cmdReset_Click(); });
-  EditFilm(1, 9)(run.Program);
-  ASSERT_FALSE(run.Program.Stopped());
+  StartedProgram started(memory);
+  ExpectFilmsOnScreen(started.Program, master);
+  started.Program.Deliver([&] { started.Program.RecordScreen.cmdReset_Click(); });
+  EditFilm(1, 9)(started.Program);
+  ASSERT_FALSE(started.Program.Stopped());
   master.replace(0, std::min<std::size_t>(master.size(), store::RecordLength), kit::FilmBytes(1, 9));
   ASSERT_EQ(memory.Content().at(std::string(store::MasterFileName)), master);
 }
 
-class EveryCall : public testing::TestWithParam<std::size_t> {
+class EveryCall : public testing::TestWithParam<Scenario> {
  protected:
-  const Road& Walked = Roads()[GetParam()];
-  std::vector<std::vector<kit::Folder>> Allowed = Stations(Walked);
-  std::size_t Calls = CallsOf(Walked);
+  const Scenario& Tested = GetParam();
+  std::vector<std::vector<kit::Folder>> Allowed = AllowedFolders(Tested);
+  std::size_t Calls = CallsOf(Tested);
 };
 
 TEST_P(EveryCall, FailsNamedAndLeavesTheOldOrTheNew) {
   for (const FaultRow& fault : Faults) {
     for (std::size_t at = 0; at < Calls; ++at) {
-      SCOPED_TRACE(Walked.Name + ", " + fault.Name + " at call " + std::to_string(at));
-      kit::MemoryDisk memory(Walked.Before);
+      SCOPED_TRACE(Tested.Name + ", " + fault.Name + " at call " + std::to_string(at));
+      kit::MemoryDisk memory(Tested.Before);
       kit::FaultyDisk faulty(memory, {fault.As, at, fault.FromThenOn});
-      Played played = Play(Walked, faulty);
-      if (played.Stopped) {
-        ASSERT_FALSE(fault.Failure.empty()) << "stopped by " << played.Stopped->Name;
-        ASSERT_EQ(played.Stopped->Name, fault.Failure);
-        ASSERT_EQ(played.Reported, fault.Failure);
+      ScenarioRun run = RunScenario(Tested, faulty);
+      if (run.Stopped) {
+        ASSERT_FALSE(fault.Failure.empty()) << "stopped by " << run.Stopped->Name;
+        ASSERT_EQ(run.Stopped->Name, fault.Failure);
+        ASSERT_EQ(run.Reported, fault.Failure);
       } else {
-        ASSERT_EQ(played.Steps, Walked.Steps.size());
+        ASSERT_EQ(run.Steps, Tested.Steps.size());
       }
-      ASSERT_EQ(Complaint(memory, Allowed[played.Steps], Walked.Before), "");
+      ASSERT_EQ(Complaint(memory, Allowed[run.Steps], Tested.Before), "");
       ASSERT_NO_FATAL_FAILURE(ExpectGoesOn(memory));
     }
   }
 }
 
-// What a failing write has begun is taken back before the program stops.
+// The program undoes a failed write before it stops.
 TEST_P(EveryCall, LeavesNoMixtureBehindWhenItFailsOnce) {
   for (kit::Fault fault : {kit::Fault::Full, kit::Fault::Error, kit::Fault::ShortThenFull})
-    EXPECT_EQ(TakeBackComplaint(Walked, fault), "") << Walked.Name;
+    EXPECT_EQ(TakeBackComplaint(Tested, fault), "") << Tested.Name;
 }
 
 TEST_P(EveryCall, MayBeTheLastBeforeAKill) {
   for (kit::Fault fault : {kit::Fault::Kill, kit::Fault::KillHalfway}) {
     for (std::size_t at = 0; at < Calls; ++at) {
-      SCOPED_TRACE(Walked.Name + ", killed at call " + std::to_string(at));
-      kit::MemoryDisk memory(Walked.Before);
+      SCOPED_TRACE(Tested.Name + ", killed at call " + std::to_string(at));
+      kit::MemoryDisk memory(Tested.Before);
       kit::FaultyDisk faulty(memory, {fault, at});
-      Played played = Play(Walked, faulty);
-      ASSERT_TRUE(played.Killed);
-      ASSERT_EQ(Complaint(memory, Allowed[played.Steps], Walked.Before), "");
+      ScenarioRun run = RunScenario(Tested, faulty);
+      ASSERT_TRUE(run.Killed);
+      ASSERT_EQ(Complaint(memory, Allowed[run.Steps], Tested.Before), "");
       ASSERT_NO_FATAL_FAILURE(ExpectGoesOn(memory));
     }
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Roads, EveryCall, testing::Range<std::size_t>(0, Roads().size()));
+INSTANTIATE_TEST_SUITE_P(Scenarios, EveryCall, testing::ValuesIn(Scenarios()),
+                         [](const auto& scenario) { return TestNameOf(scenario.param); });
 
 }  // namespace
 }  // namespace safety

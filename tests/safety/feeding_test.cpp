@@ -1,4 +1,4 @@
-// Whatever the files hold: the program starts or names the failure, and starting and looking write nothing.
+// Feeds files of any content: the program starts or reports the failure, and reading writes nothing.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace safety {
 namespace {
 
 const std::string Master(store::MasterFileName);
-// Which a start reads.
+// Read at every start.
 const char* const SmallFiles[] = {"AutoSave", "AutoSort", "BGColor", "txtBGColor", "txtForColor", "tagForColor",
                                   "Titlepra", "Laserpra", "VHSpra",  "DVDpra",     "Fo1"};
 
@@ -30,14 +30,14 @@ void Look(Program& program, int steps) {
   for (int step = 0; step < steps; ++step) program.Deliver([&] { screen.UserClick(screen.cmdPrevious); });
 }
 
-// Starts on a master file of these bytes, goes forth and back.
+// Starts on a master file of these bytes, steps forward and back.
 void ExpectOnlyRead(const std::string& master) {
   kit::Folder folder = kit::FolderOfFilms(0);
   folder[Master] = master;
   kit::MemoryDisk disk(folder);
-  Running run(disk);
-  Look(run.Program, static_cast<int>(std::min<std::size_t>(master.size() / store::RecordLength, 6)) + 2);
-  ASSERT_FALSE(run.Program.Stopped()) << run.Program.Stopped()->Name;
+  StartedProgram started(disk);
+  Look(started.Program, static_cast<int>(std::min<std::size_t>(master.size() / store::RecordLength, 6)) + 2);
+  ASSERT_FALSE(started.Program.Stopped()) << started.Program.Stopped()->Name;
   ASSERT_EQ(disk.Content(), folder);
   ASSERT_EQ(disk.Moments(), 0U);
 }
@@ -67,14 +67,14 @@ class FedSmallFile : public testing::TestWithParam<const char*> {
     kit::Folder folder = kit::FolderOfFilms(3);
     folder[GetParam()] = content;
     kit::MemoryDisk disk(folder);
-    Running run(disk);
-    Look(run.Program, 2);
-    if (run.Program.Stopped()) {
+    StartedProgram started(disk);
+    Look(started.Program, 2);
+    if (started.Program.Stopped()) {
       // An overflow is one of the number, not of the file.
-      if (run.Program.Stopped()->Name != runtime::Overflow) {
-        ASSERT_EQ(run.Program.Stopped()->File, GetParam());
+      if (started.Program.Stopped()->Name != runtime::Overflow) {
+        ASSERT_EQ(started.Program.Stopped()->File, GetParam());
       }
-      ASSERT_EQ(run.Desk.Reported, run.Program.Stopped()->Name);
+      ASSERT_EQ(started.Desk.Reported, started.Program.Stopped()->Name);
     }
     ASSERT_EQ(disk.Content(), folder);
   }
@@ -97,10 +97,10 @@ TEST_P(FedSmallFile, ThatIsMissing) {
   kit::Folder folder = kit::FolderOfFilms(3);
   folder.erase(GetParam());
   kit::MemoryDisk disk(folder);
-  Running run(disk);
-  ASSERT_TRUE(run.Program.Stopped());
-  EXPECT_EQ(run.Program.Stopped()->Name, runtime::FileNotFound);
-  EXPECT_EQ(run.Program.Stopped()->File, GetParam());
+  StartedProgram started(disk);
+  ASSERT_TRUE(started.Program.Stopped());
+  EXPECT_EQ(started.Program.Stopped()->Name, runtime::FileNotFound);
+  EXPECT_EQ(started.Program.Stopped()->File, GetParam());
   EXPECT_EQ(disk.Content(), folder);
 }
 

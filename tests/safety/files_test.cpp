@@ -1,4 +1,4 @@
-// What the calls of the files by number leave behind, failing ones above all.
+// What calls of numbered files leave behind, above all failing ones.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,39 +1,39 @@
-// Twenty thousand kills at random moments, a quarter for each habit, half of them in a slot that straddles a page.
+// Twenty thousand kills at random moments: a quarter for each action, half of them in a slot that straddles a page.
 #include <gtest/gtest.h>
 
+#include "tests/safety/disabled_safeguard.h"
 #include "tests/safety/kill_trial.h"
-#include "tests/safety/switched_off.h"
 
 namespace safety {
 namespace {
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr int TrialsOfHabit = 250;  // a process that is watched starts slowly
+constexpr int TrialsOfAction = 250;  // a process under the sanitizer starts slowly
 #else
-constexpr int TrialsOfHabit = 5000;
+constexpr int TrialsOfAction = 5000;
 #endif
 
 class Kills : public testing::TestWithParam<std::size_t> {
  protected:
-  const Habit& Repeated = Habits()[GetParam()];
+  const RepeatedAction& Repeated = RepeatedActions()[GetParam()];
 };
 
 TEST_P(Kills, LeaveNoMixtureAndLoseNoSave) {
-  KillCount count = KillAtRandom(Repeated, TrialsOfHabit, static_cast<unsigned>(GetParam()));
+  KillCount count = KillAtRandom(Repeated, TrialsOfAction, static_cast<unsigned>(GetParam()));
   RecordProperty("finished_saves", count.Finished);
-  EXPECT_EQ(count.Trials, TrialsOfHabit);
-  EXPECT_EQ(count.Straddling, TrialsOfHabit / 2);
-  // How many saves end before the kill is a matter of the machine; some must, or the trial shows nothing.
-  EXPECT_GT(count.Finished, TrialsOfHabit / 50);
+  EXPECT_EQ(count.Trials, TrialsOfAction);
+  EXPECT_EQ(count.Straddling, TrialsOfAction / 2);
+  // The count depends on the machine; without any finished save the trial shows nothing.
+  EXPECT_GT(count.Finished, TrialsOfAction / 50);
   EXPECT_EQ(count.Complaints, std::vector<std::string>());
 }
 
-// A kill falls between the two pages of a write seldom enough to need some hundred trials.
+// A kill rarely hits between the two pages of a write.
 constexpr int TrialsToComplaint = 20000;
 
-bool KillsSee(Safeguard guard, std::string_view habit) {
-  for (const Habit& repeated : Habits()) {
-    if (repeated.Name == habit)
+bool KillsSee(Safeguard guard, std::string_view action) {
+  for (const RepeatedAction& repeated : RepeatedActions()) {
+    if (repeated.Name == action)
       return !KillAtRandom(repeated, TrialsToComplaint, 1, Without(guard), true).Complaints.empty();
   }
   return false;
@@ -43,7 +43,7 @@ class KillStrength : public testing::Test {
  protected:
   void SetUp() override {
 #ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "watched processes start too slowly for so many kills";
+    GTEST_SKIP() << "processes under the sanitizer start too slowly for so many kills";
 #endif
   }
 };
@@ -52,8 +52,8 @@ TEST_F(KillStrength, SeesThatTheJournalIsMissing) { EXPECT_TRUE(KillsSee(Safegua
 TEST_F(KillStrength, SeesThatTheRecoveryIsMissing) { EXPECT_TRUE(KillsSee(Safeguard::Recovery, "Delete")); }
 TEST_F(KillStrength, SeesThatTheRenameIsMissing) { EXPECT_TRUE(KillsSee(Safeguard::AsideRename, "Setting")); }
 
-INSTANTIATE_TEST_SUITE_P(Habits, Kills, testing::Range<std::size_t>(0, Habits().size()),
-                         [](const auto& habit) { return Habits()[habit.param].Name; });
+INSTANTIATE_TEST_SUITE_P(RepeatedActions, Kills, testing::Range<std::size_t>(0, RepeatedActions().size()),
+                         [](const auto& action) { return RepeatedActions()[action.param].Name; });
 
 }  // namespace
 }  // namespace safety

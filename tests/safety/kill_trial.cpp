@@ -1,4 +1,5 @@
-// The child tells of every finished save through a pipe. Nothing is synced: a kill loses no page of the system's cache.
+// The child reports each finished save through a pipe. Nothing is synced: a kill loses nothing that the system has
+// cached.
 #include "tests/safety/kill_trial.h"
 
 #include <sys/wait.h>
@@ -27,7 +28,7 @@ namespace fs = std::filesystem;
 const std::string Master(store::MasterFileName);
 constexpr int LongestMicroseconds = 300;
 
-// Where the files live in memory, if this machine has such a place.
+// In memory, if this machine has a file system there.
 fs::path ScratchFolder() {
   fs::path memory = "/dev/shm";
   fs::path parent = ::access(memory.c_str(), W_OK) == 0 ? memory : fs::temp_directory_path();
@@ -47,19 +48,19 @@ std::string ReadFile(const fs::path& path) {
   return content.str();
 }
 
-// A scratch folder for the trials of one count, with a folder for each trial in turn.
-class Ground {
+// A scratch folder that is laid out anew for each trial.
+class TrialFolder {
  public:
-  Ground() : home_(ScratchFolder()), trial_(home_ / "trial") {
+  TrialFolder() : home_(ScratchFolder()), trial_(home_ / "trial") {
     fs::remove_all(home_);
     fs::create_directories(home_ / "small");
     for (const auto& [name, content] : kit::FolderOfFilms(0)) WriteFile(home_ / "small" / name, content);
   }
-  ~Ground() { fs::remove_all(home_); }
-  Ground(const Ground&) = delete;
-  Ground& operator=(const Ground&) = delete;
+  ~TrialFolder() { fs::remove_all(home_); }
+  TrialFolder(const TrialFolder&) = delete;
+  TrialFolder& operator=(const TrialFolder&) = delete;
 
-  // The small files are links, since the program replaces them and never writes into them.
+  // The small files are links: the program replaces them and never writes into them.
   const fs::path& LayOut(const kit::Folder& content) {
     fs::remove_all(trial_);
     fs::create_directory(trial_);
@@ -77,15 +78,16 @@ class Ground {
   fs::path home_, trial_;
 };
 
-[[noreturn]] void SaveUntilKilled(const fs::path& folder, const Habit& habit, int slot, const Fitting& fit, int told) {
+[[noreturn]] void SaveUntilKilled(const fs::path& folder, const RepeatedAction& action, int slot,
+                                  const DiskWrapper& wrapper, int told) {
   runtime::RealDisk real(folder.string());
   kit::UnsyncedDisk unsynced(real);
-  auto fitted = Fitted(unsynced, fit);
-  Running run(*fitted);
+  auto wrapped = Wrapped(unsynced, wrapper);
+  StartedProgram started(*wrapped);
   const char mark = '+';
   bool heard = ::write(told, &mark, 1) == 1;
-  for (int time = 1; heard && !run.Program.Stopped(); ++time) {
-    habit.Do(slot, time)(run.Program);
+  for (int time = 1; heard && !started.Program.Stopped(); ++time) {
+    action.Do(slot, time)(started.Program);
     heard = ::write(told, &mark, 1) == 1;
   }
   ::_exit(1);
@@ -97,8 +99,8 @@ void Spin(std::chrono::microseconds length) {
   }
 }
 
-// Runs the program in the folder and kills it; the number of times that it told to be finished.
-int KillOnce(const fs::path& folder, const Habit& habit, int slot, const Fitting& fit,
+// Runs the program in the folder and kills it; returns how many saves it reported.
+int KillOnce(const fs::path& folder, const RepeatedAction& action, int slot, const DiskWrapper& wrapper,
              std::chrono::microseconds after) {
   std::array<int, 2> ends{};
   if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
@@ -106,7 +108,7 @@ int KillOnce(const fs::path& folder, const Habit& habit, int slot, const Fitting
   if (child < 0) throw std::runtime_error("no process");
   if (child == 0) {
     ::close(ends[0]);
-    SaveUntilKilled(folder, habit, slot, fit, ends[1]);
+    SaveUntilKilled(folder, action, slot, wrapper, ends[1]);
   }
   ::close(ends[1]);
   char started = 0;
@@ -119,17 +121,17 @@ int KillOnce(const fs::path& folder, const Habit& habit, int slot, const Fitting
   std::array<char, 4096> marks{};
   for (ssize_t part = 0; (part = ::read(ends[0], marks.data(), marks.size())) > 0;) finished += static_cast<int>(part);
   ::close(ends[0]);
-  if (!saves || !WIFSIGNALED(status)) throw std::runtime_error(habit.Name + ": the program ended by itself");
+  if (!saves || !WIFSIGNALED(status)) throw std::runtime_error(action.Name + ": the program ended by itself");
   return finished;
 }
 
-// Starts the program again and looks at the files that the habit changes.
-std::string ComplaintOf(const fs::path& folder, const std::vector<kit::Folder>& allowed, const Fitting& fit) {
+// Starts the program again and checks the files that the action changes.
+std::string ComplaintOf(const fs::path& folder, const std::vector<kit::Folder>& allowed, const DiskWrapper& wrapper) {
   runtime::RealDisk real(folder.string());
   kit::UnsyncedDisk unsynced(real);
-  auto fitted = Fitted(unsynced, fit);
-  Running run(*fitted);
-  if (run.Program.Stopped()) return "the start stops: " + std::string(run.Program.Stopped()->Name);
+  auto wrapped = Wrapped(unsynced, wrapper);
+  StartedProgram started(*wrapped);
+  if (started.Program.Stopped()) return "the start stops: " + std::string(started.Program.Stopped()->Name);
   for (const kit::Folder& files : allowed) {
     if (std::all_of(files.begin(), files.end(),
                     [&](const auto& file) { return ReadFile(folder / file.first) == file.second; }))
@@ -145,22 +147,23 @@ bool Straddles(int slot) {
   return (slot - 1) * store::RecordLength / PageBytes != (slot * store::RecordLength - 1) / PageBytes;
 }
 
-KillCount KillAtRandom(const Habit& habit, int trials, unsigned seed, const Fitting& fit, bool until_complaint) {
+KillCount KillAtRandom(const RepeatedAction& action, int trials, unsigned seed, const DiskWrapper& wrapper,
+                       bool until_complaint) {
   std::mt19937 random(seed);
-  Ground ground;
+  TrialFolder trial_folder;
   KillCount count;
   while (count.Trials < trials && !(until_complaint && !count.Complaints.empty())) {
     int slot = 0;
     do {
       slot = FirstSlotTried + static_cast<int>(random() % (LastSlotTried - FirstSlotTried + 1));
     } while (Straddles(slot) != (count.Trials % 2 == 0));
-    const fs::path& folder = ground.LayOut(habit.Before(slot));
+    const fs::path& folder = trial_folder.LayOut(action.Before(slot));
     std::chrono::microseconds after(random() % LongestMicroseconds);
-    int finished = KillOnce(folder, habit, slot, fit, after);
+    int finished = KillOnce(folder, action, slot, wrapper, after);
     ++count.Trials;
     count.Straddling += Straddles(slot) ? 1 : 0;
     count.Finished += finished;
-    std::string complaint = ComplaintOf(folder, habit.Allowed(slot, finished), fit);
+    std::string complaint = ComplaintOf(folder, action.Allowed(slot, finished), wrapper);
     if (!complaint.empty())
       count.Complaints.push_back("slot " + std::to_string(slot) + " after " + std::to_string(finished) +
                                  " saves: " + complaint);

@@ -1,12 +1,12 @@
-// A program in a process of its own that saves without a pause in a real folder, and is killed at a random moment.
+// Kills a program at a random moment while it saves without pause in a real folder; it runs in a process of its own.
 #pragma once
 
 #include <random>
 #include <string>
 #include <vector>
 
-#include "tests/safety/complaint.h"
-#include "tests/safety/habits.h"
+#include "tests/safety/repeated_actions.h"
+#include "tests/safety/soundness.h"
 
 namespace safety {
 
@@ -16,13 +16,13 @@ bool Straddles(int slot);
 struct KillCount {
   int Trials = 0;
   int Straddling = 0;
-  int Finished = 0;  // saves that the killed programs had acknowledged
+  int Finished = 0;  // saves reported finished before the kill
   std::vector<std::string> Complaints;
 };
 
-// Each trial has a fresh folder, every second one a slot that straddles. The seed makes the moments and the slots. It
-// ends before its count where until_complaint is set and there is one.
-KillCount KillAtRandom(const Habit& habit, int trials, unsigned seed, const Fitting& fit = {},
+// Each trial has a fresh folder, every second one a slot that straddles. The seed decides moments and slots.
+// until_complaint: stop at the first complaint.
+KillCount KillAtRandom(const RepeatedAction& action, int trials, unsigned seed, const DiskWrapper& wrapper = {},
                        bool until_complaint = false);
 
 }  // namespace safety

@@ -1,21 +1,22 @@
-// The power fails at each moment of a road, and each state that this can leave has to be sound.
+// Lets the power fail at each moment of a scenario; every state that this can leave must be sound.
 #pragma once
 
 #include <string>
 
 #include "tests/kit/faulty_disk.h"
-#include "tests/safety/complaint.h"
-#include "tests/safety/road.h"
+#include "tests/safety/scenario.h"
+#include "tests/safety/soundness.h"
 
 namespace safety {
 
-// What is wrong with the first unsound state, "" where all are sound. fit: what stands between program and disk.
-std::string PowerLossComplaint(const Road& road, const Fitting& fit = {});
+// The complaint about the first unsound state, "" if all are sound. wrapper: see soundness.h.
+std::string PowerLossComplaint(const Scenario& scenario, const DiskWrapper& wrapper = {});
 
-// The same where a fault comes first: the program is killed or stops, is started again, and saves a film elsewhere.
-std::string PowerLossAfterFaultComplaint(const Road& road, kit::Fault fault, const Fitting& fit = {});
+// The same after a fault: the program is killed or stops, starts again and saves a film in another slot.
+std::string PowerLossAfterFaultComplaint(const Scenario& scenario, kit::Fault fault, const DiskWrapper& wrapper = {});
 
-// A fault at each call, once; what is wrong with the first folder that the stopped program leaves, before any start.
-std::string TakeBackComplaint(const Road& road, kit::Fault fault, const Fitting& fit = {});
+// Lets each call fail once; the complaint about the first bad folder that the stopped program leaves, before any
+// restart.
+std::string TakeBackComplaint(const Scenario& scenario, kit::Fault fault, const DiskWrapper& wrapper = {});
 
 }  // namespace safety

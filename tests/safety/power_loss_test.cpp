@@ -1,4 +1,4 @@
-// The roads through every loss of power, and through those that follow a fault.
+// Every scenario survives a loss of power at any moment, also after a fault.
 #include <gtest/gtest.h>
 
 #include "tests/safety/power_loss.h"
@@ -6,26 +6,27 @@
 namespace safety {
 namespace {
 
-class EveryRoad : public testing::TestWithParam<std::size_t> {
+class EveryScenario : public testing::TestWithParam<Scenario> {
  protected:
-  const Road& Walked = Roads()[GetParam()];
+  const Scenario& Tested = GetParam();
 };
 
-TEST_P(EveryRoad, SurvivesALossOfPowerAtEachMoment) { EXPECT_EQ(PowerLossComplaint(Walked), "") << Walked.Name; }
+TEST_P(EveryScenario, SurvivesALossOfPowerAtEachMoment) { EXPECT_EQ(PowerLossComplaint(Tested), "") << Tested.Name; }
 
-// A program that was killed leaves bytes that the disk may still lose, when the journal has gone on to the next film.
-TEST_P(EveryRoad, SurvivesALossOfPowerAfterAKill) {
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::Kill), "") << Walked.Name;
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::KillHalfway), "") << Walked.Name;
+// A killed program leaves unsynced bytes; they may be lost when the journal already describes the next film.
+TEST_P(EveryScenario, SurvivesALossOfPowerAfterAKill) {
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Tested, kit::Fault::Kill), "") << Tested.Name;
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Tested, kit::Fault::KillHalfway), "") << Tested.Name;
 }
 
-// After a failed sync the disk may have dropped what it was given, and still report success for the next one.
-TEST_P(EveryRoad, SurvivesALossOfPowerAfterAFailure) {
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::Error), "") << Walked.Name;
-  EXPECT_EQ(PowerLossAfterFaultComplaint(Walked, kit::Fault::ShortThenFull), "") << Walked.Name;
+// After a failed sync the disk may have dropped data, and the next sync may still report success.
+TEST_P(EveryScenario, SurvivesALossOfPowerAfterAFailure) {
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Tested, kit::Fault::Error), "") << Tested.Name;
+  EXPECT_EQ(PowerLossAfterFaultComplaint(Tested, kit::Fault::ShortThenFull), "") << Tested.Name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Roads, EveryRoad, testing::Range<std::size_t>(0, Roads().size()));
+INSTANTIATE_TEST_SUITE_P(Scenarios, EveryScenario, testing::ValuesIn(Scenarios()),
+                         [](const auto& scenario) { return TestNameOf(scenario.param); });
 
 }  // namespace
 }  // namespace safety

@@ -1,37 +1,37 @@
-// A sort run that a kill, a failure or a loss of power cuts short: every key file is the old one or the new one, the
-// master file is as it was, and one more sort makes what an undisturbed one makes.
+// A sort run cut short by a kill, a failure or a loss of power: each key file is the old or the new one, the master
+// file is unchanged, and another sort gives the undisturbed result.
 #include <gtest/gtest.h>
 
 #include "store/master_file.h"
 #include "tests/kit/films.h"
-#include "tests/safety/complaint.h"
-#include "tests/safety/played.h"
+#include "tests/safety/scenario_run.h"
+#include "tests/safety/soundness.h"
 
 namespace safety {
 namespace {
 
 class CutSort : public testing::Test {
  protected:
-  const Road Sorting = {"a sort run", SortedOnce(), {SortFilms()}};
-  const kit::Folder New = Stations(Sorting).back().front();
+  const Scenario Sorting = {"a sort run", SortedOnce(), {SortFilms()}};
+  const kit::Folder New = AllowedFolders(Sorting).back().front();
 
-  // Sorted with nine films, of which one has changed since and two have come.
+  // Nine films, sorted; then one was edited and two were added.
   static kit::Folder SortedOnce() {
     kit::MemoryDisk memory(kit::FolderOfFilms(9));
-    Play({"", {}, {SortFilms(), EditFilm(7, 1), NewFilm(10, 1), NewFilm(11, 1)}}, memory);
+    RunScenario({"", {}, {SortFilms(), EditFilm(7, 1), NewFilm(10, 1), NewFilm(11, 1)}}, memory);
     return memory.Content();
   }
 
   void ExpectSound(kit::MemoryDisk& memory) {
-    Running run(memory);
-    ASSERT_FALSE(run.Program.Stopped());
+    StartedProgram started(memory);
+    ASSERT_FALSE(started.Program.Stopped());
     kit::Folder found = Visible(memory.Content());
     ASSERT_EQ(found.at(std::string(store::MasterFileName)), New.at(std::string(store::MasterFileName)));
     for (const char* name : {"Titlepra.Dat", "DVDpra.Dat", "Laserpra.Dat", "VHSpra.Dat"}) {
       ASSERT_TRUE(found[name] == New.at(name) || found[name] == Sorting.Before.at(name)) << name;
     }
-    SortFilms()(run.Program);
-    ASSERT_FALSE(run.Program.Stopped());
+    SortFilms()(started.Program);
+    ASSERT_FALSE(started.Program.Stopped());
     ASSERT_EQ(Visible(memory.Content()), New);
   }
 };
@@ -45,10 +45,10 @@ TEST_F(CutSort, ByAFaultAtEachCall) {
     for (std::size_t at = 0; at < calls; ++at) {
       for (bool from_then_on : {false, true}) {
         if (fault == kit::Fault::Interrupted && from_then_on) continue;
-        SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+        SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
         kit::MemoryDisk memory(Sorting.Before);
         kit::FaultyDisk faulty(memory, {fault, at, from_then_on});
-        Play(Sorting, faulty);
+        RunScenario(Sorting, faulty);
         ASSERT_NO_FATAL_FAILURE(ExpectSound(memory));
       }
     }
@@ -57,7 +57,7 @@ TEST_F(CutSort, ByAFaultAtEachCall) {
 
 TEST_F(CutSort, ByALossOfPowerAtEachMoment) {
   kit::MemoryDisk memory(Sorting.Before);
-  Play(Sorting, memory);
+  RunScenario(Sorting, memory);
   for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
     SCOPED_TRACE("moment " + std::to_string(moment));
     for (const kit::Folder& state : memory.AfterPowerLoss(moment, 256)) {

@@ -1,4 +1,4 @@
-// The program as a user without an opinion runs it: every question is answered with Yes.
+// A user who always answers Yes.
 #pragma once
 
 #include <functional>
@@ -10,28 +10,28 @@
 
 namespace safety {
 
-// A started program with its desk.
-struct Running {
-  explicit Running(runtime::Disk& disk) : Program(Desk, disk) { Program.StartRecordScreen(); }
+// A started program and its desk.
+struct StartedProgram {
+  explicit StartedProgram(runtime::Disk& disk) : Program(Desk, disk) { Program.StartRecordScreen(); }
   kit::QuietDesk Desk;
   ::Program Program;
 };
 
-// What a user does; nothing happens in a program that has stopped.
+// One step of the user; a stopped program ignores it.
 using Step = std::function<void(Program&)>;
 
-// New, typed and saved; Edit, typed and saved, or the window closed instead; Delete. The slot of a new film is the one
-// that the program finds.
+// New and Edit type the film and save it; EditAndClose closes the window instead. `slot` is the one that the program
+// will give a new film.
 Step NewFilm(int slot, int version);
 Step EditFilm(int slot, int version);
 Step EditAndClose(int slot, int version);
 Step DeleteFilm(int slot);
 Step SortFilms();
-// The film that was overwritten last goes back into its slot.
+// Restores the film overwritten last.
 Step PutFilmBack();
-// One line into a file opened for output, as settings and counts are written.
+// Writes one line to a file opened for output, as settings and counts are.
 Step WriteSmallFile(const std::string& name, const std::string& line);
-// Goes on to the slot.
+// Steps forward to the slot.
 void GoTo(Program& program, int slot);
 
 }  // namespace safety

@@ -1,5 +1,4 @@
-// The program with one of its safeguards switched off, to show that the tests would see it: a disk between the program
-// and its real one does not pass the calls of that safeguard on.
+// Disables one safeguard of the program, to show that the tests notice: a disk that drops the calls of that safeguard.
 #pragma once
 
 #include <memory>
@@ -7,7 +6,7 @@
 #include <vector>
 
 #include "tests/kit/passing_disk.h"
-#include "tests/safety/complaint.h"
+#include "tests/safety/soundness.h"
 
 namespace safety {
 
@@ -18,9 +17,9 @@ enum class Safeguard {
   HistorySync,
   SafetyFolderSync,
   CollectionFolderSync,
-  FolderSyncEachRun,  // the folders are synced by the run alone that makes the journal
+  FolderSyncEachRun,  // only the run that creates the journal syncs the folders
   AsideSync,
-  AsideRename,  // the old file is overwritten in its place
+  AsideRename,  // the old file is overwritten in place
   Recovery,
   RecoverySync,
   TakingBack,
@@ -32,9 +31,9 @@ struct SafeguardRow {
 };
 const std::vector<SafeguardRow>& Safeguards();
 
-class SwitchedOff final : public kit::PassingDisk {
+class DisabledSafeguard final : public kit::PassingDisk {
  public:
-  SwitchedOff(runtime::Disk& below, Safeguard guard);
+  DisabledSafeguard(runtime::Disk& below, Safeguard guard);
 
   int Open(const std::string& name, Mode mode) override;
   std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override;
@@ -54,6 +53,6 @@ class SwitchedOff final : public kit::PassingDisk {
   bool failed_ = false;
 };
 
-Fitting Without(Safeguard guard);
+DiskWrapper Without(Safeguard guard);
 
 }  // namespace safety

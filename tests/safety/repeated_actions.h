@@ -1,4 +1,4 @@
-// What a user does over and over while the program is killed.
+// Actions that a user repeats until the program is killed.
 #pragma once
 
 #include <functional>
@@ -10,20 +10,20 @@
 
 namespace safety {
 
-// The slots that are tried; on a single film New would overwrite it.
+// The slots used. With a single film New would overwrite it.
 inline constexpr int FirstSlotTried = 3;
 inline constexpr int LastSlotTried = 26;
 
-// What the user does over and over, and what of it may be found afterwards.
-struct Habit {
+// An action, and what may be found after a kill.
+struct RepeatedAction {
   std::string Name;
   std::function<kit::Folder(int slot)> Before;
-  // Time by time, from 1.
+  // time: n-th repetition, from 1.
   std::function<Step(int slot, int time)> Do;
-  // The files that this changes, in every state that may be found when so many times are known to be finished.
+  // The changed files in every state that may be found after `finished` acknowledged repetitions.
   std::function<std::vector<kit::Folder>(int slot, int finished)> Allowed;
 };
 
-const std::vector<Habit>& Habits();
+const std::vector<RepeatedAction>& RepeatedActions();
 
 }  // namespace safety

@@ -1,5 +1,5 @@
-// The start, the comparison, and the search for films that have gone.
-#include "tests/safety/complaint.h"
+// Starts the program, compares the folder and searches for lost films.
+#include "tests/safety/soundness.h"
 
 #include <algorithm>
 #include <iterator>
@@ -15,7 +15,7 @@ namespace {
 
 const std::string MasterName(store::MasterFileName);
 
-bool StandsIn(std::string_view history, std::string_view record) {
+bool IsIn(std::string_view history, std::string_view record) {
   constexpr std::size_t EntryLength = runtime::HistoryHeadLength + store::RecordLength;
   for (; history.size() >= EntryLength; history.remove_prefix(EntryLength)) {
     if (history.substr(runtime::HistoryHeadLength, record.size()) == record) return true;
@@ -23,7 +23,7 @@ bool StandsIn(std::string_view history, std::string_view record) {
   return false;
 }
 
-// The first film of before that is neither in its slot nor in the history, as a complaint.
+// Complains about the first film of `before` that is neither in its slot nor in the history.
 std::string FilmLost(const kit::Folder& before, const kit::Folder& found) {
   auto contents = [](const kit::Folder& folder, const std::string& name) {
     auto file = folder.find(name);
@@ -34,7 +34,7 @@ std::string FilmLost(const kit::Folder& before, const kit::Folder& found) {
   for (std::size_t at = 0; at + store::RecordLength <= old_master.size(); at += store::RecordLength) {
     std::string film = old_master.substr(at, store::RecordLength);
     bool is_film = film.find_first_not_of(' ') < static_cast<std::size_t>(runtime::HistoryKeyWidth);
-    if (!is_film || master.compare(at, film.size(), film) == 0 || StandsIn(history, film)) continue;
+    if (!is_film || master.compare(at, film.size(), film) == 0 || IsIn(history, film)) continue;
     return "the film of slot " + std::to_string(at / store::RecordLength + 1) + " is not in the history";
   }
   return "";
@@ -49,17 +49,17 @@ kit::Folder Visible(const kit::Folder& content) {
   return visible;
 }
 
-std::unique_ptr<runtime::Disk> Fitted(runtime::Disk& below, const Fitting& fit) {
-  if (fit) return fit(below);
+std::unique_ptr<runtime::Disk> Wrapped(runtime::Disk& below, const DiskWrapper& wrapper) {
+  if (wrapper) return wrapper(below);
   return std::make_unique<kit::PassingDisk>(below);
 }
 
 std::string Complaint(kit::MemoryDisk& disk, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
-                      const Fitting& fit) {
-  std::unique_ptr<runtime::Disk> fitted = Fitted(disk, fit);
-  Running run(*fitted);
-  if (run.Program.Stopped()) {
-    const runtime::Failure& failure = *run.Program.Stopped();
+                      const DiskWrapper& wrapper) {
+  std::unique_ptr<runtime::Disk> wrapped = Wrapped(disk, wrapper);
+  StartedProgram started(*wrapped);
+  if (started.Program.Stopped()) {
+    const runtime::Failure& failure = *started.Program.Stopped();
     return "the start stops: " + std::string(failure.Name) + ", " + failure.File;
   }
   kit::Folder found = disk.Content();
@@ -75,9 +75,9 @@ std::string Complaint(kit::MemoryDisk& disk, const std::vector<kit::Folder>& all
 }
 
 std::string Complaint(const kit::Folder& found, const std::vector<kit::Folder>& allowed, const kit::Folder& before,
-                      const Fitting& fit) {
+                      const DiskWrapper& wrapper) {
   kit::MemoryDisk disk(found);
-  return Complaint(disk, allowed, before, fit);
+  return Complaint(disk, allowed, before, wrapper);
 }
 
 }  // namespace safety

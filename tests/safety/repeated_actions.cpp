@@ -1,5 +1,5 @@
-// Each time writes another version of the film, and the version tells which time it was.
-#include "tests/safety/habits.h"
+// Each repetition writes the film in a version of its own number.
+#include "tests/safety/repeated_actions.h"
 
 #include "store/film_record.h"
 #include "store/master_file.h"
@@ -29,7 +29,7 @@ std::vector<kit::Folder> AllowedEdit(int slot, int finished) {
           MasterOf(WithRecord(slot, kit::FilmBytes(slot, finished + 1)))};
 }
 
-// Odd times delete, which writes the blank record without and then with its line end; even times write a new film.
+// Odd repetitions delete (a blank record is written, then its line end); even ones write a new film.
 std::vector<kit::Folder> AllowedDelete(int slot, int finished) {
   if (finished % 2 == 1)
     return {MasterOf(WithRecord(slot, Blank("\r\n"))), MasterOf(WithRecord(slot, kit::FilmBytes(slot, finished + 1)))};
@@ -41,8 +41,8 @@ std::string LastAt(int time) { return std::to_string(time) + "\r\n"; }
 
 }  // namespace
 
-const std::vector<Habit>& Habits() {
-  static const std::vector<Habit> habits = {
+const std::vector<RepeatedAction>& RepeatedActions() {
+  static const std::vector<RepeatedAction> actions = {
       {"New", [](int slot) { return kit::FolderOfFilms(slot - 1); },
        [](int slot, int time) { return NewFilm(slot - 1 + time, time); }, AllowedNew},
       {"Edit", [](int) { return kit::FolderOfFilms(LastSlotTried); }, EditFilm, AllowedEdit},
@@ -55,7 +55,7 @@ const std::vector<Habit>& Habits() {
          return finished == 0 ? std::vector<kit::Folder>{none, next} : std::vector<kit::Folder>{now, next};
        }},
   };
-  return habits;
+  return actions;
 }
 
 }  // namespace safety

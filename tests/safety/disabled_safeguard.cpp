@@ -1,5 +1,5 @@
-// Which call belongs to which safeguard.
-#include "tests/safety/switched_off.h"
+// Maps disk calls to safeguards.
+#include "tests/safety/disabled_safeguard.h"
 
 #include <cerrno>
 
@@ -32,17 +32,17 @@ const std::vector<SafeguardRow>& Safeguards() {
   return rows;
 }
 
-SwitchedOff::SwitchedOff(runtime::Disk& below, Safeguard guard)
+DisabledSafeguard::DisabledSafeguard(runtime::Disk& below, Safeguard guard)
     : kit::PassingDisk(below), guard_(guard), master_(store::MasterFileName) {}
 
-int SwitchedOff::Open(const std::string& name, Mode mode) {
+int DisabledSafeguard::Open(const std::string& name, Mode mode) {
   if (IsOff(Safeguard::Recovery) && name == Journal && mode == Mode::Read) return -ENOENT;
   int handle = kit::PassingDisk::Open(name, mode);
   journal_was_there_ = journal_was_there_ || (name == Journal && mode == Mode::Read && handle >= 0);
   return handle;
 }
 
-std::int64_t SwitchedOff::WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) {
+std::int64_t DisabledSafeguard::WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) {
   const std::string& name = NameOf(handle);
   journal_written_ = journal_written_ || name == Journal;
   if ((IsOff(Safeguard::JournalWrite) && name == Journal) || TakesBack(name)) return static_cast<std::int64_t>(count);
@@ -51,11 +51,11 @@ std::int64_t SwitchedOff::WriteAt(int handle, const char* source, std::size_t co
   return result;
 }
 
-int SwitchedOff::Truncate(int handle, std::int64_t length) {
+int DisabledSafeguard::Truncate(int handle, std::int64_t length) {
   return TakesBack(NameOf(handle)) ? 0 : kit::PassingDisk::Truncate(handle, length);
 }
 
-int SwitchedOff::Sync(int handle) {
+int DisabledSafeguard::Sync(int handle) {
   const std::string& name = NameOf(handle);
   bool skipped = (IsOff(Safeguard::JournalSync) && name == Journal) ||
                  (IsOff(Safeguard::HistorySync) && name == History) ||
@@ -68,7 +68,7 @@ int SwitchedOff::Sync(int handle) {
   return result;
 }
 
-int SwitchedOff::Rename(const std::string& from, const std::string& to) {
+int DisabledSafeguard::Rename(const std::string& from, const std::string& to) {
   if (!IsOff(Safeguard::AsideRename)) return kit::PassingDisk::Rename(from, to);
   std::string content;
   {
@@ -83,15 +83,15 @@ int SwitchedOff::Rename(const std::string& from, const std::string& to) {
   return Below().Remove(from);
 }
 
-int SwitchedOff::SyncFolder(const std::string& name) {
+int DisabledSafeguard::SyncFolder(const std::string& name) {
   bool skipped = (IsOff(Safeguard::SafetyFolderSync) && name == runtime::SafetyFolder) ||
                  (IsOff(Safeguard::CollectionFolderSync) && name.empty()) ||
                  (IsOff(Safeguard::FolderSyncEachRun) && journal_was_there_);
   return skipped ? 0 : kit::PassingDisk::SyncFolder(name);
 }
 
-Fitting Without(Safeguard guard) {
-  return [guard](runtime::Disk& below) { return std::make_unique<SwitchedOff>(below, guard); };
+DiskWrapper Without(Safeguard guard) {
+  return [guard](runtime::Disk& below) { return std::make_unique<DisabledSafeguard>(below, guard); };
 }
 
 }  // namespace safety

@@ -1,15 +1,18 @@
-// The roads, and their stations as an undisturbed walk passes them.
-#include "tests/safety/road.h"
+// The scenarios, and the folders through which an undisturbed run passes.
+#include "tests/safety/scenario.h"
+
+#include <algorithm>
+#include <cctype>
 
 #include "store/master_file.h"
 #include "tests/kit/films.h"
 #include "tests/kit/passing_disk.h"
-#include "tests/safety/complaint.h"
+#include "tests/safety/soundness.h"
 
 namespace safety {
 namespace {
 
-// Keeps the folder of each moment at which a file of the user's was made safe or replaced.
+// Keeps the folder each time a file of the user's is synced or replaced.
 class WatchingDisk final : public kit::PassingDisk {
  public:
   WatchingDisk(kit::MemoryDisk& below, std::vector<kit::Folder>& seen)
@@ -32,41 +35,48 @@ class WatchingDisk final : public kit::PassingDisk {
 
 }  // namespace
 
-const std::vector<Road>& Roads() {
-  static const std::vector<Road> roads = [] {
+const std::vector<Scenario>& Scenarios() {
+  static const std::vector<Scenario> scenarios = [] {
     kit::Folder no_master = kit::FolderOfFilms(0);
     no_master.erase(std::string(store::MasterFileName));
     std::string half = kit::FilmBytes(13, 3);
-    return std::vector<Road>{
+    return std::vector<Scenario>{
         {"new films at the end", kit::FolderOfFilms(12), {NewFilm(13, 1), NewFilm(14, 2)}},
         {"edited films", kit::FolderOfFilms(9), {EditFilm(7, 1), EditFilm(8, 2), EditFilm(8, 3)}},
         {"a deleted film and a new one in its slot", kit::FolderOfFilms(9), {DeleteFilm(7), NewFilm(7, 1)}},
         {"an edited film put back", kit::FolderOfFilms(9), {EditFilm(7, 1), PutFilmBack(), PutFilmBack()}},
         {"a new film over a short trailing part", kit::FolderOfFilms(12, half.substr(0, 200)), {NewFilm(13, 1)}},
-        {"a new film behind a long trailing part", kit::FolderOfFilms(12, half.substr(0, 500)), {NewFilm(14, 1)}},
+        {"a new film after a long trailing part", kit::FolderOfFilms(12, half.substr(0, 500)), {NewFilm(14, 1)}},
         {"the first film of an empty file", kit::FolderOfFilms(0), {NewFilm(1, 1), NewFilm(2, 2)}},
         {"the first film of a missing file", no_master, {NewFilm(1, 1)}},
         {"an edited film saved on closing", kit::FolderOfFilms(8), {EditAndClose(7, 1)}},
         {"small files", kit::FolderOfFilms(8), {WriteSmallFile("AutoSave", "YES"), WriteSmallFile("Last", " 7 ")}},
     };
   }();
-  return roads;
+  return scenarios;
 }
 
-std::vector<std::vector<kit::Folder>> Stations(const Road& road) {
-  kit::MemoryDisk memory(road.Before);
+std::vector<std::vector<kit::Folder>> AllowedFolders(const Scenario& scenario) {
+  kit::MemoryDisk memory(scenario.Before);
   std::vector<kit::Folder> seen;
   WatchingDisk watching(memory, seen);
-  Running run(watching);
-  std::vector<std::vector<kit::Folder>> stations;
-  for (const Step& step : road.Steps) {
+  StartedProgram started(watching);
+  std::vector<std::vector<kit::Folder>> allowed_after;
+  for (const Step& step : scenario.Steps) {
     seen = {Visible(memory.Content())};
-    step(run.Program);
+    step(started.Program);
     seen.push_back(Visible(memory.Content()));
-    stations.push_back(seen);
+    allowed_after.push_back(seen);
   }
-  stations.push_back({Visible(memory.Content())});
-  return stations;
+  allowed_after.push_back({Visible(memory.Content())});
+  return allowed_after;
+}
+
+std::string TestNameOf(const Scenario& scenario) {
+  std::string name = scenario.Name;
+  std::replace_if(
+      name.begin(), name.end(), [](unsigned char letter) { return std::isalnum(letter) == 0; }, '_');
+  return name;
 }
 
 }  // namespace safety
