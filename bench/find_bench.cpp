@@ -1,5 +1,5 @@
 // A search that finds nothing, for one field and for six, side by side with a plain sequential read of the file, GNU
-// grep over the same bytes and an SQLite scan. Usage: find_bench RECPRA_DAT [FILMS...]
+// grep over the same bytes and an SQLite scan. Usage: find_bench [RECPRA_DAT [FILMS...]]
 #include <fcntl.h>
 #include <unistd.h>
 

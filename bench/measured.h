@@ -7,7 +7,7 @@
 
 namespace bench {
 
-// Seconds: as the work took them, part by part. PeakBytes: the most memory that its process held.
+// Seconds of each part of the work, and the peak memory of its process.
 struct Measured {
   std::vector<double> Parts;
   std::int64_t PeakBytes = 0;
@@ -19,11 +19,11 @@ double Timed(const std::function<void()>& call);
 // The same of the processor.
 double ProcessorSeconds(const std::function<void()>& call);
 
-// Runs the work in a process of its own, so many times; the run that took the least. Work: returns the seconds of its
-// parts; the same number every time. Throws std::runtime_error where a run fails.
+// Runs the work in a process of its own, `runs` times; returns the fastest. work: returns the seconds of its
+// parts; the same number every time. Throws std::runtime_error if a run fails.
 Measured Best(int runs, const std::function<std::vector<double>()>& work);
 
-// The same with all runs in one process, for work that a program does which has long been running.
+// The same with all runs in one process, as in a long-running program.
 Measured BestInOne(int runs, const std::function<std::vector<double>()>& work);
 
 }  // namespace bench

@@ -1,5 +1,5 @@
 // ShowRecord of 32,767 films on the bare forms, side by side with copying the same 35 texts of each into plain strings.
-// Usage: show_record_bench RECPRA_DAT
+// Usage: show_record_bench [RECPRA_DAT]
 #include <array>
 #include <cstdio>
 #include <filesystem>

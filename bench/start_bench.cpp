@@ -1,5 +1,5 @@
 // The start of a process up to its shown window, side by side with the smallest program of the toolkit that shows 200
-// widgets; on collections of several sizes. Usage: start_bench RECPRA_DAT
+// widgets; on collections of several sizes. Usage: start_bench [RECPRA_DAT]
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

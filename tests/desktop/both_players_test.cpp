@@ -203,7 +203,8 @@ TEST_P(BothPlayers, EndUpAlikeAfterEveryAction) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, BothPlayers, testing::Range(1U, 61U));
+INSTANTIATE_TEST_SUITE_P(Seeds, BothPlayers, testing::Range(1U, 61U),
+                         [](const auto& seed) { return "Seed" + std::to_string(seed.param); });
 
 }  // namespace
 }  // namespace story

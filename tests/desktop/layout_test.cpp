@@ -97,7 +97,8 @@ TEST_P(Layout, EveryFieldAndButtonHasANameToBeSpoken) {
   EXPECT_EQ(Form().ViewOf(program_.RecordScreen.cmdNew)->Widget().accessibleName(), "New");
 }
 
-INSTANTIATE_TEST_SUITE_P(Scales, Layout, testing::Values(1, 2));
+INSTANTIATE_TEST_SUITE_P(Scales, Layout, testing::Values(1, 2),
+                         [](const auto& scale) { return "Times" + std::to_string(scale.param); });
 
 }  // namespace
 }  // namespace story

@@ -8,7 +8,7 @@
 namespace runtime {
 namespace {
 
-// The name of the failure that stops it; "" where nothing does.
+// The name of the failure; "" if there is none.
 std::string_view FailureOf(std::string_view text) {
   try {
     WholeNumber(text, "Last");

@@ -1,4 +1,4 @@
-// Starts on files that cannot be used: the failure is named with its file, and nothing is rewritten.
+// Starts on unusable files: the failure is reported with its file, and nothing is rewritten.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -51,6 +51,11 @@ TEST_P(Refused, IsNamed) {
 
 INSTANTIATE_TEST_SUITE_P(Files, Refused,
                          testing::Values("Recpra.Dat", "AutoSave", "AutoSort", "BGColor", "txtBGColor", "txtForColor",
-                                         "tagForColor", "Titlepra", "Laserpra", "VHSpra", "DVDpra", "Fo1"));
+                                         "tagForColor", "Titlepra", "Laserpra", "VHSpra", "DVDpra", "Fo1"),
+                         [](const auto& file) {
+                           std::string name = file.param;
+                           std::erase(name, '.');
+                           return name;
+                         });
 
 }  // namespace

@@ -1,5 +1,4 @@
-// Every call that a sort makes on the disk goes wrong in every way: the output is the old one or the new one, whole,
-// and the status says which.
+// Every disk call of a sort fails in every way: the output is wholly the old or the new one, and the status says which.
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -51,7 +50,7 @@ std::size_t CallsOf(const SortLimits& limits) {
   return disk.Calls();
 }
 
-// Nothing where the failure of a folder's sync stopped it.
+// Nothing if a failed folder sync stopped it.
 std::optional<SortOutcome> TrySort(Sorter& sorter) {
   try {
     return SortWith(sorter, "Titlepra.Dat", TitlesStatement);
@@ -76,10 +75,11 @@ void ExpectSortsAfterwards(kit::MemoryDisk& memory) {
 class EveryCallOfASort : public testing::TestWithParam<SortLimits> {};
 
 TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
+  const std::size_t calls = CallsOf(GetParam());
   for (Fault fault : {Fault::Full, Fault::Error, Fault::Refused, Fault::ShortThenFull}) {
     for (bool from_then_on : {false, true}) {
-      for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
-        SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+      for (std::size_t at = 0; at < calls; ++at) {
+        SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
         kit::MemoryDisk memory(Before());
         kit::FaultyDisk disk(memory, {fault, at, from_then_on});
         std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
@@ -96,7 +96,8 @@ TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
 }
 
 TEST_P(EveryCallOfASort, LeavesNothingAsideAfterAFailureThatGoesBy) {
-  for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
+  const std::size_t calls = CallsOf(GetParam());
+  for (std::size_t at = 0; at < calls; ++at) {
     kit::MemoryDisk memory(Before());
     kit::FaultyDisk disk(memory, {Fault::Full, at});
     std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
@@ -107,9 +108,10 @@ TEST_P(EveryCallOfASort, LeavesNothingAsideAfterAFailureThatGoesBy) {
 }
 
 TEST_P(EveryCallOfASort, GoesOnAfterAnInterruptionOrAShortOne) {
+  const std::size_t calls = CallsOf(GetParam());
   for (Fault fault : {Fault::Interrupted, Fault::Short}) {
-    for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
-      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+    for (std::size_t at = 0; at < calls; ++at) {
+      SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
       kit::MemoryDisk memory(Before());
       kit::FaultyDisk disk(memory, {fault, at, fault == Fault::Short});
       std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
@@ -122,9 +124,10 @@ TEST_P(EveryCallOfASort, GoesOnAfterAnInterruptionOrAShortOne) {
 }
 
 TEST_P(EveryCallOfASort, IsKilledToTheOldOrTheNewOutput) {
+  const std::size_t calls = CallsOf(GetParam());
   for (Fault fault : {Fault::Kill, Fault::KillHalfway}) {
-    for (std::size_t at = 0; at < CallsOf(GetParam()); ++at) {
-      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+    for (std::size_t at = 0; at < calls; ++at) {
+      SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
       kit::MemoryDisk memory(Before());
       kit::FaultyDisk disk(memory, {fault, at});
       ASSERT_THROW(TrySortOn(disk, GetParam()), kit::Killed);
@@ -150,12 +153,12 @@ TEST_P(EveryCallOfASort, LosesPowerToTheOldOrTheNewOutput) {
     ASSERT_EQ(folder.at("Titlepra.Dat"), NewKeys()) << "what the sort has reported must stay";
 }
 
-// What a sorter has learnt from the sort before does not outlive a failure that it could not see through.
+// A failure makes the sorter forget what it kept of the previous sort.
 TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
   const std::size_t calls = CallsOf(GetParam());
   for (Fault fault : {Fault::Full, Fault::Error, Fault::ShortThenFull}) {
     for (std::size_t at = calls; at < 2 * calls; ++at) {
-      SCOPED_TRACE("fault " + std::to_string(static_cast<int>(fault)) + " at call " + std::to_string(at));
+      SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
       kit::MemoryDisk memory(Before());
       kit::FaultyDisk disk(memory, {fault, at});
       Sorter sorter(disk, GetParam());
@@ -171,7 +174,7 @@ TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
 }
 
 TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
-  // Open and length of the input, open and read of the weights stand before all others.
+  // The open of the input is the first call.
   kit::MemoryDisk memory(Before());
   kit::FaultyDisk disk(memory, {Fault::Error, 0});
   EXPECT_EQ(TrySortOn(disk, {})->Retcode, SortInputUnreadable);
@@ -195,7 +198,9 @@ TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
   EXPECT_EQ(Leftovers(memory), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(InMemoryAndThroughRuns, EveryCallOfASort, testing::ValuesIn(Limits));
+INSTANTIATE_TEST_SUITE_P(Sorts, EveryCallOfASort, testing::ValuesIn(Limits), [](const auto& limits) {
+  return limits.param.MemoryBytes == SortLimits().MemoryBytes ? "InMemory" : "ThroughRuns";
+});
 
 }  // namespace
 }  // namespace sort
