@@ -25,7 +25,7 @@ constexpr double FrameMilliseconds = 16;
 
 using Handler = void (frmPage1::*)();
 
-// The program on a collection, and its real window where one is wanted.
+// The program on a collection, with its real window if drawn.
 class Walk {
  public:
   Walk(const std::filesystem::path& folder, bool drawn) : disk_(folder.string()), program_(desk_, disk_) {
@@ -65,7 +65,7 @@ std::vector<double> Repeat(Walk& walk, Handler handler, int times) {
   return taken;
 }
 
-// All over the key file.
+// Spread over the key file.
 void MeasureSteps(const std::filesystem::path& folder, std::int64_t films, bool drawn) {
   Walk walk(folder, drawn);
   walk.Run(&frmPage1::mnuByTitle_Click);

@@ -43,7 +43,7 @@ double Grep(const std::string& path) {
   });
 }
 
-// Asks the handler as a user does; the text is in no film, so that the whole file is read and the screen is reset.
+// Runs the handler as a user does. No film contains the text, so it reads the whole file and resets the screen.
 double Search(const std::string& folder, void (frmPage1::*handler)()) {
   kit::QuietDesk desk;
   runtime::RealDisk disk(folder);

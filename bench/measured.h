@@ -1,4 +1,4 @@
-// Times and memory of one piece of work, taken in a process of its own.
+// Measures time and memory of a piece of work in a process of its own.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ struct Measured {
 
 // Seconds that the call takes.
 double Timed(const std::function<void()>& call);
-// The same of the processor.
+// The same in processor time.
 double ProcessorSeconds(const std::function<void()>& call);
 
 // Runs the work in a process of its own, `runs` times; returns the fastest. work: returns the seconds of its

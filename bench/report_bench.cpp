@@ -25,7 +25,7 @@ namespace {
 constexpr int Films = 32766;
 constexpr std::chrono::milliseconds DisplayFrame(16);
 
-// The bytes of a job's text, and the memory that the job holds for it.
+// The bytes of a job's text, and the memory used for it.
 struct JobBytes {
   std::size_t Text = 0;
   std::size_t Held = 0;
@@ -42,7 +42,7 @@ JobBytes BytesOf(const runtime::PrintJob& job) {
   return bytes;
 }
 
-// Keeps the last document, and paints as the desk of the running program does.
+// Keeps the last document and paints like the real desk.
 class ReportDesk final : public kit::QuietDesk {
  public:
   desktop::StackView* View = nullptr;

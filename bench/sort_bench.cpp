@@ -1,7 +1,7 @@
-// sort_bench SOURCE FOLDER N...: measures the sort run on master files of N films, made in that folder from those of
-// the source, beside a plain read, GNU sort and SQLite, and prints times, ratios and peak memory. Each contestant runs
-// several times in a process of its own; GNU sort starts anew each time, which is a good part of it where films are
-// few.
+// Measures the sort run on master files of N films next to a plain read, GNU sort and SQLite; prints times, ratios and
+// peak memory. The files are made in FOLDER from the films of SOURCE. Each contestant runs several times in a process
+// of its own; GNU sort starts again each time, which is a good part of its time if films are few. Usage: sort_bench
+// SOURCE FOLDER N...
 #include <algorithm>
 #include <charconv>
 #include <cstdio>

@@ -33,8 +33,7 @@ constexpr Pass Passes[] = {
 };
 // clang-format on
 
-// The old outputs go first: where one is replaced, some file systems write the new one out at once, which is a sync
-// too.
+// Old outputs are removed first: some file systems write a replacing file out at once, which is a sync too.
 std::vector<double> SortPassesOn(Disk& disk) {
   std::vector<double> seconds;
   sort::Sorter sorter(disk);

@@ -1,4 +1,4 @@
-// What is measured side by side on one master file: the four passes of the sort, and what they are held against.
+// The work measured side by side on one master file: the four passes of the sort and their baselines.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 
 namespace bench {
 
-// All work on the files of one folder, which holds the master file; none leaves memory behind. Each call is one piece
-// of work for Best, and returns the seconds of its parts.
+// All use the files of one folder, which contains the master file, and free their memory. Each call is one piece of
+// work for Best and returns the seconds of its parts.
 
-// One plain sequential read of the master file, nothing done with it.
+// A plain sequential read of the master file.
 std::vector<double> ReadMaster(const std::string& folder);
 // The four passes, one part each. Synced: with the syncs of the real disk.
 std::vector<double> SortPasses(const std::string& folder, bool synced);

@@ -1,4 +1,4 @@
-// The indexes of SQLite that would stand for the key files.
+// SQLite indexes in place of the key files.
 #include <sqlite3.h>
 
 #include <memory>

@@ -68,8 +68,7 @@ int StartProgram(int argc, char** argv, const std::string& folder) {
   });
 }
 
-// A new process of this very program that shows one of the windows and ends: its seconds from start to end, and its
-// peak memory in MiB.
+// Runs this program again to show one window and end; the seconds it took, and its peak memory in MiB.
 bench::Measured Start(const std::string& window, const std::string& folder) {
   return bench::Best(Runs, [&] {
     double seconds = bench::Timed([&] {

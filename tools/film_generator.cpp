@@ -1,4 +1,4 @@
-// A numbered title keeps its width: its end gives way to the number.
+// A numbered title keeps its width: the number replaces its end.
 #include "tools/film_generator.h"
 
 #include <algorithm>

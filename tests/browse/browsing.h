@@ -1,4 +1,4 @@
-// A program on a working folder of its own, and a desk that answers at once and keeps what it was asked.
+// A program in its own working folder, and a desk that answers at once and records requests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -16,9 +16,9 @@
 
 class BrowsingDesk final : public kit::QuietDesk {
  public:
-  // What is typed into every input box.
+  // The answer to every input box.
   std::string Typed;
-  // Looked at whenever a message box or an input box is up.
+  // Called while a message box or an input box is open.
   std::function<void()> Watch = [] {};
   // The texts of the message boxes; "beep" for a beep.
   std::vector<std::string> Shown;

@@ -1,4 +1,4 @@
-// How far views and lists go: to 32,766 keys from end to end, to 32,767 with an overflow, and no further.
+// The limits of views and lists: 32,766 keys work, 32,767 end in an overflow, more do not open.
 #include "tests/browse/browsing.h"
 
 namespace {
@@ -85,7 +85,7 @@ TEST_F(KeyLimitsTest, EveryListPages32766KeysBothWaysAndSaysItsEnds) {
     bool by_genre = list.Item == &frmPage1::mnuFindAllGenre;
     desk.Typed = by_genre ? "r" : "";
     frmPage1& window = Start();
-    // Dramas are three of four, so that the pages of the genre list lie further apart.
+    // Three of four films are dramas, so their pages in the genre list are longer apart.
     int full_pages = by_genre ? (Keys - Keys / 4) / 20 : FullPages;
     Click(window.*list.Item);
     for (int page = 1; page < full_pages; ++page) {

@@ -1,4 +1,4 @@
-// What stands on the screen while a list opens, and what a step reads anew from the folder.
+// What the screen shows while a list opens, and what a step reads again from the folder.
 #include "tests/browse/browsing.h"
 
 namespace {
@@ -19,7 +19,7 @@ constexpr Opening Openings[] = {
 };
 // clang-format on
 
-// The end comes at the first key, before a film is shown under its own heading.
+// The list ends at its first key, before a film is shown under the new heading.
 TEST_F(BrowsingTest, AListHasItsHeadingBeforeItsFirstFilm) {
   SetUpLine("film 1 Title=\"Alien\"");
   for (const char* name : {"Titlepra", "DVDpra", "Laserpra", "VHSpra"}) {
@@ -133,7 +133,7 @@ TEST_F(BrowsingTest, AListsCountIsReadAgainByItsNext) {
   EXPECT_EQ(desk.Reported, "File not found");
 }
 
-// Where "Last" has gone, the number that was read before counts.
+// If "Last" is gone, the number read before is used.
 TEST_F(BrowsingTest, ALastEntryThatGoesMissingIsTheOneReadBefore) {
   SetUpLine("films 1 4 Title=\"Film #\"");
   SetUpLine("file Last \"3\\r\\n\"");

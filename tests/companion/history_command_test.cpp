@@ -1,4 +1,4 @@
-// What the companion command shows of the history and puts back, on a real folder.
+// The companion command lists the history and restores films, on a real folder.
 #include "companion/history_command.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// A copy is whole or not there, whatever goes wrong on the way.
+// A copy is complete or absent, whatever fails.
 #include "filecopy/copy_file.h"
 
 #include <gtest/gtest.h>

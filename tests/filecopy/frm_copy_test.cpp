@@ -1,4 +1,4 @@
-// The copy window on disks in memory: what it asks to the letter, and what it does when a disk is full.
+// The copy window on disks in memory: the exact texts of its questions, and full disks.
 #include "filecopy/frmCopy.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ std::int64_t Moment(std::chrono::year_month_day date, int hour, int minute) {
   return (sys_days(date) + hours(hour) + minutes(minute)).time_since_epoch() / seconds(1);
 }
 
-// The program with its record screen up and a disk in drive a.
+// The program with its record screen shown and a disk in drive a.
 struct CopyWindow : testing::Test {
   CopyWindow() {
     setenv("TZ", "UTC", 1);

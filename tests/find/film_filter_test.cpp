@@ -1,4 +1,4 @@
-// The quick look never passes over a film that holds the text, and does pass over most others.
+// The filter keeps every film that contains the text and drops most others.
 #include "find/film_filter.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The focus: who can hold it, what runs when it moves, where Tab takes it.
+// The focus: who can hold it, what runs when it moves, where Tab moves it.
 #include <gtest/gtest.h>
 
 #include "tests/forms/small_window.h"

@@ -1,4 +1,4 @@
-// A window of a few controls whose handlers leave a trace, on a desk that only counts: what the tests of forms work on.
+// A window of a few controls whose handlers are traced.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 #include "forms/window.h"
 #include "forms/window_stack.h"
 
-// A desk without a world: it notes what it was asked for, and answers OK, No, nothing or cancel.
+// Records requests; answers OK, No, nothing or Cancel.
 class CountingDesk final : public forms::Desk {
  public:
   std::vector<std::string>& Trace;
@@ -40,7 +40,7 @@ class CountingDesk final : public forms::Desk {
 struct SmallWindow : forms::Window {
   using forms::Window::Window;
 
-  // The rows do not stand in the order of their tab positions.
+  // Declared out of tab order on purpose.
   forms::TextBox      Third   { *this, "Third",   { 3, 30, 33 }, {}, forms::Align::Left, {} };
   forms::TextBox      First   { *this, "First",   { 1, 10, 11 }, {}, forms::Align::Left, {} };
   forms::TextBox      Second  { *this, "Second",  { 2, 20, 0 },  {}, forms::Align::Left, {} };
@@ -82,9 +82,9 @@ struct SmallScreen {
     Window.Unload = [this] { Trace.emplace_back("Window.Unload"); };
   }
 
-  // What has happened since the last time it was asked.
+  // The events since the last call.
   std::vector<std::string> Taken() { return std::exchange(Trace, {}); }
-  // Shows the window, with that control as focus holder and nothing traced so far.
+  // Shows the window with the focus in that control and an empty trace.
   void ShowWithFocus(forms::Control& holder) {
     Window.Show();
     holder.SetFocus();

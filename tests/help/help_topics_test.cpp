@@ -1,4 +1,4 @@
-// The delivered help file has a topic for everything that F1 can ask for, and its links lead somewhere.
+// The delivered help file has a topic for every number that F1 can open, and no dead link.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -27,7 +27,7 @@ help::HelpFile DeliveredHelp() {
   return help::ParseHelp(ReadWhole(kit::DeliveredFolder() / std::string(help::HelpFileName)));
 }
 
-// Who asks for a topic, by its number.
+// Who opens a topic, by its number.
 using Askers = std::map<int, std::string>;
 
 Askers AskedByControls() {

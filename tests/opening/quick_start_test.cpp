@@ -1,4 +1,4 @@
-// The quick start window where its flag file cannot be read.
+// The quick start window if its flag file cannot be read.
 #include <gtest/gtest.h>
 
 #include "app/program.h"

@@ -1,5 +1,5 @@
-// What stories cannot show of the reports: a printer that fails, what the user sees meanwhile, the clock of each page,
-// and key files without an end.
+// Reports beyond the reach of stories: a failing printer, the screen meanwhile, the clock of each page, and key files
+// that never end.
 #include <gtest/gtest.h>
 
 #include <map>

@@ -1,4 +1,4 @@
-// Whole numbers of 16 and 32 bits: rounding, and the overflow.
+// Integers of 16 and 32 bits: rounding and overflow.
 #include "runtime/checked_int.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Files by number on a real folder: numbers, random records, lines.
+// Numbered files in a real folder: numbers, random records, lines.
 #include "runtime/files.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ class FilesTest : public testing::Test {
     files.Get(number, record, target.data());
     return target;
   }
-  // The name of the failure that the call stops with, and the file concerned; "" where nothing does.
+  // The name and file of the failure of the call; "" if it succeeds.
   template <typename Call>
   std::string FailureOf(Call call) {
     try {

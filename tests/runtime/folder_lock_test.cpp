@@ -1,4 +1,4 @@
-// Two runs on one folder.
+// Two runs in one folder.
 #include "runtime/folder_lock.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The comparison with the reference, pass by pass.
+// Compares with the reference pass by pass.
 #include "tests/sort/calls.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Calls of the sort operation on a disk in memory, as the tests of the sort make them.
+// Runs the sort operation on a disk in memory.
 #pragma once
 
 #include <mutex>
@@ -26,20 +26,20 @@ SortOutcome SortOn(runtime::Disk& disk, std::string_view output, std::string_vie
 // One of several sorts of the same sorter.
 SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view statement);
 
-// Of the sort run's passes in the order of the reference's pairs.
+// The statement of a pass, in the order of the reference's pairs.
 std::string StatementOfPass(std::size_t pass);
 
-// The weights as delivered.
+// The delivered weights.
 std::string DeliveredWeights();
 
-// A folder that holds this master file and the weights as delivered.
+// A folder with this master file and the delivered weights.
 kit::Folder FolderWith(const std::string& master);
-// "" where there is none of that name.
+// The content of a file; "" if it is missing.
 std::string FileOn(const kit::MemoryDisk& disk, const std::string& name);
-// The names of the files in the safety folder, one after the other.
+// The names of the files in the safety folder, each with a blank after it.
 std::string Leftovers(const kit::MemoryDisk& disk);
 
-// Two threads may read and write through it.
+// Safe for reads and writes of two threads.
 class SharedDisk final : public kit::PassingDisk {
  public:
   using PassingDisk::PassingDisk;
@@ -56,8 +56,7 @@ class SharedDisk final : public kit::PassingDisk {
   std::mutex mutex_;
 };
 
-// The four passes with these limits make what the reference makes of the same master file, each for itself and one
-// after the other by one sorter; a googletest failure where they do not.
+// Checks the four passes with these limits against the reference: each with a sorter of its own, then all with one.
 void ExpectAsReference(const std::string& master, const SortLimits& limits);
 
 }  // namespace sort

@@ -1,4 +1,4 @@
-// The operation's statuses and what it leaves in the folder.
+// The statuses of the operation, and the files it leaves.
 #include "sort/operation.h"
 
 #include <gtest/gtest.h>
@@ -76,7 +76,7 @@ TEST(SortOperation, GivesStatus2WhereTheInputIsMissing) {
   EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortInputUnreadable);
 }
 
-// An input that says to be longer than it is, and counts the reads of it.
+// An input that reports too great a length and counts its reads.
 class LongInput final : public kit::PassingDisk {
  public:
   LongInput(runtime::Disk& below, std::int64_t more_records) : PassingDisk(below), more_records_(more_records) {}
@@ -154,7 +154,7 @@ TEST(SortOperation, ComparesAConstantAsIfPaddedWithBlanks) {
   EXPECT_EQ(FileOn(disk, "out"), "Ran  0000001Rango0000002");
 }
 
-// Longer than the blocks in which files are read and written.
+// Longer than one block of reading and writing.
 TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
   std::string records;
   for (char letter : {'b', 'a'}) records += std::string(LongestRecord, letter);

@@ -34,7 +34,7 @@ class Chance {
   std::mt19937 engine_;
 };
 
-// Blank, low, accented, of both cases, equal, equal but for the case, and such that differ late or early.
+// Blank, low, accented, in both cases, equal, equal ignoring case, and different late or early.
 std::string RandomTitle(Chance& chance) {
   switch (chance.Below(8)) {
     case 0:
@@ -150,7 +150,7 @@ TEST(SortProperty, OneSorterSeesWhatHasChangedSinceItsLastSort) {
   }
 }
 
-// A statement of any kind on records of twelve bytes, worked out in the plainest way.
+// Any statement on records of twelve bytes, sorted in the plainest way.
 struct AnyStatement {
   std::string Text;
   std::vector<SortField> Fields;

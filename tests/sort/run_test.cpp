@@ -1,5 +1,4 @@
-// What a sort run shows while it is under way: its label is painted before each pass, and its figures stand at each
-// beep.
+// What a sort run shows: its label before each pass, its figures at each beep.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -17,7 +16,7 @@
 namespace screen {
 namespace {
 
-// A desk with an eye on the moments of a run; nobody answers its boxes but with No.
+// Calls back at each repaint and beep; answers No.
 class WatchedDesk final : public kit::QuietDesk {
  public:
   std::function<void()> OnPaint = [] {}, OnBeep = [] {};
@@ -89,7 +88,7 @@ TEST_F(SortRunTest, ShowsTheStatusOfPassesThatFailAndCarriesTheCountOn) {
   EXPECT_FALSE(program.Stopped());
 }
 
-// A pass that fails after one that did not writes the count of that one.
+// A failed pass writes the count of the pass before it.
 TEST_F(SortRunTest, WritesTheCountOfThePassBeforeWhereOneFails) {
   Program program(Desk, Disk);
   program.StartRecordScreen();
@@ -115,7 +114,7 @@ TEST_F(SortRunTest, SetsTheHelpTopicOfTheButtonAndNoneOfTheMenu) {
   EXPECT_EQ(topics, (std::vector<int>{1, 1, 1, 1, 170, 170, 170, 170}));
 }
 
-// The box and the setting agree as a rule; where they do not, it is the setting that the reminder goes by.
+// If the box and the setting differ, the reminder follows the setting.
 TEST_F(SortRunTest, RemindsOfSavingWhereTheBoxSaysOnAndTheSettingsSayNo) {
   Program program(Desk, Disk);
   program.StartRecordScreen();
@@ -128,7 +127,7 @@ TEST_F(SortRunTest, RemindsOfSavingWhereTheBoxSaysOnAndTheSettingsSayNo) {
   EXPECT_EQ(page.LastEntryRecNo.Value(), "1");
 }
 
-// The key file that stays open reads what the run has made, through the number under which it was open before.
+// The open key file gives the new keys under its old number.
 TEST_F(SortRunTest, LeavesTheNewKeysOfTapesOpen) {
   story::SetUp(World, story::ParseLine("film 2 Title=\"Alien\" Format=\"V\"", 1), World.Folder);
   Program program(Desk, Disk);

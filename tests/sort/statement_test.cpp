@@ -1,4 +1,4 @@
-// What a control statement says, and what is none.
+// Which texts are control statements, and what they mean.
 #include "sort/statement.h"
 
 #include <gtest/gtest.h>

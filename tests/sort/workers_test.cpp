@@ -1,4 +1,4 @@
-// Two threads share a piece of work, again and again, and neither's failure is lost.
+// Two threads share pieces of work; a failure of either is reported.
 #include "sort/workers.h"
 
 #include <gtest/gtest.h>
