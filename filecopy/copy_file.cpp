@@ -1,4 +1,4 @@
-// Copies in blocks to a hidden file beside the target, syncs it and renames it.
+// Copies in blocks to a hidden file next to the target, syncs it and renames it.
 #include "filecopy/copy_file.h"
 
 #include <string_view>
@@ -26,18 +26,23 @@ void WriteAside(const runtime::OpenFile& source, runtime::Disk& target_disk, con
 
 }  // namespace
 
-void CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
-              const std::string& target_name) {
+Copied CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
+                const std::string& target_name) {
   runtime::OpenFile source(source_disk, source_name, runtime::Disk::Mode::Read);
   std::string aside = "." + target_name + std::string(runtime::AsideEnding);
   try {
     WriteAside(source, target_disk, aside);
-    runtime::Checked(target_disk.Rename(aside, target_name), target_name);
+    runtime::RetryInterrupted(target_name, [&] { return target_disk.Rename(aside, target_name); });
   } catch (const runtime::Failure&) {
-    target_disk.Remove(aside);
+    runtime::Discard(target_disk, aside);
     throw;
   }
-  runtime::Checked(target_disk.SyncFolder(""), target_name);
+  try {
+    runtime::RetryInterrupted(target_name, [&] { return target_disk.SyncFolder(""); });
+  } catch (const runtime::Failure&) {
+    return Copied::Unconfirmed;  // the new file has the old one's name already
+  }
+  return Copied::Confirmed;
 }
 
 FileFacts FactsOf(runtime::Disk& disk, const std::string& name) {

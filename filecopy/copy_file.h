@@ -9,17 +9,21 @@
 
 namespace filecopy {
 
-// The target is written aside on its own disk and takes its place when it is complete: a failure, or a stop at any
-// moment, leaves what stood there before. Throws the Failure that names what went wrong.
-void CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
-              const std::string& target_name);
+// Both: the whole new file is in place. Unconfirmed: the last sync failed, so a power failure may bring back what was
+// there before.
+enum class Copied { Confirmed, Unconfirmed };
+
+// Writes a temporary file on the target's disk and renames it once it is complete. A stop at any moment, or a Failure,
+// which names what went wrong, leaves what was there before.
+Copied CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
+                const std::string& target_name);
 
 // Modified: local time. Size: in bytes.
 struct FileFacts {
   std::chrono::local_seconds Modified;
   std::int64_t Size = 0;
 };
-// Throws Failure "File not found" where there is none.
+// Throws Failure "File not found" if there is none.
 FileFacts FactsOf(runtime::Disk& disk, const std::string& name);
 
 }  // namespace filecopy

@@ -13,6 +13,8 @@ constexpr int MasterNo = 1;
 constexpr std::string_view OwnDrive = "C:";
 constexpr std::string_view NoDiskText =
     "There is no disk in floppy drive, or wrong drive was selected. Insert disk and click ok.";
+constexpr std::string_view UnconfirmedText =
+    "The file was copied, but the disk did not confirm it. Please copy it again before you remove the disk.";
 
 }  // namespace
 
@@ -123,7 +125,10 @@ std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
 
 void frmCopy::CopyToDrive() {
   if (DriveWord == OwnDrive) return;
-  filecopy::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
+  filecopy::Copied copied =
+      filecopy::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
+  if (copied == filecopy::Copied::Unconfirmed)
+    RecordScreen.Desk.MessageBox(forms::Icon::Warning, BoxTitle, UnconfirmedText);
 }
 
 void frmCopy::ReportNoDisk() {

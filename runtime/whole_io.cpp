@@ -81,9 +81,14 @@ void TakePlace(Disk& disk, std::string_view aside, std::string_view name) {
   SyncFolders(disk, name);
 }
 
+void Discard(Disk& disk, const std::string& name) {
+  while (disk.Remove(name) == -EINTR) {
+  }
+}
+
 void RemoveLeftovers(Disk& disk) {
   for (const std::string& name : disk.List(std::string(SafetyFolder))) {
-    if (name.ends_with(AsideEnding)) disk.Remove(InSafetyFolder(name));
+    if (name.ends_with(AsideEnding)) Discard(disk, InSafetyFolder(name));
   }
 }
 

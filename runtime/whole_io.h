@@ -64,7 +64,9 @@ void SyncFolders(Disk& disk, std::string_view file);
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);
 // Puts a complete, synced file of the safety folder in the place of the named one.
 void TakePlace(Disk& disk, std::string_view aside, std::string_view name);
-// Removes what a stop in the middle left aside, as far as it can be removed: it is in nobody's way.
+// Removes a temporary file; a failure is ignored, since the file does no harm.
+void Discard(Disk& disk, const std::string& name);
+// Discards what a stop left in the safety folder.
 void RemoveLeftovers(Disk& disk);
 
 // The ending of files that are only on their way.
