@@ -1,5 +1,5 @@
-// Files by number over the disk: random files through a block of records read ahead, text files in memory until they
-// are closed.
+// Numbered files on the disk: random files read ahead a block of records, text files stay in memory until they are
+// closed.
 #include "runtime/files.h"
 
 #include <algorithm>
@@ -15,22 +15,23 @@ constexpr std::size_t ReadAheadBytes = 256 * 1024;
 
 }  // namespace
 
-// Text: the content of an input file from Position on, or what has been written to an output file so far.
+// Text: the content of an input file, read up to Position, or what has been written to an output file so far.
 struct Files::NumberedFile {
   enum class Use { Random, Input, Output } As;
   std::string Name;
   int RecordLength = 0;
+  BeforeOverwrite Before = nullptr;
   std::optional<OpenFile> Handle;
   std::string Text;
   std::size_t Position = 0;
-  // What was read ahead of a random file: so many bytes, and where they begin. The buffer is made once and never
+  // What was read ahead of a random file, its length and its offset in the file. The buffer is allocated once and never
   // cleared.
   std::unique_ptr<char[]> Ahead;
   std::size_t AheadLength = 0;
   std::int64_t AheadFrom = 0;
 
   void Forget() { AheadLength = 0; }
-  // The bytes from that offset on, as far as they have been read ahead: a record or more, fewer where the file ends.
+  // Buffered bytes from offset: a record or more, fewer at the end of the file.
   std::string_view Fetch(std::int64_t offset);
 };
 
@@ -41,7 +42,7 @@ std::string_view Files::NumberedFile::Fetch(std::int64_t offset) {
     bool in_sequence = AheadLength > 0 && offset >= AheadFrom && offset <= ahead_end;
     std::size_t block = std::max(length, ReadAheadBytes / length * length);
     if (!Ahead) Ahead = std::make_unique_for_overwrite<char[]>(block);
-    Forget();  // what a failing read has touched is not to be read later
+    Forget();  // a failed read may have overwritten the buffer
     AheadLength = Handle->Read(Ahead.get(), in_sequence ? block : length, offset);
     AheadFrom = offset;
   }
@@ -66,12 +67,13 @@ bool Files::IsOpen(int number) const {
   return number >= 1 && number <= static_cast<int>(files_.size()) && files_[number - 1] != nullptr;
 }
 
-void Files::OpenRandom(int number, std::string_view name, int record_length) {
+void Files::OpenRandom(int number, std::string_view name, int record_length, BeforeOverwrite before) {
   auto& slot = Free(number, name);
   auto file = std::make_unique<NumberedFile>();
   file->As = NumberedFile::Use::Random;
   file->Name = name;
   file->RecordLength = record_length;
+  file->Before = before;
   file->Handle.emplace(disk_, file->Name, Disk::Mode::Create);
   journal_.Recover(*file->Handle, record_length);
   slot = std::move(file);
@@ -124,7 +126,7 @@ void Files::Put(int number, std::int64_t record, const char* source) {
   if (file.As != NumberedFile::Use::Random) throw Failure{BadFileNumber, file.Name};
   if (record < 1) throw Failure{BadRecordNumber, file.Name};
   file.Forget();
-  journal_.Write(*file.Handle, record, {source, static_cast<std::size_t>(file.RecordLength)});
+  journal_.Write(*file.Handle, record, {source, static_cast<std::size_t>(file.RecordLength)}, file.Before);
 }
 
 std::string Files::ReadItem(int number) {

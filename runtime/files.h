@@ -22,36 +22,36 @@ class Files {
   Files(const Files&) = delete;
   Files& operator=(const Files&) = delete;
 
-  // "File already open" where the number is in use. Random: made empty when missing; record_length in bytes.
-  void OpenRandom(int number, std::string_view name, int record_length);
-  // "File not found" where it is missing.
+  // "File already open" if the number is in use. Random: created empty if missing; record_length in bytes; before:
+  // called at each Put.
+  void OpenRandom(int number, std::string_view name, int record_length, BeforeOverwrite before = nullptr);
+  // "File not found" if it is missing.
   void OpenInput(int number, std::string_view name);
-  // Takes the old file's place when it is closed.
+  // Replaces the old file when it is closed.
   void OpenOutput(int number, std::string_view name);
-  // Nothing on a number that is not open.
+  // Does nothing if the number is not open.
   void Close(int number);
   bool IsOpen(int number) const;
 
-  // Record from 1, "Bad record number" below. Past the end nothing is delivered; of a record that the file ends in,
-  // what is there is delivered and the rest reads as blanks. Tells whether anything was delivered. Target of the record
-  // length.
+  // Reads record N (from 1, otherwise "Bad record number") into target, which has the record length. A record cut off
+  // by the end of the file is padded with blanks; past the end target is unchanged and false is returned.
   bool Get(int number, std::int64_t record, char* target);
-  // The bytes from a record on as far as they have been read ahead, at least that record where it is whole, none behind
-  // the end: for a look in passing. They stand until the next call.
+  // A view of the read-ahead buffer from that record on: at least the record if it is whole, empty past the end. Valid
+  // until the next call.
   std::string_view Peek(int number, std::int64_t record);
-  // Past the end the file is extended with blanks up to the record.
+  // A record past the end extends the file; blanks fill the gap.
   void Put(int number, std::int64_t record, const char* source);
-  // The next line of a file open for input, leading blanks dropped; "Input past end of file" where none is left.
+  // The next line of a file open for input, without leading blanks; "Input past end of file" after the last.
   std::string ReadItem(int number);
-  // The line and CR LF to a file open for output.
+  // Writes the line and CR LF to a file open for output.
   void WriteLine(int number, std::string_view line);
 
-  // In bytes; by number, or by name ("File not found" where it is missing).
+  // In bytes; by number, or by name ("File not found" if it is missing).
   std::int64_t Length(int number);
   std::int64_t Length(std::string_view name);
 
   runtime::Disk& Disk() { return disk_; }
-  // The named file was replaced as a whole: numbers that have it open read the new contents.
+  // Call when the named file was replaced as a whole: numbers that have it open then read the new content.
   void Replaced(std::string_view name);
 
  private:

@@ -3,11 +3,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <cstring>
 #include <optional>
-
-#include "runtime/clock.h"
 
 namespace runtime {
 namespace {
@@ -26,29 +23,14 @@ struct BlockHead {
 
 struct Block {
   BlockHead Head;
-  std::string OldImage;  // bytes that the file did not have stand as zeros
+  std::string OldImage;  // zeros past the old end of the file
   std::string NewImage;
 };
 
-// A slot farther behind the end of the file is a garbled number, in bytes.
+// In bytes. A slot further past the end is a corrupt number.
 constexpr std::int64_t WidestGap = std::int64_t{1} << 30;
 
 std::string JournalName() { return InSafetyFolder("journal"); }
-std::string HistoryName() { return InSafetyFolder(HistoryFile); }
-
-bool IsFilm(std::string_view record) {
-  return record.substr(0, HistoryKeyWidth).find_first_not_of(' ') != std::string_view::npos;
-}
-
-// The place of an entry that was cut short is taken by the next.
-void KeepInHistory(const OpenFile& history, std::int64_t slot, std::string_view film) {
-  std::array<char, 16> number{};
-  std::snprintf(number.data(), number.size(), " %07lld ", static_cast<long long>(slot));
-  std::string entry = StampText(LocalTime()) + number.data() + std::string(film);
-  auto size = static_cast<std::int64_t>(entry.size());
-  history.Write(entry, history.Length() / size * size);
-  history.Sync();
-}
 
 std::uint64_t Checksum(std::string_view bytes) {
   std::uint64_t sum = 0xCBF29CE484222325;
@@ -70,7 +52,7 @@ std::string Bytes(const Block& block) {
   return bytes;
 }
 
-// The block of the journal; nothing where there is none that is whole and for this file.
+// The journal block, if it is intact and for this file.
 std::optional<Block> ReadBlock(Disk& disk, std::string_view file_name, int record_length) {
   std::string bytes(sizeof(BlockHead) + 2 * record_length + sizeof(std::uint64_t), '\0');
   try {
@@ -96,7 +78,7 @@ std::optional<Block> ReadBlock(Disk& disk, std::string_view file_name, int recor
 struct Stretch {
   std::int64_t From;
   std::int64_t LengthBefore, LengthAfter;  // of the file
-  std::string Old;                         // zeros where the file had ended
+  std::string Old;                         // zeros past the old end
   std::string New;                         // blanks between the end of the file and the slot
 };
 
@@ -108,7 +90,7 @@ Stretch StretchOf(const Block& block) {
           std::string(gap, '\0') + block.OldImage, std::string(gap, ' ') + block.NewImage};
 }
 
-// Whether each byte is that of the one text or of the other.
+// Whether every byte comes from one of the two.
 bool IsMixture(std::string_view found, std::string_view one, std::string_view other) {
   for (std::size_t index = 0; index < found.size(); ++index) {
     if (found[index] != one[index] && found[index] != other[index]) return false;
@@ -122,7 +104,7 @@ void TakeBack(const OpenFile& file, const Stretch& stretch) {
   if (stretch.LengthAfter > stretch.LengthBefore) file.Truncate(stretch.LengthBefore);
 }
 
-// After a failed sync as well: the bytes have to be written again, since nobody knows which of them the disk holds.
+// Also after a failed sync: it is unknown which bytes reached the disk.
 void TryToTakeBack(const OpenFile& file, const Stretch& stretch) {
   try {
     TakeBack(file, stretch);
@@ -133,7 +115,7 @@ void TryToTakeBack(const OpenFile& file, const Stretch& stretch) {
 
 }  // namespace
 
-void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_view record) {
+void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_view record, BeforeOverwrite before) {
   std::int64_t offset = (slot - 1) * static_cast<std::int64_t>(record.size());
   Block block{{}, std::string(record.size(), '\0'), std::string(record)};
   block.Head.LengthBefore = file.Length();
@@ -144,8 +126,9 @@ void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_v
   block.Head.Slot = slot;
   block.Head.RecordLength = static_cast<std::int64_t>(record.size());
 
-  bool film_goes = held == record.size() && block.OldImage != record && IsFilm(block.OldImage);
-  Prepare(Bytes(block), slot, film_goes ? block.OldImage : "");
+  MakeSafetyFolder(disk_);
+  if (before) before(disk_, slot, std::string_view(block.OldImage).substr(0, held), record);
+  WriteBlock(Bytes(block));
   Stretch stretch = StretchOf(block);
   try {
     file.Write(stretch.New, stretch.From);
@@ -156,14 +139,11 @@ void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_v
   }
 }
 
-void RecordJournal::Prepare(const std::string& block, std::int64_t slot, std::string_view film) {
-  MakeSafetyFolder(disk_);
-  OpenFile history(disk_, HistoryName(), Disk::Mode::Create);
+void RecordJournal::WriteBlock(const std::string& block) {
   OpenFile journal(disk_, JournalName(), Disk::Mode::Create);
-  if (!film.empty()) KeepInHistory(history, slot, film);
   journal.Write(block, 0);
   journal.Sync();
-  // Not only where the files were missing: a program that was killed may have made them and have come no further.
+  // Even if the files existed: a run that was killed may not have synced the folders.
   if (!folders_synced_) SyncFolders(disk_, journal.Name());
   folders_synced_ = true;
 }
@@ -183,8 +163,7 @@ void RecordJournal::Recover(const OpenFile& file, int record_length) {
   bool is_old = !grew && stretch.Old.starts_with(found);
   if (length < stretch.LengthAfter && !is_old) TakeBack(file, stretch);
   if (length == stretch.LengthAfter && !is_old && found != stretch.New) file.Write(stretch.New, stretch.From);
-  // Whole, but written by a program that was killed, it may not be on the disk yet; the next block takes this one's
-  // place.
+  // Even a complete record may be only in the cache, and the next write overwrites this block.
   file.Sync();
 }
 

@@ -1,8 +1,11 @@
-// An entry: "2026-11-21 05:30:00 0000007 " and the record.
+// Appending, reading and restoring entries.
 #include "store/history.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 
+#include "runtime/clock.h"
 #include "runtime/text.h"
 #include "store/master_file.h"
 
@@ -12,9 +15,22 @@ namespace {
 constexpr std::size_t StampWidth = 19;
 constexpr std::size_t SlotAt = 20;
 constexpr std::size_t SlotWidth = 7;
-constexpr std::size_t EntryLength = runtime::HistoryHeadLength + RecordLength;
+constexpr std::size_t EntryLength = HistoryHeadLength + RecordLength;
 
 constexpr int MasterNo = 1;
+
+std::string HistoryName() { return runtime::InSafetyFolder(HistoryFile); }
+
+bool IsFilm(std::string_view record) {
+  const FilmFieldRow& title = RowOf(FilmField::Title);
+  return record.substr(title.Offset, title.Width).find_first_not_of(' ') != std::string_view::npos;
+}
+
+std::string HeadOf(std::chrono::local_seconds when, std::int64_t slot) {
+  std::array<char, 16> number{};
+  std::snprintf(number.data(), number.size(), " %07lld ", static_cast<long long>(slot));
+  return runtime::StampText(when) + number.data();
+}
 
 // Digits that name a slot; slots count from 1.
 bool IsSlot(std::string_view text) {
@@ -24,10 +40,20 @@ bool IsSlot(std::string_view text) {
 
 }  // namespace
 
+// The file is opened, and so created, at every write: the folder syncs of the first write then cover its name.
+void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record) {
+  runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Create);
+  if (old_record.size() < RecordLength || old_record == new_record || !IsFilm(old_record)) return;
+  std::string entry = HeadOf(runtime::LocalTime(), slot).append(old_record);
+  auto size = static_cast<std::int64_t>(entry.size());
+  history.Write(entry, history.Length() / size * size);  // a truncated entry is overwritten by the next
+  history.Sync();
+}
+
 std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
   std::vector<KeptFilm> films;
   try {
-    runtime::OpenFile history(disk, runtime::InSafetyFolder(runtime::HistoryFile), runtime::Disk::Mode::Read);
+    runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Read);
     std::string entry(EntryLength, '\0');
     for (std::int64_t number = 1;; ++number) {
       if (history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) < EntryLength)
@@ -38,7 +64,7 @@ std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
       kept.Number = number;
       kept.When = entry.substr(0, StampWidth);
       kept.Slot = static_cast<std::int64_t>(runtime::NumericValue(slot));
-      entry.copy(kept.Film.Bytes.data(), RecordLength, runtime::HistoryHeadLength);
+      entry.copy(kept.Film.Bytes.data(), RecordLength, HistoryHeadLength);
     }
   } catch (const runtime::Failure& failure) {
     if (failure.Name != runtime::FileNotFound) throw;

@@ -1,14 +1,25 @@
-// The films that were overwritten, as the history keeps them, and the way back.
+// Reads overwritten films and restores one.
+//
+// `.reelora/history` contains entries of one length, the newest last: a head of local time and slot, as in
+// "2026-11-21 05:30:00 0000007 ", and the record.
 #pragma once
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "runtime/files.h"
 #include "store/film_record.h"
 
 namespace store {
+
+// The file's name in the safety folder.
+inline constexpr std::string_view HistoryFile = "history";
+inline constexpr int HistoryHeadLength = 28;
+
+// Appends the old record if it is a film (its title is not blank) and the new one differs. Synced on return.
+void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record);
 
 struct KeptFilm {
   std::int64_t Number = 0;  // of its entry in the history, from 1
@@ -17,12 +28,11 @@ struct KeptFilm {
   FilmRecord Film;
 };
 
-// The oldest first; an entry that was never finished is passed over. None where there is no history; another failure of
-// its file is thrown.
+// The oldest first, without unfinished entries; none if there is no history. Any other failure of its file is thrown.
 std::vector<KeptFilm> ReadHistory(runtime::Disk& disk);
 
-// Writes the film into its slot again, as safely as a save: what stands there goes to the history. "Bad record number"
-// where the master file has no such slot, "File not found" where there is none.
+// Writes the film into its slot again, as safely as a save: the slot's present film goes to the history. "Bad record
+// number" if the master file has no such slot, "File not found" if there is none.
 void PutBack(runtime::Files& files, const KeptFilm& kept);
 
 }  // namespace store

@@ -4,10 +4,13 @@
 #include <algorithm>
 
 #include "runtime/checked_int.h"
+#include "store/history.h"
 
 namespace store {
 
-void OpenMaster(runtime::Files& files, int number) { files.OpenRandom(number, MasterFileName, RecordLength); }
+void OpenMaster(runtime::Files& files, int number) {
+  files.OpenRandom(number, MasterFileName, RecordLength, KeepOverwritten);
+}
 
 void ReadRecord(runtime::Files& files, int number, std::int64_t record, FilmRecord& target) {
   files.Get(number, record, target.Bytes.data());

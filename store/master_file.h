@@ -11,12 +11,12 @@ namespace store {
 
 inline constexpr std::string_view MasterFileName = "Recpra.Dat";
 
-// Opens it under that number, made empty when missing.
+// Opens it under that number, created empty if missing. From then on each overwritten film goes to the history.
 void OpenMaster(runtime::Files& files, int number);
-// Past the end the record keeps what it holds.
+// Target is unchanged past the end of the file.
 void ReadRecord(runtime::Files& files, int number, std::int64_t record, FilmRecord& target);
 void WriteRecord(runtime::Files& files, int number, std::int64_t record, const FilmRecord& source);
-// Records by the length of the file, a trailing half or more counted as one; at least 1.
+// The length of the file in records, rounded, at least 1.
 std::int32_t CountRecords(runtime::Files& files);
 
 }  // namespace store

@@ -6,6 +6,7 @@
 
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
+#include "store/history.h"
 #include "tests/kit/films.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/kit/refusing_disk.h"
@@ -23,7 +24,7 @@ const std::string History = runtime::InSafetyFolder("history");
 
 void Write(Disk& disk, int slot, const std::string& record) {
   OpenFile file(disk, Master, Disk::Mode::Create);
-  RecordJournal(disk).Write(file, slot, record);
+  RecordJournal(disk).Write(file, slot, record, store::KeepOverwritten);
 }
 
 // The folder that a write of version 1 into slot 7 of eight films leaves.
@@ -140,9 +141,9 @@ TEST(Recovery, LeavesAnotherFileAlone) {
 
 TEST(History, KeepsTheFilmThatIsOverwritten) {
   std::string history = Written().at(History);
-  ASSERT_EQ(history.size(), static_cast<std::size_t>(runtime::HistoryHeadLength + store::RecordLength));
+  ASSERT_EQ(history.size(), static_cast<std::size_t>(store::HistoryHeadLength + store::RecordLength));
   EXPECT_EQ(history.substr(19, 9), " 0000007 ");
-  EXPECT_EQ(history.substr(runtime::HistoryHeadLength), kit::FilmBytes(7, 0));
+  EXPECT_EQ(history.substr(store::HistoryHeadLength), kit::FilmBytes(7, 0));
 }
 
 TEST(History, KeepsNeitherAFreeSlotNorTheSameFilm) {
@@ -163,7 +164,7 @@ TEST(History, PutsTheNextEntryOverATornOne) {
   std::string history = disk.Content().at(History);
   ASSERT_EQ(history.size(), 2 * first.size());
   EXPECT_EQ(history.substr(0, first.size()), first);
-  EXPECT_EQ(history.substr(first.size() + runtime::HistoryHeadLength), kit::FilmBytes(8, 0));
+  EXPECT_EQ(history.substr(first.size() + store::HistoryHeadLength), kit::FilmBytes(8, 0));
 }
 
 TEST(RecordJournal, RefusesASlotThatLiesFarBehindTheFile) {

@@ -4,8 +4,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "runtime/record_journal.h"
+#include "runtime/whole_io.h"
 #include "store/film_record.h"
+#include "store/history.h"
 #include "store/master_file.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/safety/steps.h"
@@ -16,9 +17,9 @@ namespace {
 const std::string MasterName(store::MasterFileName);
 
 bool IsIn(std::string_view history, std::string_view record) {
-  constexpr std::size_t EntryLength = runtime::HistoryHeadLength + store::RecordLength;
+  constexpr std::size_t EntryLength = store::HistoryHeadLength + store::RecordLength;
   for (; history.size() >= EntryLength; history.remove_prefix(EntryLength)) {
-    if (history.substr(runtime::HistoryHeadLength, record.size()) == record) return true;
+    if (history.substr(store::HistoryHeadLength, record.size()) == record) return true;
   }
   return false;
 }
@@ -33,7 +34,7 @@ std::string FilmLost(const kit::Folder& before, const kit::Folder& found) {
   std::string history = contents(found, runtime::InSafetyFolder("history"));
   for (std::size_t at = 0; at + store::RecordLength <= old_master.size(); at += store::RecordLength) {
     std::string film = old_master.substr(at, store::RecordLength);
-    bool is_film = film.find_first_not_of(' ') < static_cast<std::size_t>(runtime::HistoryKeyWidth);
+    bool is_film = film.find_first_not_of(' ') < static_cast<std::size_t>(store::RowOf(store::FilmField::Title).Width);
     if (!is_film || master.compare(at, film.size(), film) == 0 || IsIn(history, film)) continue;
     return "the film of slot " + std::to_string(at / store::RecordLength + 1) + " is not in the history";
   }
