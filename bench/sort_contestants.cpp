@@ -37,12 +37,11 @@ constexpr Pass Passes[] = {
 std::vector<double> SortPassesOn(Disk& disk) {
   std::vector<double> seconds;
   sort::Sorter sorter(disk);
-  std::int32_t Numrec = 0;
-  std::int32_t Retcode = 0;
   for (const Pass& pass : Passes) disk.Remove(std::string(pass.Output));
   for (const Pass& pass : Passes) {
-    seconds.push_back(Timed([&] { sorter.Sort(store::MasterFileName, pass.Output, pass.Statement, Numrec, Retcode); }));
-    if (Retcode != sort::SortDone) throw std::runtime_error("the sort has failed");
+    sort::Result result;
+    seconds.push_back(Timed([&] { result = sorter.Sort(store::MasterFileName, pass.Output, pass.Statement); }));
+    if (result.Status != sort::Status::Done) throw std::runtime_error("the sort has failed");
   }
   return seconds;
 }

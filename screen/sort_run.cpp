@@ -72,7 +72,7 @@ void frmPage1::MakePasses() {
   ShowSavedCounts("  -    No. DVDS  ", "  -    No.Laser discs  ", "  -    No.VHS  ");
 }
 
-// A pass that fails shows its status and leaves the old key file; its count file is written all the same.
+// A pass that fails shows its status and leaves Numrec and the old key file; it writes its count file all the same.
 void frmPage1::MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec,
                         std::int32_t& Retcode) {
   OpenKeyFile(pass.Keys.Name);
@@ -81,8 +81,12 @@ void frmPage1::MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std:
   Desk.RepaintNow();
   SortIncludeValue = pass.IncludeValue;
   SortStatement = StatementOf(pass);
-  sorter.Sort(store::MasterFileName, pass.Keys.Name, SortStatement, Numrec, Retcode);
-  if (Retcode == sort::SortDone) Files.Replaced(pass.Keys.Name);
+  const sort::Result result = sorter.Sort(store::MasterFileName, pass.Keys.Name, SortStatement);
+  Retcode = static_cast<std::int32_t>(result.Status);
+  if (result.Status == sort::Status::Done) {
+    Numrec = result.Records;
+    Files.Replaced(pass.Keys.Name);
+  }
   lblNumrec.SetCaption(runtime::NumberText(Numrec));
   lblRetcode.SetCaption(runtime::NumberText(Retcode));
   KeyFileLeftBySort = pass.StaysOpen;

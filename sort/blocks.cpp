@@ -1,4 +1,4 @@
-// The calls on the file, one for a block.
+// One call on the file for each block.
 #include "sort/blocks.h"
 
 #include <algorithm>

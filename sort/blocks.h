@@ -1,4 +1,4 @@
-// Records of one length read from a file, or written to it, one after the other, in large blocks.
+// Reads or writes consecutive records of one length in large blocks.
 #pragma once
 
 #include <cstdint>
@@ -11,11 +11,10 @@ namespace sort {
 
 inline constexpr std::size_t BlockBytes = 256 * 1024;
 
-// Lengths in bytes, records from 0. Block: where they stand meanwhile, with room for one at least. A failure of the
-// file is thrown.
+// Lengths in bytes, records from 0. Block: buffer of at least one record. A failure of the file is thrown.
 class BlockReader {
  public:
-  // Count: of records, which must be there.
+  // Count: of records, which must exist.
   BlockReader(const runtime::OpenFile& file, std::size_t record_length, std::int64_t first, std::int64_t count,
               std::span<char> block)
       : file_(file),
@@ -25,7 +24,7 @@ class BlockReader {
         end_(first + count),
         block_(block.data()) {}
 
-  // The next record, good until the next call; nullptr behind the last.
+  // The next record, valid until the next call; nullptr after the last.
   const char* Next() {
     if (at_ == filled_ && !Fill()) return nullptr;
     const char* record = at_;
@@ -52,14 +51,14 @@ class BlockWriter {
         offset_(first * static_cast<std::int64_t>(record_length)),
         block_(block) {}
 
-  // Where the next record is to be put.
+  // The place for the next record, in the buffer.
   char* Next() {
     if (filled_ + record_length_ > block_.size()) Flush();
     char* record = block_.data() + filled_;
     filled_ += record_length_;
     return record;
   }
-  // Must follow the last record.
+  // Call after the last record.
   void Flush();
 
  private:

@@ -1,11 +1,11 @@
-// The constant and what it is held against are compared by weight, as if both went on with blanks.
+// The field and the constant are compared by weight, padded with blanks.
 #include "sort/include.h"
 
 #include <algorithm>
 
 namespace sort {
 
-SortInclude::SortInclude(const std::optional<IncludeTest>& test, const Weights& weights) : weights_(weights) {
+IncludeFilter::IncludeFilter(const std::optional<IncludeTest>& test, const Weights& weights) : weights_(weights) {
   if (!test) return;
   span_ = test->Span;
   std::string constant = test->Constant;

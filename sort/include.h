@@ -8,10 +8,10 @@
 
 namespace sort {
 
-class SortInclude {
+class IncludeFilter {
  public:
-  // Without a test all are kept.
-  SortInclude(const std::optional<IncludeTest>& test, const Weights& weights);
+  // Without a test, keeps all.
+  IncludeFilter(const std::optional<IncludeTest>& test, const Weights& weights);
   bool Keeps(const char* record) const {
     const char* field = record + span_.Offset;
     for (std::size_t at = 0; at < constant_.size(); ++at) {

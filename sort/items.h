@@ -1,4 +1,4 @@
-// The order of entries in memory: by the first window of each, and among equal ones by the further windows.
+// Sorts entries in memory by the first window, ties by the next ones.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@
 
 namespace sort {
 
-// An entry by its place in the table of entries, with a window of what is compared.
-struct SortItem {
+// An entry by its index in the table of entries, with one window of its key.
+struct Item {
   std::uint32_t Upper, Lower;  // the halves of the window
   std::uint32_t Entry;
 
@@ -21,10 +21,10 @@ struct SortItem {
   }
 };
 
-// Calls use(entry) for the entry of each item, in their order; entries as for ItemSorter. Entries lie all over memory,
-// so both ends of each are asked for some time before its turn.
+// Calls use(entry) for the entry of each item, in order; entries as for ItemSorter. They are scattered in memory, so
+// both ends of each are prefetched ahead.
 template <typename Use>
-void ForEachEntry(std::span<const SortItem> items, const char* entries, std::size_t entry_length, Use&& use) {
+void ForEachEntry(std::span<const Item> items, const char* entries, std::size_t entry_length, Use&& use) {
   constexpr std::size_t Ahead = 12;
   for (std::size_t at = 0; at < items.size(); ++at) {
     if (at + Ahead < items.size()) {
@@ -38,30 +38,30 @@ void ForEachEntry(std::span<const SortItem> items, const char* entries, std::siz
 
 class ItemSorter {
  public:
-  // Entries: the table of entries, one after the other.
-  ItemSorter(const SortLayout& layout, const char* entries) : layout_(layout), entries_(entries) {}
+  // Entries: the table of entries, contiguous.
+  ItemSorter(const Layout& layout, const char* entries) : layout_(layout), entries_(entries) {}
 
-  // Items hold their first window and stand in the order of their entries, which equal ones keep; the other windows are
-  // overwritten. Scratch is as long as items.
-  void Sort(std::span<SortItem> items, std::span<SortItem> scratch) { SortFrom(items, scratch, 0); }
+  // Items must contain their first window and be in entry order; ties keep it. The windows are overwritten. Scratch is
+  // as long as items.
+  void Sort(std::span<Item> items, std::span<Item> scratch) { SortFrom(items, scratch, 0); }
 
  private:
-  // Items that are equal up to a step.
+  // Items that are equal in all steps so far.
   struct Group {
     std::size_t First = 0, Count = 0;
   };
 
-  // Step: which half of which window, from the upper half of the first on; what stands before is equal.
-  void SortFrom(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step);
-  // By that half, or the whole window of few items; the step that is next.
-  std::size_t SortHalf(std::span<SortItem> items, std::span<SortItem> scratch, std::size_t step);
-  void SortGroup(std::span<SortItem> items, std::span<SortItem> scratch, Group group, std::size_t step);
-  void ByDigits(std::span<SortItem> items, std::span<SortItem> scratch, std::uint32_t SortItem::*half);
-  void LoadWindow(std::span<SortItem> items, std::size_t window) const;
+  // Step: half-window to sort by, from 0, the upper half of the first window; earlier ones are equal.
+  void SortFrom(std::span<Item> items, std::span<Item> scratch, std::size_t step);
+  // Sorts by that half, few items by the whole window; returns the next step.
+  std::size_t SortHalf(std::span<Item> items, std::span<Item> scratch, std::size_t step);
+  void SortGroup(std::span<Item> items, std::span<Item> scratch, Group group, std::size_t step);
+  void ByDigits(std::span<Item> items, std::span<Item> scratch, std::uint32_t Item::*half);
+  void LoadWindow(std::span<Item> items, std::size_t window) const;
 
-  const SortLayout& layout_;
+  const Layout& layout_;
   const char* entries_;
-  // How often each value of each byte of a half stands in the items.
+  // Frequency of each value in each byte of a half.
   std::array<std::array<std::uint32_t, 256>, 4> counts_{};
 };
 

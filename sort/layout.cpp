@@ -1,4 +1,4 @@
-// A field to compare is looked up in what the output holds anyway; only what it lacks is kept behind it.
+// Key fields already in the output are reused; the others are appended to the entry.
 #include "sort/layout.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ constexpr std::uint32_t AscendingTable = 0;
 constexpr std::uint32_t DescendingTable = 256;
 constexpr std::uint32_t ZeroTable = 512;
 
-// In two halves, whose divisions do not wait for each other.
+// In two halves: these are independent, so their divisions overlap.
 void WriteNumber(std::uint32_t number, char* target) {
   std::uint32_t upper = number / 1000;
   std::uint32_t lower = number % 1000;
@@ -26,8 +26,7 @@ void WriteNumber(std::uint32_t number, char* target) {
 
 }  // namespace
 
-SortLayout::SortLayout(const SortStatement& statement, const Weights& weights)
-    : record_length_(statement.RecordLength) {
+Layout::Layout(const Statement& statement, const Weights& weights) : record_length_(statement.RecordLength) {
   for (std::size_t character = 0; character < weights.size(); ++character) {
     tables_[AscendingTable + character] = weights[character];
     tables_[DescendingTable + character] = static_cast<unsigned char>(255 - weights[character]);
@@ -36,7 +35,7 @@ SortLayout::SortLayout(const SortStatement& statement, const Weights& weights)
   LayOutKey(statement);
 }
 
-void SortLayout::LayOutOutput(const SortStatement& statement) {
+void Layout::LayOutOutput(const Statement& statement) {
   for (const OutputPiece& piece : statement.Output) {
     switch (piece.As) {
       case OutputPiece::Kind::RecordNumber:
@@ -57,13 +56,13 @@ void SortLayout::LayOutOutput(const SortStatement& statement) {
   entry_length_ += NumberDigits;
 }
 
-std::size_t SortLayout::Keep(const RecordSpan& span) {
+std::size_t Layout::Keep(const RecordSpan& span) {
   kept_.push_back({span, entry_length_});
   entry_length_ += span.Width;
   return kept_.back().To;
 }
 
-std::size_t SortLayout::InEntry(const RecordSpan& span) {
+std::size_t Layout::InEntry(const RecordSpan& span) {
   for (const KeptSpan& kept : kept_) {
     if (span.Offset >= kept.From.Offset && span.Offset + span.Width <= kept.From.Offset + kept.From.Width)
       return kept.To + span.Offset - kept.From.Offset;
@@ -71,8 +70,8 @@ std::size_t SortLayout::InEntry(const RecordSpan& span) {
   return Keep(span);
 }
 
-void SortLayout::LayOutKey(const SortStatement& statement) {
-  for (const SortField& field : statement.Fields) {
+void Layout::LayOutKey(const Statement& statement) {
+  for (const KeyField& field : statement.Fields) {
     auto offset = static_cast<std::uint32_t>(InEntry(field.Span));
     for (std::uint32_t byte = 0; byte < field.Span.Width; ++byte)
       key_.push_back({offset + byte, field.Descending ? DescendingTable : AscendingTable});
@@ -89,19 +88,19 @@ void SortLayout::LayOutKey(const SortStatement& statement) {
   }
 }
 
-void SortLayout::MakeEntry(const char* record, std::uint32_t number, char* entry) const {
+void Layout::MakeEntry(const char* record, std::uint32_t number, char* entry) const {
   for (const KeptSpan& span : kept_) std::memcpy(entry + span.To, record + span.From.Offset, span.From.Width);
   for (std::size_t place : numbers_) WriteNumber(number, entry + place);
   for (std::size_t place : line_ends_) LineEnd.copy(entry + place, LineEnd.size());
 }
 
-bool SortLayout::IsEntryOf(const char* record, const char* entry) const {
+bool Layout::IsEntryOf(const char* record, const char* entry) const {
   return std::all_of(kept_.begin(), kept_.end(), [&](const KeptSpan& span) {
     return std::memcmp(entry + span.To, record + span.From.Offset, span.From.Width) == 0;
   });
 }
 
-std::uint64_t SortLayout::Window(const char* entry, std::size_t index) const {
+std::uint64_t Layout::Window(const char* entry, std::size_t index) const {
   std::uint64_t window = 0;
   const KeyByte* bytes = key_.data() + index * WindowBytes;
   if (straight_[index]) {
@@ -116,7 +115,7 @@ std::uint64_t SortLayout::Window(const char* entry, std::size_t index) const {
   return window;
 }
 
-int SortLayout::Compare(const char* left, const char* right, std::size_t from_window) const {
+int Layout::Compare(const char* left, const char* right, std::size_t from_window) const {
   for (std::size_t index = from_window; index < Windows(); ++index) {
     std::uint64_t left_window = Window(left, index);
     std::uint64_t right_window = Window(right, index);
@@ -125,7 +124,7 @@ int SortLayout::Compare(const char* left, const char* right, std::size_t from_wi
   return 0;
 }
 
-int SortLayout::CompareNumbers(const char* left, const char* right) const {
+int Layout::CompareNumbers(const char* left, const char* right) const {
   return std::memcmp(left + numbers_.front(), right + numbers_.front(), NumberDigits);
 }
 

@@ -1,9 +1,8 @@
-// The output is built aside. What fits into memory is sorted there; else the sorted runs go to a second file aside and
-// are merged. Neither file outlives the sort, or after a stop the next start.
+// The output is built in a temporary file. If the input does not fit into memory, sorted runs go to a second one and
+// are merged. Temporary files are removed after the sort or at the next start.
 #include "sort/operation.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <optional>
 #include <string>
 #include <utility>
@@ -27,7 +26,7 @@ OpenFile OpenEmpty(Disk& disk, const std::string& name) {
   return file;
 }
 
-// Without a file every byte weighs what it is.
+// Without a file, weight = value.
 std::optional<Weights> ReadWeights(Disk& disk, const std::optional<std::string>& name) {
   Weights weights{};
   for (std::size_t character = 0; character < weights.size(); ++character)
@@ -44,17 +43,17 @@ std::optional<Weights> ReadWeights(Disk& disk, const std::optional<std::string>&
   }
 }
 
-// Records that memory holds at a time; each of two workers needs room for one.
-std::int64_t RoomFor(const SortLayout& layout, std::int64_t records, const SortLimits& limits) {
-  auto in_memory = static_cast<std::int64_t>(limits.MemoryBytes / SortTable::BytesPerRecord(layout));
+// Records that fit into memory; each of two workers needs room for one.
+std::int64_t RoomFor(const Layout& layout, std::int64_t records, const Limits& limits) {
+  auto in_memory = static_cast<std::int64_t>(limits.MemoryBytes / Table::BytesPerRecord(layout));
   return std::min(records, std::max<std::int64_t>(2, in_memory));
 }
 
-// One call of the operation: its files and what has come of it.
-class SortCall {
+// State of one Sort call.
+class Operation {
  public:
-  SortCall(Disk& disk, std::string_view input, std::string_view output, const SortLimits& limits, SortWorkers& workers,
-           std::optional<SortTable>& last)
+  Operation(Disk& disk, std::string_view input, std::string_view output, const Limits& limits, Workers& workers,
+            std::optional<Table>& last)
       : disk_(disk),
         input_(input),
         output_(output),
@@ -64,33 +63,25 @@ class SortCall {
         workers_(workers),
         last_(last) {}
 
-  // The status; unless it is SortDone, the output is as it was and nothing is left aside.
-  std::int32_t Replace(std::string_view statement);
-  // Of the new output.
-  std::int64_t Records() const { return written_; }
+  // Replaces the output, without the folder syncs. Unless done, the output is unchanged and no temporary file is left.
+  Result Run(std::string_view statement);
 
  private:
-  std::int32_t BuildAside(std::string_view statement);
-  // Writes the whole output to an empty file, from a sorted table on, and tells how many records.
-  std::int64_t WriteThroughRuns(SortTable& table, const SortInclude& include, const OpenFile& input,
-                                const OpenFile& output, SortWorkers* workers) const;
-  // A file that cannot be removed now goes at the next start.
-  void Drop(const std::string& name) {
-    while (disk_.Remove(name) == -EINTR) {
-    }
-  }
+  Result BuildAside(std::string_view statement);
+  // Writes the whole output to an empty file, beginning with a sorted table; returns the record count.
+  std::int64_t WriteThroughRuns(Table& table, const IncludeFilter& include, const OpenFile& input,
+                                const OpenFile& output, Workers* workers) const;
 
   Disk& disk_;
   std::string input_, output_, aside_, runs_;
-  const SortLimits& limits_;
-  SortWorkers& workers_;
-  std::optional<SortTable>& last_;
-  std::int64_t written_ = 0;
+  const Limits& limits_;
+  Workers& workers_;
+  std::optional<Table>& last_;
 };
 
-std::int64_t SortCall::WriteThroughRuns(SortTable& table, const SortInclude& include, const OpenFile& input,
-                                        const OpenFile& output, SortWorkers* workers) const {
-  SortRuns runs(table.Layout(), OpenEmpty(disk_, runs_));
+std::int64_t Operation::WriteThroughRuns(Table& table, const IncludeFilter& include, const OpenFile& input,
+                                         const OpenFile& output, Workers* workers) const {
+  Runs runs(table.EntryLayout(), OpenEmpty(disk_, runs_));
   for (;;) {
     runs.Add(table.WriteEntries(runs.File(), runs.Count()));
     if (table.AtEnd()) break;
@@ -101,54 +92,52 @@ std::int64_t SortCall::WriteThroughRuns(SortTable& table, const SortInclude& inc
   return runs.Count();
 }
 
-std::int32_t SortCall::BuildAside(std::string_view statement) {
-  std::optional<SortStatement> parsed = ParseSortStatement(statement);
-  if (!parsed) return SortStatementUnreadable;
+Result Operation::BuildAside(std::string_view statement) {
+  std::optional<Statement> parsed = ParseStatement(statement);
+  if (!parsed) return {Status::StatementUnreadable};
   OpenFile input(disk_, input_, Disk::Mode::Read);
   std::optional<Weights> weights = ReadWeights(disk_, parsed->WeightsFile);
-  if (!weights) return SortWeightsUnreadable;
-  const SortLayout layout(*parsed, *weights);
-  const SortInclude include(parsed->Include, *weights);
+  if (!weights) return {Status::WeightsUnreadable};
+  const Layout layout(*parsed, *weights);
+  const IncludeFilter include(parsed->Include, *weights);
   const std::int64_t records = input.Length() / static_cast<std::int64_t>(layout.RecordLength());
-  if (records > MaxSortRecords) return SortInputUnreadable;
+  if (records > MaxRecords) return {Status::InputUnreadable};
   runtime::MakeSafetyFolder(disk_);
   OpenFile aside = OpenEmpty(disk_, aside_);
-  SortWorkers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
-  std::optional<SortTable> table = std::exchange(last_, std::nullopt);
+  Workers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
+  std::optional<Table> table = std::exchange(last_, std::nullopt);
   if (!table || !table->Suits(layout, records) || !table->Reload(input, include)) {
     table.emplace(layout, records, RoomFor(layout, records, limits_), workers);
     table->Load(input, include);
     table->Sort();
   }
-  written_ = table->AtEnd() ? table->WriteOutput(aside) : WriteThroughRuns(*table, include, input, aside, workers);
+  const std::int64_t written =
+      table->AtEnd() ? table->WriteOutput(aside) : WriteThroughRuns(*table, include, input, aside, workers);
   aside.Sync();
   if (table->HoldsAll()) last_ = std::move(table);
-  return SortDone;
+  return {Status::Done, static_cast<std::int32_t>(written)};
 }
 
-std::int32_t SortCall::Replace(std::string_view statement) {
-  std::int32_t status = SortDone;
+Result Operation::Run(std::string_view statement) {
+  Result result;
   try {
-    status = BuildAside(statement);
-    if (status != SortDone) return status;
+    result = BuildAside(statement);
+    if (result.Status != Status::Done) return result;
     runtime::RetryInterrupted(aside_, [&] { return disk_.Rename(aside_, output_); });
   } catch (const runtime::Failure& failure) {
-    status = failure.File == input_ ? SortInputUnreadable : SortOutputUnwritable;
-    Drop(aside_);
+    result = {failure.File == input_ ? Status::InputUnreadable : Status::OutputUnwritable};
+    runtime::Discard(disk_, aside_);
   }
-  Drop(runs_);
-  return status;
+  runtime::Discard(disk_, runs_);
+  return result;
 }
 
 }  // namespace
 
-void Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement, std::int32_t& Numrec,
-                  std::int32_t& Retcode) {
-  SortCall call(disk_, input, output, limits_, workers_, last_);
-  Retcode = call.Replace(statement);
-  if (Retcode != SortDone) return;
-  Numrec = static_cast<std::int32_t>(call.Records());
-  runtime::SyncFolders(disk_, output);
+Result Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement) {
+  const Result result = Operation(disk_, input, output, limits_, workers_, last_).Run(statement);
+  if (result.Status == Status::Done) runtime::SyncFolders(disk_, output);
+  return result;
 }
 
 }  // namespace sort

@@ -1,4 +1,5 @@
-// The sort operation: makes a sorted extract of a file of fixed records, as a control statement says.
+// The sort operation: writes a sorted extract of a file of fixed-length records, as a control statement asks.
+// README.md in this folder explains how it works.
 #pragma once
 
 #include <cstddef>
@@ -11,41 +12,46 @@
 
 namespace sort {
 
-// The status of a sort. After any but SortDone the output and the count are as they were.
-inline constexpr std::int32_t SortDone = 0;
-inline constexpr std::int32_t SortStatementUnreadable = 1;
-inline constexpr std::int32_t SortInputUnreadable = 2;
-inline constexpr std::int32_t SortWeightsUnreadable = 3;  // missing, or not 256 bytes
-inline constexpr std::int32_t SortOutputUnwritable = 4;
+// The values are shown to the user.
+enum class Status : std::int32_t {
+  Done = 0,
+  StatementUnreadable = 1,
+  InputUnreadable = 2,
+  WeightsUnreadable = 3,  // missing, or not 256 bytes
+  OutputUnwritable = 4,
+};
+
+struct Result {
+  sort::Status Status = Status::Done;
+  std::int32_t Records = 0;  // written; 0 unless done
+};
 
 // The number of a record has seven digits.
-inline constexpr std::int64_t MaxSortRecords = 9'999'999;
+inline constexpr std::int64_t MaxRecords = 9'999'999;
 
-struct SortLimits {
-  // For what is sorted at a time; what is more goes through runs in a file of the safety folder.
+struct Limits {
+  // Memory limit; larger inputs use runs.
   std::size_t MemoryBytes = 192 * 1024 * 1024;
-  // From so many records on two threads work, and the disk's reads and writes come from both.
+  // Record count from which two threads work; both call the disk.
   std::int64_t TwoWorkersFrom = 16'384;
 };
 
-// Sorts that come one after the other. One that differs from that before it in nothing but what it includes takes over
-// the order of the records that it finds unchanged; it reads its whole input all the same.
+// Runs sorts one after the other. If only Include differs from the sort before, unchanged records keep their order; the
+// whole input is read all the same.
 class Sorter {
  public:
-  explicit Sorter(runtime::Disk& disk, const SortLimits& limits = {}) : disk_(disk), limits_(limits) {}
+  explicit Sorter(runtime::Disk& disk, const Limits& limits = {}) : disk_(disk), limits_(limits) {}
 
-  // Replaces the output, complete and synced, by the extract; a stop at any moment leaves the old file or the new one.
-  // Numrec: records written. Retcode: the status. Equal records keep their order; a part of a record at the input's end
-  // is none; the count of records is limited to MaxSortRecords, and an input with more is unreadable. Where the new
-  // file stands already and a sync of its folder fails, that Failure is thrown.
-  void Sort(std::string_view input, std::string_view output, std::string_view statement, std::int32_t& Numrec,
-            std::int32_t& Retcode);
+  // Replaces the output by the extract; a stop at any moment leaves the old file or the new one. Stable; a partial last
+  // record is ignored; an input of more than MaxRecords is unreadable. Unless done, the output is unchanged. If the new
+  // file is in place and a sync of its folder fails, that Failure is thrown.
+  Result Sort(std::string_view input, std::string_view output, std::string_view statement);
 
  private:
   runtime::Disk& disk_;
-  SortLimits limits_;
-  SortWorkers workers_;
-  std::optional<SortTable> last_;
+  Limits limits_;
+  Workers workers_;
+  std::optional<Table> last_;
 };
 
 }  // namespace sort

@@ -1,5 +1,5 @@
-// The runs are merged through a heap of their foremost entries. Two workers take the entries below and from an entry in
-// the middle, which in each run is looked up by halving.
+// The runs are merged through a heap of their first entries. Two workers split at a middle entry, found in each run by
+// binary search.
 #include "sort/runs.h"
 
 #include <algorithm>
@@ -10,17 +10,17 @@
 namespace sort {
 namespace {
 
-// The foremost entry of a run that is being merged.
+// The first remaining entry of a run that is being merged.
 struct Head {
   std::uint64_t Window;
   const char* Entry;
   std::size_t Run;
 };
 
-// Takes the foremost entries of several runs in their order.
+// The first remaining entries of all runs, as a heap.
 class Heads {
  public:
-  Heads(const SortLayout& layout, std::size_t runs) : layout_(layout) { heads_.reserve(runs); }
+  Heads(const Layout& layout, std::size_t runs) : layout_(layout) { heads_.reserve(runs); }
 
   bool Empty() const { return heads_.empty(); }
   const Head& Foremost() const { return heads_.front(); }
@@ -29,7 +29,7 @@ class Heads {
     std::push_heap(heads_.begin(), heads_.end(),
                    [this](const Head& left, const Head& right) { return Before(right, left); });
   }
-  // The next entry of the foremost one's run takes its place; nullptr: the run is over.
+  // Replaces the foremost entry by the next one of its run; nullptr at the run's end.
   void Replace(const char* entry) {
     if (entry) {
       heads_.front() = {layout_.Window(entry, 0), entry, heads_.front().Run};
@@ -57,15 +57,15 @@ class Heads {
     }
   }
 
-  const SortLayout& layout_;
+  const Layout& layout_;
   std::vector<Head> heads_;
 };
 
 }  // namespace
 
-void SortRuns::Add(std::int64_t count) { runs_.push_back({Count(), Count() + count}); }
+void Runs::Add(std::int64_t count) { runs_.push_back({Count(), Count() + count}); }
 
-void SortRuns::Merge(const runtime::OpenFile& output, std::size_t memory, SortWorkers* workers) const {
+void Runs::Merge(const runtime::OpenFile& output, std::size_t memory, Workers* workers) const {
   std::size_t block = std::min(BlockBytes, memory / (2 * (runs_.size() + 1)));
   if (!workers) {
     MergeRanges(runs_, output, 0, block);
@@ -74,11 +74,11 @@ void SortRuns::Merge(const runtime::OpenFile& output, std::size_t memory, SortWo
   const std::array<Ranges, 2> halves = Halves();
   std::int64_t lower_count = 0;
   for (const EntryRange& range : halves[0]) lower_count += range.End - range.First;
-  workers->Twice([&](int half) { MergeRanges(halves.at(half), output, half == 0 ? 0 : lower_count, block); });
+  workers->RunHalves([&](int half) { MergeRanges(halves.at(half), output, half == 0 ? 0 : lower_count, block); });
 }
 
-void SortRuns::MergeRanges(const Ranges& ranges, const runtime::OpenFile& output, std::int64_t place,
-                           std::size_t block) const {
+void Runs::MergeRanges(const Ranges& ranges, const runtime::OpenFile& output, std::int64_t place,
+                       std::size_t block) const {
   const std::size_t length = std::max(block, layout_.EntryLength());
   auto blocks = std::make_unique_for_overwrite<char[]>(length * (ranges.size() + 1));
   char* next_block = blocks.get();
@@ -98,13 +98,13 @@ void SortRuns::MergeRanges(const Ranges& ranges, const runtime::OpenFile& output
   writer.Flush();
 }
 
-std::string SortRuns::EntryAt(std::int64_t entry) const {
+std::string Runs::EntryAt(std::int64_t entry) const {
   std::string bytes(layout_.EntryLength(), '\0');
   BlockReader(file_, bytes.size(), entry, 1, bytes).Next();
   return bytes;
 }
 
-std::array<SortRuns::Ranges, 2> SortRuns::Halves() const {
+std::array<Runs::Ranges, 2> Runs::Halves() const {
   auto longest = std::max_element(runs_.begin(), runs_.end(), [](const EntryRange& left, const EntryRange& right) {
     return left.End - left.First < right.End - right.First;
   });

@@ -1,4 +1,4 @@
-// Sorted runs of entries in one file, and their merging.
+// Sorted runs of entries in one file, and their merge.
 #pragma once
 
 #include <array>
@@ -12,25 +12,25 @@
 
 namespace sort {
 
-// Entries of the file, from 0; End: behind the last.
+// Entries of the file, from 0; End is exclusive.
 struct EntryRange {
   std::int64_t First = 0;
   std::int64_t End = 0;
 };
 
-class SortRuns {
+class Runs {
  public:
-  SortRuns(const SortLayout& layout, runtime::OpenFile file) : layout_(layout), file_(std::move(file)) {}
+  Runs(const Layout& layout, runtime::OpenFile file) : layout_(layout), file_(std::move(file)) {}
 
   const runtime::OpenFile& File() const { return file_; }
-  // Of all runs so far.
+  // Entries in all runs so far.
   std::int64_t Count() const { return runs_.empty() ? 0 : runs_.back().End; }
-  // The next so many entries of the file, which are written already, are a run.
+  // Registers the next count entries, already written, as a run.
   void Add(std::int64_t count);
 
-  // Writes all entries in their order as output records; equal ones by their numbers. Memory: in bytes, for the
-  // blocks of all runs; workers: nullptr for one.
-  void Merge(const runtime::OpenFile& output, std::size_t memory, SortWorkers* workers) const;
+  // Writes the output records of all entries in order; equal ones by their numbers. Memory: bytes for the blocks of all
+  // runs. Workers: nullptr for one thread.
+  void Merge(const runtime::OpenFile& output, std::size_t memory, Workers* workers) const;
 
  private:
   using Ranges = std::vector<EntryRange>;
@@ -38,7 +38,7 @@ class SortRuns {
   std::array<Ranges, 2> Halves() const;
   std::string EntryAt(std::int64_t entry) const;
 
-  const SortLayout& layout_;
+  const Layout& layout_;
   runtime::OpenFile file_;
   Ranges runs_;
 };

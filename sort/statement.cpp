@@ -1,4 +1,4 @@
-// A statement is read from the front, part by part; what has been read is taken off.
+// Parses a statement from the front; each read removes what it has read.
 #include "sort/statement.h"
 
 #include <algorithm>
@@ -15,11 +15,11 @@ class Reader {
 
   bool AtEnd() { return Rest().empty(); }
   bool Take(char character);
-  // Letters, as capitals; "" where none stand here.
+  // Letters in upper case; "" if there is none here.
   std::string Word();
-  // From 1 to LongestRecord.
+  // From 1 to MaxRecordLength.
   bool Number(std::size_t& number);
-  // Up to that character, which is taken too.
+  // The text before that character, which is removed too.
   bool UpTo(char character, std::string& text);
   bool Span(RecordSpan& span);
   // "," and the word.
@@ -51,7 +51,7 @@ bool Reader::Number(std::size_t& number) {
   number = 0;
   for (; !Rest().empty() && rest_.front() >= '0' && rest_.front() <= '9'; rest_.remove_prefix(1)) {
     number = number * 10 + static_cast<std::size_t>(rest_.front() - '0');
-    if (number > LongestRecord) return false;
+    if (number > MaxRecordLength) return false;
   }
   return number > 0;
 }
@@ -71,9 +71,9 @@ bool Reader::Span(RecordSpan& span) {
   return true;
 }
 
-bool ReadFields(Reader& reader, SortStatement& statement) {
+bool ReadFields(Reader& reader, Statement& statement) {
   do {
-    SortField& field = statement.Fields.emplace_back();
+    KeyField& field = statement.Fields.emplace_back();
     if (!reader.Span(field.Span) || !reader.Next("C") || !reader.Take(',')) return false;
     std::string order = reader.Word();
     if (order != "A" && order != "D") return false;
@@ -82,14 +82,14 @@ bool ReadFields(Reader& reader, SortStatement& statement) {
   return reader.Take(')');
 }
 
-bool ReadWeightsFile(Reader& reader, SortStatement& statement) {
+bool ReadWeightsFile(Reader& reader, Statement& statement) {
   std::string name;
   if (!reader.UpTo(')', name)) return false;
   statement.WeightsFile = runtime::Trim(name);
   return !statement.WeightsFile->empty();
 }
 
-bool ReadOutput(Reader& reader, SortStatement& statement) {
+bool ReadOutput(Reader& reader, Statement& statement) {
   do {
     OutputPiece& piece = statement.Output.emplace_back();
     std::string word = reader.Word();
@@ -119,7 +119,7 @@ constexpr RelationRow Relations[] = {
 };
 // clang-format on
 
-bool ReadInclude(Reader& reader, SortStatement& statement) {
+bool ReadInclude(Reader& reader, Statement& statement) {
   IncludeTest& test = statement.Include.emplace();
   if (!reader.Span(test.Span) || !reader.Next("C") || !reader.Take(',')) return false;
   std::string word = reader.Word();
@@ -132,14 +132,14 @@ bool ReadInclude(Reader& reader, SortStatement& statement) {
   return reader.Take(',') && reader.Take('"') && reader.UpTo('"', test.Constant) && reader.Take(')');
 }
 
-bool ReadRecordLength(Reader& reader, SortStatement& statement) {
+bool ReadRecordLength(Reader& reader, Statement& statement) {
   return reader.Number(statement.RecordLength) && reader.Take(')');
 }
 
 struct Clause {
   std::string_view Word;
   bool Required;
-  bool (*Read)(Reader&, SortStatement&);
+  bool (*Read)(Reader&, Statement&);
 };
 // clang-format off
 constexpr std::array<Clause, 5> Clauses = {{
@@ -151,10 +151,10 @@ constexpr std::array<Clause, 5> Clauses = {{
 }};
 // clang-format on
 
-bool FitsRecord(const SortStatement& statement) {
+bool FitsRecord(const Statement& statement) {
   auto fits = [&](const RecordSpan& span) { return span.Offset + span.Width <= statement.RecordLength; };
   return std::all_of(statement.Fields.begin(), statement.Fields.end(),
-                     [&](const SortField& field) { return fits(field.Span); }) &&
+                     [&](const KeyField& field) { return fits(field.Span); }) &&
          std::all_of(statement.Output.begin(), statement.Output.end(),
                      [&](const OutputPiece& piece) { return fits(piece.Span); }) &&
          (!statement.Include || fits(statement.Include->Span));
@@ -162,8 +162,8 @@ bool FitsRecord(const SortStatement& statement) {
 
 }  // namespace
 
-std::optional<SortStatement> ParseSortStatement(std::string_view text) {
-  SortStatement statement;
+std::optional<Statement> ParseStatement(std::string_view text) {
+  Statement statement;
   Reader reader(text);
   std::array<bool, Clauses.size()> seen{};
   while (!reader.AtEnd()) {

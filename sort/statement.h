@@ -1,12 +1,12 @@
 // The control statement of a sort: clauses of a word and a list in parentheses, in any order.
 //
-//   S(position,width,C,A ...)      what is compared, field by field; A ascending, D descending
-//   ALTSEQ(file)                   the file of the weights; without it bytes are compared as they are
-//   OUTREC(position,width | Arrn | CRLF, ...)   what an output record is put together from
-//   Include(position,width,C,EQ|NE|GT|GE|LT|LE,"constant")   which records are kept; all without it
+//   S(position,width,C,A ...)      the key, field by field; A ascending, D descending
+//   ALTSEQ(file)                   the file of the weights; without it, weight = value
+//   OUTREC(position,width | Arrn | CRLF, ...)   the parts of an output record; Arrn is the record number
+//   Include(position,width,C,EQ|NE|GT|GE|LT|LE,"constant")   which records are kept; without it, all
 //   Record(length)                 of an input record
 //
-// Positions count from 1. Words may be in capitals or not, and blanks may stand between all parts.
+// Positions count from 1. Case is ignored, and blanks may come between all parts.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ struct RecordSpan {
   bool operator==(const RecordSpan&) const = default;
 };
 
-struct SortField {
+struct KeyField {
   RecordSpan Span;
   bool Descending = false;
 };
@@ -39,24 +39,24 @@ struct OutputPiece {
   bool operator==(const OutputPiece&) const = default;
 };
 
-// The record is kept where what stands before the constant in this row of relations holds.
+// Which results of comparing the field with the constant keep the record.
 struct IncludeTest {
   RecordSpan Span;
   bool KeepsLess = false, KeepsEqual = false, KeepsGreater = false;
   std::string Constant;
 };
 
-struct SortStatement {
-  std::vector<SortField> Fields;
+struct Statement {
+  std::vector<KeyField> Fields;
   std::optional<std::string> WeightsFile;
   std::vector<OutputPiece> Output;
   std::optional<IncludeTest> Include;
   std::size_t RecordLength = 0;
 };
 
-inline constexpr std::size_t LongestRecord = 32767;
+inline constexpr std::size_t MaxRecordLength = 32767;
 
-// Nothing where the text is no such statement, or a span of it does not lie within the record.
-std::optional<SortStatement> ParseSortStatement(std::string_view text);
+// Nothing if the text is not such a statement, or if a span of it exceeds the record.
+std::optional<Statement> ParseStatement(std::string_view text);
 
 }  // namespace sort

@@ -1,5 +1,5 @@
-// Two workers read a half of the input each; then they sort a half of the order each, below and from a window in the
-// middle, so that their outputs stand one behind the other.
+// Two workers each load half of the input; then each sorts half of the items: those below a middle window, and the
+// rest. The outputs of the two halves follow each other.
 #include "sort/table.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace sort {
 
-SortTable::SortTable(const SortLayout& layout, std::int64_t records, std::int64_t room, SortWorkers* workers)
+Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, Workers* workers)
     : layout_(layout),
       records_(records),
       holds_all_(room >= records),
@@ -18,28 +18,28 @@ SortTable::SortTable(const SortLayout& layout, std::int64_t records, std::int64_
       blocks_(std::make_unique_for_overwrite<char[]>((workers ? 2 : 1) * block_length_)),
       entries_(std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(room) * layout.EntryLength())),
       included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),
-      items_(std::make_unique_for_overwrite<SortItem[]>(static_cast<std::size_t>(room))),
-      scratch_(std::make_unique_for_overwrite<SortItem[]>(static_cast<std::size_t>(room) + 2)) {
+      items_(std::make_unique_for_overwrite<Item[]>(static_cast<std::size_t>(room))),
+      scratch_(std::make_unique_for_overwrite<Item[]>(static_cast<std::size_t>(room) + 2)) {
   const std::int64_t half = workers ? records / 2 : records;
   const auto half_room = static_cast<std::size_t>(workers ? room / 2 : room);
   parts_[0] = {0, half, 0, half_room, 0};
   parts_[1] = {half, records, half_room, static_cast<std::size_t>(room) - half_room, 0};
 }
 
-std::span<char> SortTable::Block(int worker) {
+std::span<char> Table::Block(int worker) {
   return {blocks_.get() + (workers_ ? static_cast<std::size_t>(worker) : 0) * block_length_, block_length_};
 }
 
-std::span<SortItem> SortTable::Loaded(int worker) {
+std::span<Item> Table::Loaded(int worker) {
   const Part& part = parts_.at(worker);
   return {items_.get() + part.Begin, part.Loaded};
 }
 
-void SortTable::Load(const runtime::OpenFile& input, const SortInclude& include) {
-  Twice(workers_, [&](int worker) { LoadPart(input, include, worker); });
+void Table::Load(const runtime::OpenFile& input, const IncludeFilter& include) {
+  RunHalves(workers_, [&](int worker) { LoadPart(input, include, worker); });
 }
 
-void SortTable::LoadPart(const runtime::OpenFile& input, const SortInclude& include, int worker) {
+void Table::LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker) {
   Part& part = parts_.at(worker);
   BlockReader reader(input, layout_.RecordLength(), part.Next, part.End - part.Next, Block(worker));
   const std::size_t length = layout_.EntryLength();
@@ -62,17 +62,17 @@ void SortTable::LoadPart(const runtime::OpenFile& input, const SortInclude& incl
   part.Loaded = place - part.Begin;
 }
 
-bool SortTable::Suits(const SortLayout& layout, std::int64_t records) const {
+bool Table::Suits(const Layout& layout, std::int64_t records) const {
   return holds_all_ && records_ == records && layout_ == layout;
 }
 
-bool SortTable::Reload(const runtime::OpenFile& input, const SortInclude& include) {
+bool Table::Reload(const runtime::OpenFile& input, const IncludeFilter& include) {
   std::array<bool, 2> same{};
-  Twice(workers_, [&](int worker) { same.at(worker) = ReloadPart(input, include, worker); });
+  RunHalves(workers_, [&](int worker) { same.at(worker) = ReloadPart(input, include, worker); });
   return same[0] && same[1];
 }
 
-bool SortTable::ReloadPart(const runtime::OpenFile& input, const SortInclude& include, int worker) {
+bool Table::ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker) {
   const Part& part = parts_.at(worker);
   const auto count = static_cast<std::int64_t>(part.Loaded);
   BlockReader reader(input, layout_.RecordLength(), part.End - count, count, Block(worker));
@@ -85,7 +85,7 @@ bool SortTable::ReloadPart(const runtime::OpenFile& input, const SortInclude& in
   return true;
 }
 
-void SortTable::Sort() {
+void Table::Sort() {
   sorted_ = {};
   free_ = {};
   const std::size_t count = parts_[0].Loaded + parts_[1].Loaded;
@@ -99,12 +99,12 @@ void SortTable::Sort() {
   ItemSorter(layout_, entries_.get()).Sort(sorted_[0], free_[0]);
 }
 
-// A guess from a sample; equal windows stay together whatever it is.
-std::uint64_t SortTable::MiddleWindow() {
+// Estimated from a sample. Any value is correct; a good one balances the halves.
+std::uint64_t Table::MiddleWindow() {
   constexpr std::size_t SampleSize = 255;
   std::vector<std::uint64_t> sample;
   for (int worker : {0, 1}) {
-    std::span<const SortItem> items = Loaded(worker);
+    std::span<const Item> items = Loaded(worker);
     std::size_t step = items.size() / SampleSize + 1;
     for (std::size_t at = 0; at < items.size(); at += step) sample.push_back(items[at].Window());
   }
@@ -113,42 +113,41 @@ std::uint64_t SortTable::MiddleWindow() {
   return *middle;
 }
 
-std::size_t SortTable::CountBelow(std::uint64_t window) {
+std::size_t Table::CountBelow(std::uint64_t window) {
   std::array<std::size_t, 2> counts{};
-  Twice(workers_, [&](int worker) {
+  RunHalves(workers_, [&](int worker) {
     std::size_t count = 0;
-    for (const SortItem& item : Loaded(worker)) count += item.Window() < window ? 1 : 0;
+    for (const Item& item : Loaded(worker)) count += item.Window() < window ? 1 : 0;
     counts.at(worker) = count;
   });
   return counts[0] + counts[1];
 }
 
-void SortTable::SortHalves() {
+void Table::SortHalves() {
   const std::uint64_t middle = MiddleWindow();
   const std::size_t lower = CountBelow(middle);
   const std::size_t upper = parts_[0].Loaded + parts_[1].Loaded - lower;
-  // Every item is written and only some stay, which spares a jump that cannot be foretold; the place that this takes
-  // behind each half is the gap between the two.
+  // Branch-free partition: it may write one item past each half, hence the gap.
   sorted_ = {std::span(scratch_.get(), lower), std::span(scratch_.get() + lower + 1, upper)};
   free_ = {std::span(items_.get(), lower), std::span(items_.get() + lower, upper)};
-  Twice(workers_, [&](int half) {
-    SortItem* target = sorted_.at(half).data();
+  RunHalves(workers_, [&](int half) {
+    Item* target = sorted_.at(half).data();
     for (int worker : {0, 1}) {
-      for (const SortItem& item : Loaded(worker)) {
+      for (const Item& item : Loaded(worker)) {
         *target = item;
         target += (item.Window() < middle) == (half == 0) ? 1 : 0;
       }
     }
   });
-  Twice(workers_, [&](int half) {
+  RunHalves(workers_, [&](int half) {
     if (!sorted_.at(half).empty()) ItemSorter(layout_, entries_.get()).Sort(sorted_.at(half), free_.at(half));
   });
 }
 
-void SortTable::PickIncluded() {
-  Twice(workers_, [&](int half) {
-    SortItem* target = free_.at(half).data();
-    for (const SortItem& item : sorted_.at(half)) {
+void Table::PickIncluded() {
+  RunHalves(workers_, [&](int half) {
+    Item* target = free_.at(half).data();
+    for (const Item& item : sorted_.at(half)) {
       *target = item;
       target += included_[item.Entry];
     }
@@ -156,10 +155,10 @@ void SortTable::PickIncluded() {
   });
 }
 
-std::int64_t SortTable::Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first) {
+std::int64_t Table::Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first) {
   PickIncluded();
   const auto lower = static_cast<std::int64_t>(picked_[0].size());
-  Twice(workers_, [&](int half) {
+  RunHalves(workers_, [&](int half) {
     BlockWriter writer(file, length, half == 0 ? first : first + lower, Block(half));
     ForEachEntry(picked_.at(half), entries_.get(), layout_.EntryLength(),
                  [&](const char* entry) { std::copy_n(entry, length, writer.Next()); });

@@ -1,7 +1,7 @@
-// As many records of the input as memory holds at a time: read, sorted, and handed on.
+// The records of the input that fit into memory: loaded, sorted, written.
 //
-// Where it holds all of them, it keeps also those that are not included: what the next sort includes may be others, and
-// as long as they have not changed their order stands.
+// If all fit, excluded records are kept too: a later sort may include them, and unless one has changed their order is
+// still right.
 #pragma once
 
 #include <array>
@@ -18,66 +18,63 @@
 
 namespace sort {
 
-class SortTable {
+class Table {
  public:
-  // Bytes that each record takes.
-  static std::size_t BytesPerRecord(const SortLayout& layout) {
-    return layout.EntryLength() + 2 * sizeof(SortItem) + 1;
-  }
+  // Memory per record.
+  static std::size_t BytesPerRecord(const Layout& layout) { return layout.EntryLength() + 2 * sizeof(Item) + 1; }
 
-  // Records: of the input; room: for so many of them. Workers: to halve the work, or nullptr.
-  SortTable(const SortLayout& layout, std::int64_t records, std::int64_t room, SortWorkers* workers);
+  // Records: count in the input; room: count that fits. Workers: to halve the work, or nullptr.
+  Table(const Layout& layout, std::int64_t records, std::int64_t room, Workers* workers);
 
-  const SortLayout& Layout() const { return layout_; }
+  const sort::Layout& EntryLayout() const { return layout_; }
   // Whether there is room for all records, and whether all have been loaded.
   bool HoldsAll() const { return holds_all_; }
   bool AtEnd() const { return parts_[0].Next == parts_[0].End && parts_[1].Next == parts_[1].End; }
-  // Puts the next records of the input into the place of the present ones; without room for all, the included ones
-  // only.
-  void Load(const runtime::OpenFile& input, const SortInclude& include);
-  // Puts the present records in their order; once after each load.
+  // Replaces the present records by the next ones of the input; without room for all, only included ones are loaded.
+  void Load(const runtime::OpenFile& input, const IncludeFilter& include);
+  // Call once after each load.
   void Sort();
 
-  // Whether this is what a sort with that layout would load from an input of so many records.
-  bool Suits(const SortLayout& layout, std::int64_t records) const;
-  // Reads all records again; false where one would not make the entry that it made. Other ones may be included.
-  bool Reload(const runtime::OpenFile& input, const SortInclude& include);
+  // Whether a sort with that layout and record count could take over this table.
+  bool Suits(const Layout& layout, std::int64_t records) const;
+  // Rereads all records and applies the new test; false if one has changed.
+  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include);
 
-  // Write the present records that are included, in their order, and tell how many: as the output's first records, or
-  // as entries from that one on.
+  // Write the included records in order and return their count: as the output's first records, or as entries from
+  // entry `first` on.
   std::int64_t WriteOutput(const runtime::OpenFile& output) { return Write(output, layout_.OutputLength(), 0); }
   std::int64_t WriteEntries(const runtime::OpenFile& file, std::int64_t first) {
     return Write(file, layout_.EntryLength(), first);
   }
 
  private:
-  // Of one worker: the records from Next to before End are still to be loaded; its entries stand from Begin on.
+  // Of one worker: records Next to End (exclusive) are still to be loaded; its entries are at Begin and after.
   struct Part {
     std::int64_t Next, End;
     std::size_t Begin, Room, Loaded;
   };
 
   std::span<char> Block(int worker);
-  std::span<SortItem> Loaded(int worker);
-  void LoadPart(const runtime::OpenFile& input, const SortInclude& include, int worker);
-  bool ReloadPart(const runtime::OpenFile& input, const SortInclude& include, int worker);
+  std::span<Item> Loaded(int worker);
+  void LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker);
+  bool ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker);
   std::uint64_t MiddleWindow();
   std::size_t CountBelow(std::uint64_t window);
   void SortHalves();
   void PickIncluded();
   std::int64_t Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first);
 
-  SortLayout layout_;
+  Layout layout_;
   std::int64_t records_;
   bool holds_all_;
-  SortWorkers* workers_;
+  Workers* workers_;
   std::array<Part, 2> parts_;
   std::size_t block_length_;
   std::unique_ptr<char[]> blocks_, entries_;
   std::unique_ptr<unsigned char[]> included_;  // 1 or 0 for each entry
-  std::unique_ptr<SortItem[]> items_, scratch_;
-  // What was sorted, where as many items can be put meanwhile, and what of them is included.
-  std::array<std::span<SortItem>, 2> sorted_{}, free_{}, picked_{};
+  std::unique_ptr<Item[]> items_, scratch_;
+  // By half: the sorted items, a buffer of the same length, and the included items.
+  std::array<std::span<Item>, 2> sorted_{}, free_{}, picked_{};
 };
 
 }  // namespace sort

@@ -1,4 +1,4 @@
-// The caller hands a piece of work over, does its own part, and waits until the piece is taken back.
+// The caller hands work over, does its own half, and waits until the other half is done.
 #include "sort/workers.h"
 
 #include <system_error>
@@ -6,7 +6,7 @@
 
 namespace sort {
 
-SortWorkers::~SortWorkers() {
+Workers::~Workers() {
   if (!second_.joinable()) return;
   {
     std::scoped_lock lock(mutex_);
@@ -16,7 +16,7 @@ SortWorkers::~SortWorkers() {
   second_.join();
 }
 
-void SortWorkers::Serve() {
+void Workers::Serve() {
   std::unique_lock lock(mutex_);
   for (;;) {
     changed_.wait(lock, [this] { return work_ || ending_; });
@@ -35,8 +35,8 @@ void SortWorkers::Serve() {
   }
 }
 
-// Where the system has no thread to give, the caller does all of it.
-bool SortWorkers::Started() {
+// False if the system refuses a thread; the caller then does all of it.
+bool Workers::Started() {
   if (second_.joinable()) return true;
   try {
     second_ = std::thread([this] { Serve(); });
@@ -46,7 +46,7 @@ bool SortWorkers::Started() {
   }
 }
 
-void SortWorkers::HandOver(const std::function<void(int worker)>& work) {
+void Workers::HandOver(const std::function<void(int worker)>& work) {
   {
     std::scoped_lock lock(mutex_);
     work_ = &work;
@@ -54,12 +54,12 @@ void SortWorkers::HandOver(const std::function<void(int worker)>& work) {
   changed_.notify_all();
 }
 
-void SortWorkers::Await() {
+void Workers::Await() {
   std::unique_lock lock(mutex_);
   changed_.wait(lock, [this] { return !work_; });
 }
 
-void SortWorkers::Twice(const std::function<void(int worker)>& work) {
+void Workers::RunHalves(const std::function<void(int worker)>& work) {
   if (!Started()) {
     work(0);
     work(1);

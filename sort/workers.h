@@ -1,4 +1,4 @@
-// Work for the two cores of a machine.
+// Work in halves for two cores.
 #pragma once
 
 #include <condition_variable>
@@ -9,17 +9,17 @@
 
 namespace sort {
 
-// A second thread beside the caller's, which starts with the first work for two and then waits for more: a new thread
-// for each piece would sit on the caller's core for a good part of it.
-class SortWorkers {
+// A second thread, started with the first work and kept: a thread per piece starts on the caller's core and stays there
+// for a good part of its work.
+class Workers {
  public:
-  SortWorkers() = default;
-  SortWorkers(const SortWorkers&) = delete;
-  SortWorkers& operator=(const SortWorkers&) = delete;
-  ~SortWorkers();
+  Workers() = default;
+  Workers(const Workers&) = delete;
+  Workers& operator=(const Workers&) = delete;
+  ~Workers();
 
-  // Runs work(0) and work(1) at the same time; what either throws is thrown when both are over.
-  void Twice(const std::function<void(int worker)>& work);
+  // Runs work(0) and work(1) at the same time; what either throws is thrown when both are done.
+  void RunHalves(const std::function<void(int worker)>& work);
 
  private:
   bool Started();
@@ -35,10 +35,10 @@ class SortWorkers {
   std::thread second_;
 };
 
-// With nobody else to do it, one after the other.
-inline void Twice(SortWorkers* workers, const std::function<void(int worker)>& work) {
+// Without workers, in turn.
+inline void RunHalves(Workers* workers, const std::function<void(int worker)>& work) {
   if (workers) {
-    workers->Twice(work);
+    workers->RunHalves(work);
   } else {
     work(0);
     work(1);

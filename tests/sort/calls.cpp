@@ -24,15 +24,13 @@ std::string StatementOfPass(std::size_t pass) {
   return statement.append(Tests[pass]).append(") Record(649)");
 }
 
-SortOutcome SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement, const SortLimits& limits) {
+Result SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement, const Limits& limits) {
   Sorter sorter(disk, limits);
   return SortWith(sorter, output, statement);
 }
 
-SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view statement) {
-  SortOutcome outcome;
-  sorter.Sort("Recpra.Dat", output, statement, outcome.Numrec, outcome.Retcode);
-  return outcome;
+Result SortWith(Sorter& sorter, std::string_view output, std::string_view statement) {
+  return sorter.Sort("Recpra.Dat", output, statement);
 }
 
 std::string DeliveredWeights() {
@@ -60,16 +58,16 @@ std::string Leftovers(const kit::MemoryDisk& disk) {
 
 namespace {
 
-using OnePass = std::function<SortOutcome(runtime::Disk&, std::string_view output, std::string_view statement)>;
+using OnePass = std::function<Result(runtime::Disk&, std::string_view output, std::string_view statement)>;
 
 void ExpectPassesAsReference(const std::string& master, const OnePass& sort) {
   kit::MemoryDisk memory(FolderWith(master));
   SharedDisk disk(memory);
   const auto pairs = story::SortedPairs(master, DeliveredWeights());
   for (std::size_t pass = 0; pass < std::size(Tests); ++pass) {
-    SortOutcome outcome = sort(disk, pairs[pass].KeyFile, StatementOfPass(pass));
-    ASSERT_EQ(outcome.Retcode, SortDone) << pairs[pass].KeyFile;
-    ASSERT_EQ(" " + std::to_string(outcome.Numrec) + "\r\n", pairs[pass].CountBytes) << pairs[pass].KeyFile;
+    Result outcome = sort(disk, pairs[pass].KeyFile, StatementOfPass(pass));
+    ASSERT_EQ(outcome.Status, Status::Done) << pairs[pass].KeyFile;
+    ASSERT_EQ(" " + std::to_string(outcome.Records) + "\r\n", pairs[pass].CountBytes) << pairs[pass].KeyFile;
     ASSERT_TRUE(FileOn(memory, pairs[pass].KeyFile) == pairs[pass].KeyBytes) << pairs[pass].KeyFile << " differs";
   }
   ASSERT_EQ(FileOn(memory, "Recpra.Dat"), master);
@@ -78,7 +76,7 @@ void ExpectPassesAsReference(const std::string& master, const OnePass& sort) {
 
 }  // namespace
 
-void ExpectAsReference(const std::string& master, const SortLimits& limits) {
+void ExpectAsReference(const std::string& master, const Limits& limits) {
   ExpectPassesAsReference(master, [&](runtime::Disk& disk, std::string_view output, std::string_view statement) {
     return SortOn(disk, output, statement, limits);
   });

@@ -15,16 +15,9 @@ namespace sort {
 inline constexpr std::string_view TitlesStatement =
     "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(1,40,C,GT,\"000000\") Record(649)";
 
-// What the operation gives back; the count begins with a value that no sort here would give.
-struct SortOutcome {
-  std::int32_t Numrec = -77;
-  std::int32_t Retcode = -77;
-};
-
-SortOutcome SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement,
-                   const SortLimits& limits = {});
+Result SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement, const Limits& limits = {});
 // One of several sorts of the same sorter.
-SortOutcome SortWith(Sorter& sorter, std::string_view output, std::string_view statement);
+Result SortWith(Sorter& sorter, std::string_view output, std::string_view statement);
 
 // The statement of a pass, in the order of the reference's pairs.
 std::string StatementOfPass(std::size_t pass);
@@ -57,6 +50,6 @@ class SharedDisk final : public kit::PassingDisk {
 };
 
 // Checks the four passes with these limits against the reference: each with a sorter of its own, then all with one.
-void ExpectAsReference(const std::string& master, const SortLimits& limits);
+void ExpectAsReference(const std::string& master, const Limits& limits);
 
 }  // namespace sort

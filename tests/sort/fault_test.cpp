@@ -40,18 +40,18 @@ const std::string& NewKeys() {
 }
 
 // In memory, and through runs of three records.
-const SortLimits Limits[] = {{}, {300, 1'000'000}};
+const Limits BothLimits[] = {{}, {300, 1'000'000}};
 
-std::size_t CallsOf(const SortLimits& limits) {
+std::size_t CallsOf(const Limits& limits) {
   kit::MemoryDisk memory(Before());
   kit::FaultyDisk disk(memory);
-  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, limits).Retcode, SortDone);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, limits).Status, Status::Done);
   EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
   return disk.Calls();
 }
 
 // Nothing if a failed folder sync stopped it.
-std::optional<SortOutcome> TrySort(Sorter& sorter) {
+std::optional<Result> TrySort(Sorter& sorter) {
   try {
     return SortWith(sorter, "Titlepra.Dat", TitlesStatement);
   } catch (const runtime::Failure&) {
@@ -59,7 +59,7 @@ std::optional<SortOutcome> TrySort(Sorter& sorter) {
   }
 }
 
-std::optional<SortOutcome> TrySortOn(kit::FaultyDisk& disk, const SortLimits& limits) {
+std::optional<Result> TrySortOn(kit::FaultyDisk& disk, const Limits& limits) {
   Sorter sorter(disk, limits);
   return TrySort(sorter);
 }
@@ -67,12 +67,12 @@ std::optional<SortOutcome> TrySortOn(kit::FaultyDisk& disk, const SortLimits& li
 void ExpectSortsAfterwards(kit::MemoryDisk& memory) {
   runtime::RemoveLeftovers(memory);
   ASSERT_EQ(Leftovers(memory), "");
-  SortOutcome outcome = SortOn(memory, "Titlepra.Dat", TitlesStatement);
-  ASSERT_EQ(outcome.Retcode, SortDone);
+  Result outcome = SortOn(memory, "Titlepra.Dat", TitlesStatement);
+  ASSERT_EQ(outcome.Status, Status::Done);
   ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
 }
 
-class EveryCallOfASort : public testing::TestWithParam<SortLimits> {};
+class EveryCallOfASort : public testing::TestWithParam<Limits> {};
 
 TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
   const std::size_t calls = CallsOf(GetParam());
@@ -82,11 +82,11 @@ TEST_P(EveryCallOfASort, FailsToAStatusWithTheOldOutput) {
         SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
         kit::MemoryDisk memory(Before());
         kit::FaultyDisk disk(memory, {fault, at, from_then_on});
-        std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
-        bool replaced = !outcome || outcome->Retcode == SortDone;
+        std::optional<Result> outcome = TrySortOn(disk, GetParam());
+        bool replaced = !outcome || outcome->Status == Status::Done;
         ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
         if (outcome) {
-          ASSERT_EQ(outcome->Numrec, replaced ? 10 : SortOutcome().Numrec);
+          ASSERT_EQ(outcome->Records, replaced ? 10 : 0);
         }
         ASSERT_EQ(FileOn(memory, "Recpra.Dat"), Films());
         ExpectSortsAfterwards(memory);
@@ -100,8 +100,8 @@ TEST_P(EveryCallOfASort, LeavesNothingAsideAfterAFailureThatGoesBy) {
   for (std::size_t at = 0; at < calls; ++at) {
     kit::MemoryDisk memory(Before());
     kit::FaultyDisk disk(memory, {Fault::Full, at});
-    std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
-    if (outcome && outcome->Retcode != SortDone) {
+    std::optional<Result> outcome = TrySortOn(disk, GetParam());
+    if (outcome && outcome->Status != Status::Done) {
       EXPECT_EQ(Leftovers(memory), "") << "at call " << at;
     }
   }
@@ -114,9 +114,9 @@ TEST_P(EveryCallOfASort, GoesOnAfterAnInterruptionOrAShortOne) {
       SCOPED_TRACE(std::string(NameOf(fault)) + " at call " + std::to_string(at));
       kit::MemoryDisk memory(Before());
       kit::FaultyDisk disk(memory, {fault, at, fault == Fault::Short});
-      std::optional<SortOutcome> outcome = TrySortOn(disk, GetParam());
+      std::optional<Result> outcome = TrySortOn(disk, GetParam());
       ASSERT_TRUE(outcome);
-      ASSERT_EQ(outcome->Retcode, SortDone);
+      ASSERT_EQ(outcome->Status, Status::Done);
       ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
       ASSERT_EQ(Leftovers(memory), "");
     }
@@ -140,7 +140,7 @@ TEST_P(EveryCallOfASort, IsKilledToTheOldOrTheNewOutput) {
 
 TEST_P(EveryCallOfASort, LosesPowerToTheOldOrTheNewOutput) {
   kit::MemoryDisk memory(Before());
-  ASSERT_EQ(SortOn(memory, "Titlepra.Dat", TitlesStatement, GetParam()).Retcode, SortDone);
+  ASSERT_EQ(SortOn(memory, "Titlepra.Dat", TitlesStatement, GetParam()).Status, Status::Done);
   for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
     for (const kit::Folder& folder : memory.AfterPowerLoss(moment, 256)) {
       ASSERT_TRUE(folder.contains("Titlepra.Dat"));
@@ -162,12 +162,12 @@ TEST_P(EveryCallOfASort, FailsAsWellWhereTheSorterKnowsTheOrder) {
       kit::MemoryDisk memory(Before());
       kit::FaultyDisk disk(memory, {fault, at});
       Sorter sorter(disk, GetParam());
-      ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
+      ASSERT_EQ(TrySort(sorter)->Status, Status::Done);
       runtime::ReplaceFile(memory, "Titlepra.Dat", OldKeys);
-      std::optional<SortOutcome> outcome = TrySort(sorter);
-      bool replaced = !outcome || outcome->Retcode == SortDone;
+      std::optional<Result> outcome = TrySort(sorter);
+      bool replaced = !outcome || outcome->Status == Status::Done;
       ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), replaced ? NewKeys() : OldKeys);
-      ASSERT_EQ(TrySort(sorter)->Retcode, SortDone);
+      ASSERT_EQ(TrySort(sorter)->Status, Status::Done);
       ASSERT_EQ(FileOn(memory, "Titlepra.Dat"), NewKeys());
     }
   }
@@ -177,7 +177,7 @@ TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
   // The open of the input is the first call.
   kit::MemoryDisk memory(Before());
   kit::FaultyDisk disk(memory, {Fault::Error, 0});
-  EXPECT_EQ(TrySortOn(disk, {})->Retcode, SortInputUnreadable);
+  EXPECT_EQ(TrySortOn(disk, {})->Status, Status::InputUnreadable);
   class ReadlessInput final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
@@ -186,20 +186,20 @@ TEST(FaultOfASort, InTheInputIsStatus2AndInTheOutputStatus4) {
     }
   };
   ReadlessInput readless(memory);
-  EXPECT_EQ(SortOn(readless, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
+  EXPECT_EQ(SortOn(readless, "Titlepra.Dat", TitlesStatement).Status, Status::InputUnreadable);
   class FullDisk final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
     std::int64_t WriteAt(int, const char*, std::size_t, std::int64_t) override { return -ENOSPC; }
   };
   FullDisk full(memory);
-  EXPECT_EQ(SortOn(full, "Titlepra.Dat", TitlesStatement).Retcode, SortOutputUnwritable);
+  EXPECT_EQ(SortOn(full, "Titlepra.Dat", TitlesStatement).Status, Status::OutputUnwritable);
   EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), OldKeys);
   EXPECT_EQ(Leftovers(memory), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Sorts, EveryCallOfASort, testing::ValuesIn(Limits), [](const auto& limits) {
-  return limits.param.MemoryBytes == SortLimits().MemoryBytes ? "InMemory" : "ThroughRuns";
+INSTANTIATE_TEST_SUITE_P(Sorts, EveryCallOfASort, testing::ValuesIn(BothLimits), [](const auto& limits) {
+  return limits.param.MemoryBytes == Limits().MemoryBytes ? "InMemory" : "ThroughRuns";
 });
 
 }  // namespace

@@ -24,13 +24,13 @@ std::string Key(std::string title, std::string_view number) {
   return title.append(number).append("\r\n");
 }
 
-// The status, with neither the output nor the count changed.
-std::int32_t RefusedStatus(kit::MemoryDisk& disk, std::string_view statement) {
-  SortOutcome outcome = SortOn(disk, "Titlepra.Dat", statement);
-  EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
+// The status of a sort that changes no file.
+Status RefusedStatus(kit::MemoryDisk& disk, std::string_view statement) {
+  Result outcome = SortOn(disk, "Titlepra.Dat", statement);
+  EXPECT_EQ(outcome.Records, 0);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), "the old keys");
   EXPECT_EQ(Leftovers(disk), "");
-  return outcome.Retcode;
+  return outcome.Status;
 }
 
 kit::Folder OldFolder() {
@@ -43,9 +43,9 @@ TEST(SortOperation, ReplacesTheOutputAndCountsItsRecords) {
   kit::Folder folder = OldFolder();
   folder["Recpra.Dat"] = Film("solaris") + Film("Brazil") + Film("") + Film("SOLARIS") + Film("Amelie");
   kit::MemoryDisk disk(folder);
-  SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
-  EXPECT_EQ(outcome.Retcode, SortDone);
-  EXPECT_EQ(outcome.Numrec, 4);
+  Result outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
+  EXPECT_EQ(outcome.Status, Status::Done);
+  EXPECT_EQ(outcome.Records, 4);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Amelie", "0000005") + Key("Brazil", "0000002") +
                                               Key("solaris", "0000001") + Key("SOLARIS", "0000004"));
   EXPECT_EQ(Leftovers(disk), "");
@@ -56,9 +56,9 @@ TEST(SortOperation, MakesAnEmptyOutputOfAnEmptyInput) {
     kit::Folder folder = OldFolder();
     folder["Recpra.Dat"] = master;
     kit::MemoryDisk disk(folder);
-    SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
-    EXPECT_EQ(outcome.Retcode, SortDone);
-    EXPECT_EQ(outcome.Numrec, 0);
+    Result outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
+    EXPECT_EQ(outcome.Status, Status::Done);
+    EXPECT_EQ(outcome.Records, 0);
     EXPECT_TRUE(disk.Content().contains("Titlepra.Dat"));
     EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), "");
   }
@@ -66,14 +66,14 @@ TEST(SortOperation, MakesAnEmptyOutputOfAnEmptyInput) {
 
 TEST(SortOperation, GivesStatus1ForAStatementThatCannotBeRead) {
   kit::MemoryDisk disk(OldFolder());
-  EXPECT_EQ(RefusedStatus(disk, "S(1,40,C,A) nothing of that kind"), SortStatementUnreadable);
+  EXPECT_EQ(RefusedStatus(disk, "S(1,40,C,A) nothing of that kind"), Status::StatementUnreadable);
 }
 
 TEST(SortOperation, GivesStatus2WhereTheInputIsMissing) {
   kit::Folder folder = OldFolder();
   folder.erase("Recpra.Dat");
   kit::MemoryDisk disk(folder);
-  EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortInputUnreadable);
+  EXPECT_EQ(RefusedStatus(disk, TitlesStatement), Status::InputUnreadable);
 }
 
 // An input that reports too great a length and counts its reads.
@@ -97,25 +97,25 @@ class LongInput final : public kit::PassingDisk {
 
 TEST(SortOperation, GivesStatus2ForMoreRecordsThanSevenDigitsNumber) {
   kit::MemoryDisk memory(OldFolder());
-  LongInput disk(memory, MaxSortRecords);
-  SortOutcome outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
-  EXPECT_EQ(outcome.Retcode, SortInputUnreadable);
+  LongInput disk(memory, MaxRecords);
+  Result outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);
+  EXPECT_EQ(outcome.Status, Status::InputUnreadable);
   EXPECT_EQ(disk.Reads(), 0);
-  EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
+  EXPECT_EQ(outcome.Records, 0);
   EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), "the old keys");
 }
 
 TEST(SortOperation, TakesAsManyRecordsAsSevenDigitsNumber) {
   kit::MemoryDisk memory(OldFolder());
-  LongInput disk(memory, MaxSortRecords - 1);
-  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
+  LongInput disk(memory, MaxRecords - 1);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Status, Status::InputUnreadable);
   EXPECT_GT(disk.Reads(), 0);
 }
 
 TEST(SortOperation, GivesStatus2WhereTheInputIsShorterThanItSaid) {
   kit::MemoryDisk memory(OldFolder());
   LongInput disk(memory, 1);
-  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Retcode, SortInputUnreadable);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement).Status, Status::InputUnreadable);
   EXPECT_EQ(FileOn(memory, "Titlepra.Dat"), "the old keys");
   EXPECT_EQ(Leftovers(memory), "");
 }
@@ -126,7 +126,7 @@ TEST(SortOperation, GivesStatus3WhereTheWeightsAreMissingOrOfAnotherLength) {
     folder.erase("UPPER.ALT");
     if (length >= 0) folder["UPPER.ALT"] = std::string(static_cast<std::size_t>(length), 'A');
     kit::MemoryDisk disk(folder);
-    EXPECT_EQ(RefusedStatus(disk, TitlesStatement), SortWeightsUnreadable) << length;
+    EXPECT_EQ(RefusedStatus(disk, TitlesStatement), Status::WeightsUnreadable) << length;
   }
 }
 
@@ -134,15 +134,15 @@ TEST(SortOperation, NeedsNoWeightsWhereTheStatementNamesNone) {
   kit::Folder folder = FolderWith(Film("b") + Film("C") + Film("a") + Film("\xE9"));
   folder.erase("UPPER.ALT");
   kit::MemoryDisk disk(folder);
-  EXPECT_EQ(SortOn(disk, "out", "S(1,1,C,A) OUTREC(1,1) Record(649)").Retcode, SortDone);
+  EXPECT_EQ(SortOn(disk, "out", "S(1,1,C,A) OUTREC(1,1) Record(649)").Status, Status::Done);
   EXPECT_EQ(FileOn(disk, "out"), "Cab\xE9");
 }
 
 TEST(SortOperation, GivesStatus4WhereTheOutputCannotBePut) {
   kit::MemoryDisk disk(OldFolder());
-  SortOutcome outcome = SortOn(disk, "no such folder/Titlepra.Dat", TitlesStatement);
-  EXPECT_EQ(outcome.Retcode, SortOutputUnwritable);
-  EXPECT_EQ(outcome.Numrec, SortOutcome().Numrec);
+  Result outcome = SortOn(disk, "no such folder/Titlepra.Dat", TitlesStatement);
+  EXPECT_EQ(outcome.Status, Status::OutputUnwritable);
+  EXPECT_EQ(outcome.Records, 0);
   EXPECT_EQ(Leftovers(disk), "");
 }
 
@@ -157,18 +157,18 @@ TEST(SortOperation, ComparesAConstantAsIfPaddedWithBlanks) {
 // Longer than one block of reading and writing.
 TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
   std::string records;
-  for (char letter : {'b', 'a'}) records += std::string(LongestRecord, letter);
+  for (char letter : {'b', 'a'}) records += std::string(MaxRecordLength, letter);
   std::string pieces;
   std::string expected;
-  for (char letter : {'a', 'b'}) expected += std::string(12 * LongestRecord, letter);
+  for (char letter : {'a', 'b'}) expected += std::string(12 * MaxRecordLength, letter);
   for (int piece = 0; piece < 12; ++piece) pieces += piece == 0 ? "1,32767" : ",1,32767";
   for (std::int64_t two_workers_from : {1, 100}) {
     for (std::size_t memory : {std::size_t{1}, std::size_t{64} << 20}) {
       kit::MemoryDisk memory_disk(FolderWith(records));
       SharedDisk disk(memory_disk);
-      SortOutcome outcome =
+      Result outcome =
           SortOn(disk, "out", "S(1,1,C,A) OUTREC(" + pieces + ") Record(32767)", {memory, two_workers_from});
-      EXPECT_EQ(outcome.Numrec, 2);
+      EXPECT_EQ(outcome.Records, 2);
       EXPECT_TRUE(FileOn(memory_disk, "out") == expected);
     }
   }
@@ -176,12 +176,12 @@ TEST(SortOperation, WritesOutputRecordsOfAnyLength) {
 
 // Equal to the last byte of a key of two million, which are compared a few at a time.
 TEST(SortOperation, KeepsTheOrderOfRecordsThatAreEqualInALongKey) {
-  std::string records(3 * LongestRecord, 'a');
+  std::string records(3 * MaxRecordLength, 'a');
   std::string fields = "1,32767,C,A";
   for (int field = 1; field < 64; ++field) fields += ",1,32767,C,A";
   kit::MemoryDisk disk(FolderWith(records));
-  SortOutcome outcome = SortOn(disk, "out", "S(" + fields + ") OUTREC(Arrn) Record(32767)");
-  EXPECT_EQ(outcome.Retcode, SortDone);
+  Result outcome = SortOn(disk, "out", "S(" + fields + ") OUTREC(Arrn) Record(32767)");
+  EXPECT_EQ(outcome.Status, Status::Done);
   EXPECT_EQ(FileOn(disk, "out"), "000000100000020000003");
 }
 
@@ -190,7 +190,7 @@ TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
   folder[".reelora/Titlepra.Dat.new"] = std::string(5000, '?');
   folder[".reelora/Titlepra.Dat.runs.new"] = std::string(5000, '?');
   kit::MemoryDisk disk(folder);
-  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, {1, 100}).Retcode, SortDone);
+  EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, {1, 100}).Status, Status::Done);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Solaris", "0000001"));
   EXPECT_EQ(Leftovers(disk), "");
 }

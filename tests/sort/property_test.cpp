@@ -69,8 +69,8 @@ std::string RandomCollection(Chance& chance, std::size_t most) {
   return master;
 }
 
-SortLimits RandomLimits(Chance& chance) {
-  SortLimits limits;
+Limits RandomLimits(Chance& chance) {
+  Limits limits;
   if (chance.Below(3) > 0) limits.MemoryBytes = 1 + chance.Below(4000);
   if (chance.Below(2) == 0) limits.TwoWorkersFrom = static_cast<std::int64_t>(chance.Below(30));
   return limits;
@@ -144,7 +144,7 @@ TEST(SortProperty, OneSorterSeesWhatHasChangedSinceItsLastSort) {
       Change(master, chance);
       runtime::ReplaceFile(memory, "Recpra.Dat", master);
       std::size_t pass = chance.Below(4);
-      ASSERT_EQ(SortWith(sorter, "out", StatementOfPass(pass)).Retcode, SortDone);
+      ASSERT_EQ(SortWith(sorter, "out", StatementOfPass(pass)).Status, Status::Done);
       ASSERT_TRUE(FileOn(memory, "out") == story::SortedPairs(master, DeliveredWeights())[pass].KeyBytes);
     }
   }
@@ -153,7 +153,7 @@ TEST(SortProperty, OneSorterSeesWhatHasChangedSinceItsLastSort) {
 // Any statement on records of twelve bytes, sorted in the plainest way.
 struct AnyStatement {
   std::string Text;
-  std::vector<SortField> Fields;
+  std::vector<KeyField> Fields;
   std::vector<OutputPiece> Pieces;
   bool Weighted = false;
   std::string Relation;  // "" for none
@@ -177,7 +177,7 @@ AnyStatement RandomSort(Chance& chance) {
   AnyStatement any;
   std::string fields;
   for (std::size_t count = 1 + chance.Below(3); count > 0; --count) {
-    SortField field{RandomSpan(chance), chance.Below(2) == 0};
+    KeyField field{RandomSpan(chance), chance.Below(2) == 0};
     fields += (fields.empty() ? "" : ",") + Written(field.Span) + (field.Descending ? ",C,D" : ",C,A");
     any.Fields.push_back(field);
   }
@@ -235,7 +235,7 @@ std::string ExpectedOutput(const AnyStatement& any, std::string_view input) {
     if (Kept(any, record(index))) records.push_back(index);
   }
   std::stable_sort(records.begin(), records.end(), [&](std::size_t left, std::size_t right) {
-    for (const SortField& field : any.Fields) {
+    for (const KeyField& field : any.Fields) {
       int order = Compared(any, record(left).substr(field.Span.Offset, field.Span.Width),
                            record(right).substr(field.Span.Offset, field.Span.Width));
       if (order != 0) return field.Descending ? order > 0 : order < 0;
@@ -266,7 +266,7 @@ TEST(SortProperty, AnyStatementDoesWhatItSays) {
       if (number == 3) sort = RandomSort(chance);
       AnyStatement any = WithRandomTest(sort, chance);
       SCOPED_TRACE(any.Text);
-      ASSERT_EQ(SortWith(sorter, "out", any.Text).Retcode, SortDone);
+      ASSERT_EQ(SortWith(sorter, "out", any.Text).Status, Status::Done);
       ASSERT_EQ(FileOn(memory, "out"), ExpectedOutput(any, input));
     }
   }

@@ -9,8 +9,8 @@ namespace {
 constexpr std::string_view Titles =
     "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(1,40,C,GT,\"000000\") Record(649)";
 
-TEST(SortStatement, ReadsEveryClauseOfThePassOfTitles) {
-  auto statement = ParseSortStatement(Titles);
+TEST(Statement, ReadsEveryClauseOfThePassOfTitles) {
+  auto statement = ParseStatement(Titles);
   ASSERT_TRUE(statement);
   ASSERT_EQ(statement->Fields.size(), 1u);
   EXPECT_EQ(statement->Fields[0].Span.Offset, 0u);
@@ -30,17 +30,17 @@ TEST(SortStatement, ReadsEveryClauseOfThePassOfTitles) {
   EXPECT_EQ(statement->RecordLength, 649u);
 }
 
-TEST(SortStatement, ReadsThePassOfOneFormatWithItsBlankAtTheEnd) {
-  auto statement = ParseSortStatement(
-      "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(266,1,C,EQ,\"D\") Record(649) ");
+TEST(Statement, ReadsThePassOfOneFormatWithItsBlankAtTheEnd) {
+  auto statement =
+      ParseStatement("S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(266,1,C,EQ,\"D\") Record(649) ");
   ASSERT_TRUE(statement);
   EXPECT_EQ(statement->Include->Span.Offset, 265u);
   EXPECT_EQ(statement->Include->Span.Width, 1u);
   EXPECT_TRUE(statement->Include->KeepsEqual);
 }
 
-TEST(SortStatement, ReadsSeveralFieldsAndPieces) {
-  auto statement = ParseSortStatement("S(3,2,C,D,1,2,C,A) OUTREC(CRLF,5,1,Arrn,1,2,5,1) Record(8)");
+TEST(Statement, ReadsSeveralFieldsAndPieces) {
+  auto statement = ParseStatement("S(3,2,C,D,1,2,C,A) OUTREC(CRLF,5,1,Arrn,1,2,5,1) Record(8)");
   ASSERT_TRUE(statement);
   ASSERT_EQ(statement->Fields.size(), 2u);
   EXPECT_TRUE(statement->Fields[0].Descending);
@@ -54,22 +54,22 @@ TEST(SortStatement, ReadsSeveralFieldsAndPieces) {
   EXPECT_FALSE(statement->Include);
 }
 
-TEST(SortStatement, TakesWordsInAnyCaseAndClausesInAnyOrder) {
-  EXPECT_TRUE(ParseSortStatement("record(4) include(1,1,c,ne,\"x\") outrec(1,4,ARRN,crlf) altseq(a.b) s(1,1,c,d)"));
+TEST(Statement, TakesWordsInAnyCaseAndClausesInAnyOrder) {
+  EXPECT_TRUE(ParseStatement("record(4) include(1,1,c,ne,\"x\") outrec(1,4,ARRN,crlf) altseq(a.b) s(1,1,c,d)"));
 }
 
-TEST(SortStatement, TakesBlanksBetweenItsParts) {
-  EXPECT_TRUE(ParseSortStatement("  S( 1 , 4 , C , A )   OUTREC( 1 , 4 , CRLF )  Record( 4 )  "));
+TEST(Statement, TakesBlanksBetweenItsParts) {
+  EXPECT_TRUE(ParseStatement("  S( 1 , 4 , C , A )   OUTREC( 1 , 4 , CRLF )  Record( 4 )  "));
 }
 
-TEST(SortStatement, KnowsTheSixRelations) {
+TEST(Statement, KnowsTheSixRelations) {
   struct Row {
     std::string Word;
     bool Less, Equal, Greater;
   };
   for (const Row& row : {Row{"EQ", false, true, false}, Row{"NE", true, false, true}, Row{"GT", false, false, true},
                          Row{"GE", false, true, true}, Row{"LT", true, false, false}, Row{"LE", true, true, false}}) {
-    auto statement = ParseSortStatement("S(1,1,C,A) OUTREC(1,1) Include(1,1,C," + row.Word + ",\"m\") Record(1)");
+    auto statement = ParseStatement("S(1,1,C,A) OUTREC(1,1) Include(1,1,C," + row.Word + ",\"m\") Record(1)");
     ASSERT_TRUE(statement) << row.Word;
     EXPECT_EQ(statement->Include->KeepsLess, row.Less) << row.Word;
     EXPECT_EQ(statement->Include->KeepsEqual, row.Equal) << row.Word;
@@ -77,7 +77,7 @@ TEST(SortStatement, KnowsTheSixRelations) {
   }
 }
 
-TEST(SortStatement, IsNoneWhereAPartIsMissingWrongOrTooMuch) {
+TEST(Statement, IsNoneWhereAPartIsMissingWrongOrTooMuch) {
   for (const char* text : {
            "",
            " ",
@@ -118,13 +118,13 @@ TEST(SortStatement, IsNoneWhereAPartIsMissingWrongOrTooMuch) {
            "S(1,40,C,A) OUTREC(1,40) Include(266,1,C,EQ,\"D\"\") Record(649)",
            "S(1,40,C,A) OUTREC(1,40) Record(649) and more",
        }) {
-    EXPECT_FALSE(ParseSortStatement(text)) << text;
+    EXPECT_FALSE(ParseStatement(text)) << text;
   }
 }
 
-TEST(SortStatement, OfThePassOfTitlesIsNoneWhenCutAnywhere) {
+TEST(Statement, OfThePassOfTitlesIsNoneWhenCutAnywhere) {
   for (std::size_t length = 0; length < Titles.size(); ++length)
-    EXPECT_FALSE(ParseSortStatement(Titles.substr(0, length))) << Titles.substr(0, length);
+    EXPECT_FALSE(ParseStatement(Titles.substr(0, length))) << Titles.substr(0, length);
 }
 
 }  // namespace

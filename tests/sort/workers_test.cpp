@@ -11,11 +11,11 @@ namespace sort {
 namespace {
 
 TEST(SortWorkersTest, DoBothPartsOfEachPieceOnTwoThreads) {
-  SortWorkers workers;
+  Workers workers;
   std::array<std::thread::id, 2> threads;
   std::array<int, 2> done{};
   for (int piece = 1; piece <= 500; ++piece) {
-    workers.Twice([&](int worker) {
+    workers.RunHalves([&](int worker) {
       ++done.at(worker);
       threads.at(worker) = std::this_thread::get_id();
     });
@@ -27,24 +27,24 @@ TEST(SortWorkersTest, DoBothPartsOfEachPieceOnTwoThreads) {
 
 TEST(SortWorkersTest, DoBothPartsOnTheCallersThreadWhereThereIsNoOther) {
   std::string parts;
-  Twice(nullptr, [&](int worker) { parts += std::to_string(worker); });
+  RunHalves(nullptr, [&](int worker) { parts += std::to_string(worker); });
   EXPECT_EQ(parts, "01");
 }
 
 TEST(SortWorkersTest, ThrowWhatEitherPartThrowsAndGoOnAfterwards) {
-  SortWorkers workers;
+  Workers workers;
   for (int thrower : {0, 1}) {
     bool other_done = false;
-    EXPECT_THROW(workers.Twice([&](int worker) {
+    EXPECT_THROW(workers.RunHalves([&](int worker) {
       if (worker == thrower) throw std::runtime_error("no");
       other_done = true;
     }),
                  std::runtime_error);
     EXPECT_TRUE(other_done);
   }
-  EXPECT_THROW(workers.Twice([](int) { throw std::runtime_error("both"); }), std::runtime_error);
+  EXPECT_THROW(workers.RunHalves([](int) { throw std::runtime_error("both"); }), std::runtime_error);
   int done = 0;
-  workers.Twice([&](int worker) { done += worker; });
+  workers.RunHalves([&](int worker) { done += worker; });
   EXPECT_EQ(done, 1);
 }
 
