@@ -13,8 +13,7 @@ namespace store {
 namespace {
 
 constexpr std::size_t StampWidth = 19;
-constexpr std::size_t SlotAt = 20;
-constexpr std::size_t SlotWidth = 7;
+constexpr std::size_t SlotWidth = HistoryHeadLength - StampWidth;  // blanks included
 constexpr std::size_t EntryLength = HistoryHeadLength + RecordLength;
 
 constexpr int MasterNo = 1;
@@ -23,13 +22,7 @@ std::string HistoryName() { return runtime::InSafetyFolder(HistoryFile); }
 
 bool IsFilm(std::string_view record) {
   const FilmFieldRow& title = RowOf(FilmField::Title);
-  return record.substr(title.Offset, title.Width).find_first_not_of(' ') != std::string_view::npos;
-}
-
-std::string HeadOf(std::chrono::local_seconds when, std::int64_t slot) {
-  std::array<char, 16> number{};
-  std::snprintf(number.data(), number.size(), " %07lld ", static_cast<long long>(slot));
-  return runtime::StampText(when) + number.data();
+  return record.substr(0, title.Width).find_first_not_of(' ') != std::string_view::npos;
 }
 
 // Digits that name a slot; slots count from 1.
@@ -40,11 +33,23 @@ bool IsSlot(std::string_view text) {
 
 }  // namespace
 
+std::string HistoryHead(std::chrono::local_seconds when, std::int64_t slot) {
+  using namespace std::chrono;
+  constexpr local_seconds First = local_days(year(0) / January / 1);
+  constexpr local_seconds Last = local_days(year(10000) / January / 1) - seconds(1);
+  std::array<char, 32> digits{};
+  auto length =
+      static_cast<std::size_t>(std::snprintf(digits.data(), digits.size(), "%07lld", static_cast<long long>(slot)));
+  if (length > SlotWidth) throw runtime::Failure{runtime::BadRecordNumber, std::string(MasterFileName)};
+  std::string field = (length < SlotWidth ? " " : "") + std::string(digits.data());
+  return runtime::StampText(std::clamp(when, First, Last)) + runtime::Fixed(field, SlotWidth);
+}
+
 // The file is opened, and so created, at every write: the folder syncs of the first write then cover its name.
 void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record) {
   runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Create);
-  if (old_record.size() < RecordLength || old_record == new_record || !IsFilm(old_record)) return;
-  std::string entry = HeadOf(runtime::LocalTime(), slot).append(old_record);
+  if (old_record == new_record || !IsFilm(old_record)) return;
+  std::string entry = HistoryHead(runtime::LocalTime(), slot) + runtime::Fixed(old_record, RecordLength);
   auto size = static_cast<std::int64_t>(entry.size());
   history.Write(entry, history.Length() / size * size);  // a truncated entry is overwritten by the next
   history.Sync();
@@ -58,7 +63,7 @@ std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
     for (std::int64_t number = 1;; ++number) {
       if (history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) < EntryLength)
         return films;
-      std::string_view slot = std::string_view(entry).substr(SlotAt, SlotWidth);
+      std::string_view slot = runtime::Trim(std::string_view(entry).substr(StampWidth, SlotWidth));
       if (!IsSlot(slot)) continue;
       KeptFilm& kept = films.emplace_back();
       kept.Number = number;
@@ -73,7 +78,7 @@ std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
 }
 
 void PutBack(runtime::Files& files, const KeptFilm& kept) {
-  if (kept.Slot > files.Length(MasterFileName) / RecordLength)
+  if ((kept.Slot - 1) * RecordLength >= files.Length(MasterFileName))
     throw runtime::Failure{runtime::BadRecordNumber, std::string(MasterFileName)};
   OpenMaster(files, MasterNo);
   WriteRecord(files, MasterNo, kept.Slot, kept.Film);

@@ -1,9 +1,10 @@
 // Reads overwritten films and restores one.
 //
 // `.reelora/history` contains entries of one length, the newest last: a head of local time and slot, as in
-// "2026-11-21 05:30:00 0000007 ", and the record.
+// "2026-11-21 05:30:00 0000007 ", and the record. A slot of eight or nine digits also takes the blanks around it.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,7 +19,12 @@ namespace store {
 inline constexpr std::string_view HistoryFile = "history";
 inline constexpr int HistoryHeadLength = 28;
 
-// Appends the old record if it is a film (its title is not blank) and the new one differs. Synced on return.
+// The head of an entry, always of that length: years outside 0 to 9999 become the first or last moment of these. "Bad
+// record number" for a slot of more than nine digits.
+std::string HistoryHead(std::chrono::local_seconds when, std::int64_t slot);
+
+// Appends the old record, padded with blanks if it is cut off, if it is a film (its title is not blank) and the new one
+// differs. Synced on return.
 void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record);
 
 struct KeptFilm {

@@ -5,20 +5,20 @@
 
 #include "app/program.h"
 #include "filecopy/copy_file.h"
-#include "tests/filecopy/answering_desk.h"
-#include "tests/safety/films.h"
-#include "tests/safety/memory_disk.h"
-#include "tests/safety/passing_disk.h"
+#include "tests/kit/answering_desk.h"
+#include "tests/kit/films.h"
+#include "tests/kit/memory_disk.h"
+#include "tests/kit/passing_disk.h"
 
 namespace {
 
-using safety::Folder;
-using safety::MemoryDisk;
+using kit::Folder;
+using kit::MemoryDisk;
 
 const std::string Name = "Recpra.Dat";
 
 // The first calls of each of these kinds fail with the error.
-class EndFails final : public safety::PassingDisk {
+class EndFails final : public kit::PassingDisk {
  public:
   EndFails(runtime::Disk& below, int error) : PassingDisk(below), error_(error) {}
   int Rename(const std::string& from, const std::string& to) override {
@@ -43,7 +43,7 @@ TEST(EndOfACopy, RepeatsInterruptedCalls) {
 }
 
 TEST(EndOfACopy, LeavesNoTemporaryFileWhenItsRemovalIsInterrupted) {
-  class Refusing final : public safety::PassingDisk {
+  class Refusing final : public kit::PassingDisk {
    public:
     using PassingDisk::PassingDisk;
     int Rename(const std::string&, const std::string&) override { return -EACCES; }
@@ -66,8 +66,8 @@ TEST(EndOfACopy, IsUnconfirmedWhenTheFolderCannotBeSynced) {
 }
 
 TEST(EndOfACopy, AnUnconfirmedCopyIsNotReportedAsAMissingDisk) {
-  MemoryDisk hard(safety::FolderOfFilms(2)), floppy{Folder()};
-  AnsweringDesk desk;
+  MemoryDisk hard(kit::FolderOfFilms(2)), floppy{Folder()};
+  kit::AnsweringDesk desk;
   desk.Drives = {{'a', "floppy"}};
   Program program(desk, hard);
   program.Copy.DiskIn = [&](const std::string&) -> std::unique_ptr<runtime::Disk> {
