@@ -1,4 +1,4 @@
-// Whole numbers of a fixed width, 16 or 32 bits, which stop the program with "Overflow" where a value does not fit.
+// Bounds-checked integers of 16 or 32 bits: a value that does not fit throws Failure "Overflow".
 #pragma once
 
 #include <cstdint>
@@ -32,7 +32,7 @@ class CheckedInt {
 using Int16 = CheckedInt<std::int16_t>;
 using Int32 = CheckedInt<std::int32_t>;
 
-// The nearest whole number, ties to even; throws Failure Overflow where it does not fit.
+// The nearest whole number, ties to even; throws Failure Overflow if it does not fit.
 std::int16_t RoundToInt16(double value);
 std::int32_t RoundToInt32(double value);
 

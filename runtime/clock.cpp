@@ -1,4 +1,4 @@
-// The calendar of the standard library, in five layouts.
+// Five formats of date and time.
 #include "runtime/clock.h"
 
 #include <array>

@@ -7,7 +7,7 @@
 
 namespace runtime {
 
-// The local time of this machine: now, and at a moment in seconds since 1970, universal time.
+// Local time now, or at a Unix time.
 std::chrono::local_seconds LocalTime();
 std::chrono::local_seconds LocalTime(std::int64_t since_1970);
 
@@ -15,7 +15,7 @@ std::chrono::local_seconds LocalTime(std::int64_t since_1970);
 std::string DateText(std::chrono::local_seconds time);
 std::string TimeText(std::chrono::local_seconds time);
 std::string StampText(std::chrono::local_seconds time);
-// "Saturday, November 21, 2026" and "5:30 AM", in English whatever the desktop's language.
+// "Saturday, November 21, 2026" and "5:30 AM", always in English.
 std::string LongDateText(std::chrono::local_seconds time);
 std::string ShortTimeText(std::chrono::local_seconds time);
 

@@ -1,4 +1,4 @@
-// The code page's only irregular stretch, 0x80 to 0x9F, as a table; the rest is Latin-1.
+// A table for 0x80 to 0x9F; all other bytes are Latin-1.
 #include "runtime/code_page.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ constexpr std::array<char32_t, 32> Upper80 = {
 };
 // clang-format on
 
-// Takes one character off the front of a UTF-8 text; nothing where it is malformed.
+// Removes the first character of a UTF-8 text and returns it; nothing if it is malformed.
 std::optional<char32_t> TakeCharacter(std::string_view& utf8) {
   auto lead = static_cast<unsigned char>(utf8[0]);
   std::size_t length = lead < 0x80 ? 1 : lead >= 0xC2 && lead < 0xE0 ? 2 : lead >= 0xE0 && lead < 0xF0 ? 3 : 0;

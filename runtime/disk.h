@@ -1,5 +1,5 @@
-// The disk below the files by number: a folder, and the few calls that are made on it. Two disks exist: the real one,
-// and one of the tests that fails, cuts short or stops at a chosen call.
+// The disk below the numbered files: a folder and the few calls that the system makes on it. RealDisk is the real one;
+// tests have others that keep files in memory, fail, cut calls short or stop at a chosen call.
 #pragma once
 
 #include <cstddef>
@@ -12,13 +12,13 @@ namespace runtime {
 // Every call returns a negative system error number (-ENOENT, ...) on failure. Names are relative to the disk's folder.
 class Disk {
  public:
-  enum class Mode { Read, ReadWrite, Create };  // Create: for reading and writing, made empty when missing
+  enum class Mode { Read, ReadWrite, Create };  // Create: for reading and writing, created empty if missing
   virtual ~Disk() = default;
 
-  // A handle of 0 or more.
+  // Returns a handle of 0 or more.
   virtual int Open(const std::string& name, Mode mode) = 0;
   virtual void Close(int handle) = 0;
-  // Bytes read or written, which may be fewer than asked for; offsets and lengths in bytes.
+  // Return the bytes read or written, perhaps fewer than count. Offsets and lengths in bytes.
   virtual std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) = 0;
   virtual std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) = 0;
   virtual std::int64_t Length(int handle) = 0;
@@ -28,13 +28,13 @@ class Disk {
   // Replaces an existing target.
   virtual int Rename(const std::string& from, const std::string& to) = 0;
   virtual int Remove(const std::string& name) = 0;
-  // No failure when it is there already.
+  // Succeeds if it exists.
   virtual int MakeFolder(const std::string& name) = 0;
   // "" for the disk's own folder.
   virtual int SyncFolder(const std::string& name) = 0;
-  // The names in a folder, sorted; empty when there is none.
+  // The names in a folder, sorted; empty if it does not exist.
   virtual std::vector<std::string> List(const std::string& folder) = 0;
-  // When a file was changed last, in seconds since 1970, universal time; 0 on a disk that keeps no times.
+  // Time of the last change in seconds since 1970, UTC; 0 on a disk that keeps no times.
   virtual std::int64_t Modified(const std::string&) { return 0; }
 };
 

@@ -1,4 +1,4 @@
-// What the operating system's error numbers are called in the failure report.
+// Maps the operating system's error numbers to names.
 #include "runtime/failure.h"
 
 #include <cerrno>

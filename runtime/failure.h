@@ -1,4 +1,4 @@
-// The one failure type: thrown where a failure stops the program, caught only at the top and in the few guarded places.
+// The one failure type: thrown if a failure stops the program, caught only at the top and in a few guarded places.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace runtime {
 
-// The names under which the failure report knows them.
+// Names shown to the user.
 inline constexpr std::string_view Overflow = "Overflow";
 inline constexpr std::string_view FileNotFound = "File not found";
 inline constexpr std::string_view InputPastEnd = "Input past end of file";
@@ -19,13 +19,13 @@ inline constexpr std::string_view DeviceError = "Device I/O error";
 inline constexpr std::string_view PathError = "Path/File access error";
 inline constexpr std::string_view PrinterError = "Printer error";
 
-// Name: one of the names above. File: the file concerned, "" where there is none.
+// Name: one of the names above. File: the file concerned, or "".
 struct Failure {
   std::string_view Name;
   std::string File;
 };
 
-// The name for an error number of the operating system.
+// The name of an error number of the operating system.
 std::string_view NameOfSystemError(int system_error);
 
 }  // namespace runtime

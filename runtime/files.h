@@ -1,5 +1,5 @@
-// Files by number, 1 to 5, as the handlers know them. A failing call throws the Failure that names it and leaves the
-// files as they were.
+// Numbered files, 1 to 5, as the handlers use them. A call that fails throws a Failure that names the cause and the
+// file. The number keeps its file then, except that Close frees it.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// An advisory lock on the open file, so that it goes with the process, however that ends.
+// An advisory lock on the open file: released with the process, however it ends.
 #include "runtime/folder_lock.h"
 
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-// Holds a collection's folder for one run of the program.
+// Locks a collection's folder for one run of the program.
 #pragma once
 
 #include <string>
@@ -12,8 +12,8 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  // False where another run holds the folder. A folder in which no lock can be made counts as held by this run: its
-  // first write will name the failure.
+  // False if another run has locked the folder. If no lock can be made the folder counts as held; the first write
+  // reports the error.
   bool Held() const { return held_; }
 
  private:

@@ -1,4 +1,4 @@
-// A job for the printer: pages of styled text lines on a grid of character cells, with no toolkit.
+// A print job: pages of styled text lines on a grid of character cells, without a toolkit.
 #pragma once
 
 #include <cstdint>
@@ -7,26 +7,26 @@
 
 namespace runtime {
 
-// One style for the whole line, as small as its text allows: a job may hold a million of them.
+// One style for the whole line. Kept small: a job may have a million lines.
 struct PrintedLine {
-  // The cells from column From (from 1) on, one byte each; those that a Tab passed over hold blanks. An underline runs
-  // below exactly these cells.
+  // The cells from column From (from 1), one byte each; cells skipped by a Tab are blanks. An underline is below
+  // exactly these cells.
   std::string Text;
   std::uint16_t From = 1;
   bool Bold = false;
   bool Underline = false;
 
-  // The whole line from column 1, blanks at its end left out.
+  // The whole line from column 1, without trailing blanks.
   std::string PlainText() const;
 };
 
 struct PrintedPage {
-  // Up to the last line that holds text or was fed.
+  // Up to the last line printed or fed.
   std::vector<PrintedLine> Lines;
 };
 
 struct PrintJob {
-  // What the document is called in a queue or a folder.
+  // The name of the document in a queue or a folder.
   std::string Title;
   std::string FontName;
   int FontSize = 0;  // points

@@ -1,4 +1,4 @@
-// Lines are put together in one buffer and kept at their exact length.
+// Lines are built in one buffer and stored at their exact length.
 #include "runtime/printer.h"
 
 #include <utility>

@@ -1,5 +1,5 @@
-// The printer as the reports know it: a text surface on which a statement prints a line of items from column 1 of a new
-// line on. It keeps the job until the document is ended; a job that is left unended takes what is printed next.
+// A line printer: each Print writes one line. It keeps the job until the document is ended; lines of a job that is
+// never ended go into the next.
 #pragma once
 
 #include <cstdint>
@@ -13,33 +13,33 @@
 
 namespace runtime {
 
-// On to that column, from 1, of the line; to that column of the next line where the position stands past it already.
+// Moves to that column, from 1, or on the next line if already past it.
 struct Tab {
   int Column;
 };
-// A number with one blank where a minus sign would stand and one behind it.
+// A number, after a blank or its minus sign and before a blank.
 struct NumberItem {
   std::int64_t Value;
 };
-// A text prints as it stands.
+// A text prints unchanged.
 using PrintItem = std::variant<Tab, std::string_view, NumberItem>;
 
 class Printer {
  public:
-  // For the whole job, in points.
+  // Of the whole job, in points.
   void SetFont(std::string_view name, int size);
-  // For the lines from here on.
+  // Of the lines to come.
   void SetBold(bool bold) { bold_ = bold; }
   void SetUnderline(bool underline) { underline_ = underline; }
 
-  // One line, an empty one without items.
+  // Prints one line, empty without items.
   void Print(std::span<const PrintItem> items);
   void Print(std::initializer_list<PrintItem> items) { Print(std::span(items.begin(), items.size())); }
   void PrintEmpty() { Print({}); }
-  // One line on.
+  // Feeds one line.
   void CarriageReturn();
   void NewPage();
-  // The job, under that title; the next statement begins another one.
+  // Returns the job, under that title; the next Print starts another.
   PrintJob EndDocument(std::string_view title);
 
  private:
@@ -51,8 +51,8 @@ class Printer {
   PrintJob job_;
   bool bold_ = false;
   bool underline_ = false;
-  // The cells of the line at hand from column from_ on; 0 while it holds none. The position is the column that the next
-  // text begins at.
+  // The current line from column from_, which is 0 while the line is empty. The position is the column of the next
+  // text.
   std::string line_;
   int from_ = 0;
   int position_ = 1;

@@ -1,4 +1,4 @@
-// The real disk: the calls of the operating system, one for one.
+// The real disk: each call maps to one system call.
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -77,7 +77,7 @@ int RealDisk::SyncFolder(const std::string& name) {
   int handle = static_cast<int>(OrError(::open(PathOf(name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
   if (handle < 0) return handle;
   int result = SyncAndClose(handle);
-  return result == -EINVAL ? 0 : result;  // a file system that keeps its folders by itself refuses the call
+  return result == -EINVAL ? 0 : result;  // some file systems cannot sync folders and need not
 }
 
 std::int64_t RealDisk::Modified(const std::string& name) {

@@ -1,4 +1,4 @@
-// Trimming, padding, capitals and numbers of texts.
+// Trimming, padding, upper case and numbers.
 #include "runtime/text.h"
 
 #include <array>
@@ -27,7 +27,7 @@ constexpr std::array<char, 256> Capitals = [] {
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
-// How long the number at the front of the text is: a sign, digits, a decimal point; 0 without a digit.
+// Length of the number at the start of the text: a sign, digits, a decimal point; 0 without a digit.
 std::size_t NumberLength(std::string_view text) {
   std::size_t length = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
   bool point = false;
@@ -98,7 +98,7 @@ double NumericValue(std::string_view text) {
   if (!text.empty() && text[0] == '+') text.remove_prefix(1);
   double value = 0;
   auto error = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ec;
-  // Out of range are also the numbers that are too small to differ from 0.
+  // from_chars reports underflow as out of range too.
   bool huge = error == std::errc::result_out_of_range && text.find_first_of("123456789") < text.find('.');
   return huge ? std::copysign(HUGE_VAL, text[0] == '-' ? -1.0 : 1.0) : value;
 }

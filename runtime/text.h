@@ -1,4 +1,4 @@
-// Texts of the system: single bytes in Windows-1252, one byte a character and a column.
+// Windows-1252 strings: one byte, one column.
 #pragma once
 
 #include <cstddef>
@@ -8,32 +8,31 @@
 
 namespace runtime {
 
-// The text without the blanks at its two ends; a view into it.
+// A view of the text without leading and trailing blanks.
 std::string_view Trim(std::string_view text);
-// The text without the blanks at its front.
+// A view of the text without leading blanks.
 std::string_view TrimFront(std::string_view text);
 
-// Cut at width, or padded with blanks on the right to it.
+// Cut at width, or padded on the right with blanks.
 std::string Fixed(std::string_view text, std::size_t width);
 
-// Capital letters, A-Z and the accented ones of the code page.
+// Upper case, accented letters of the code page included.
 char Upper(char character);
 std::string Upper(std::string_view text);
 
-// Where sought begins in text, from 1; 0 when absent, 1 for an empty sought text.
+// Position of sought, from 1; 0 if absent, 1 if sought is empty.
 std::size_t Position(std::string_view text, std::string_view sought);
 
-// The same in the capitals of a text; the sought text is in capitals already.
+// The same, ignoring case; capitals in upper case.
 std::size_t PositionOfCapitals(std::string_view text, std::string_view capitals);
 
-// The decimal text with one leading blank where a minus sign would stand: " 5", "-5".
+// The decimal text after a blank or its minus sign: " 5", "-5".
 std::string NumberText(std::int64_t number);
 
-// Leading blanks, then a sign, digits and a decimal point as far as they go; 0 for a text without.
+// The number at the start of the text, after blanks: a sign, digits, a decimal point; 0 if none.
 double NumericValue(std::string_view text);
 
-// The value of a text that must be a number as a whole; throws Failure "Type mismatch", naming the file, where it is
-// none and "Overflow" where it does not fit 32 bits.
+// The text must be exactly a number, else Failure "Type mismatch", or "Overflow" past 32 bits, names the file.
 std::int32_t WholeNumber(std::string_view text, std::string_view file);
 
 }  // namespace runtime

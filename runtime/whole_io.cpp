@@ -1,4 +1,4 @@
-// Whole reads and writes, and the replacement of whole files.
+// Complete reads and writes, and the replacement of whole files.
 #include "runtime/whole_io.h"
 
 namespace runtime {

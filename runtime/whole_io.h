@@ -1,4 +1,4 @@
-// Reads and writes that go on until all of it is done; a failure throws the Failure that names it and the file.
+// Complete reads and writes; partial ones are continued. A failed call throws the Failure that names it and the file.
 #pragma once
 
 #include <cerrno>
@@ -12,15 +12,15 @@
 
 namespace runtime {
 
-// Everything that the safety of the files needs lies in this folder of the collection.
+// Folder for journal, history, lock and temporary files, in the collection.
 inline constexpr std::string_view SafetyFolder = ".reelora";
 std::string InSafetyFolder(std::string_view name);
 
-// The result, or the Failure of its error number.
+// Returns the result or throws the Failure of its error number.
 std::int64_t Checked(std::int64_t result, std::string_view file);
 
-// Makes a call of the disk, once more where a signal cut it short before it had done anything; the result, or the
-// Failure of its error number. Every call but Close, Remove and List goes through here.
+// Calls the disk, repeated while a signal interrupts it; returns the result or throws the Failure of its error number.
+// Every call but Close, Remove and List goes through here.
 template <typename Call>
 std::int64_t RetryInterrupted(std::string_view file, Call call) {
   std::int64_t result = 0;
@@ -33,7 +33,7 @@ std::int64_t RetryInterrupted(std::string_view file, Call call) {
 // An open handle that closes itself.
 class OpenFile {
  public:
-  // Throws where the file cannot be opened.
+  // Throws if the file cannot be opened.
   OpenFile(Disk& disk, std::string name, Disk::Mode mode);
   OpenFile(OpenFile&& other) noexcept;
   OpenFile& operator=(OpenFile&&) = delete;
@@ -41,11 +41,11 @@ class OpenFile {
 
   const std::string& Name() const { return name_; }
   std::int64_t Length() const;
-  // Bytes delivered: count, or fewer where the file ends.
+  // Returns the bytes read: count, or fewer at the end of the file.
   std::size_t Read(char* target, std::size_t count, std::int64_t offset) const;
   void Write(std::string_view bytes, std::int64_t offset) const;
   void Truncate(std::int64_t length) const;
-  // A sync that has failed is never tried again: it could report success for bytes that the disk has dropped.
+  // A failed sync is never repeated: the second may report success for lost data.
   void Sync() const;
 
  private:
@@ -54,22 +54,22 @@ class OpenFile {
   int handle_;
 };
 
-// Makes the safety folder; throws where it cannot be made.
+// Makes the safety folder; throws if it cannot be made.
 void MakeSafetyFolder(Disk& disk);
-// What was made, replaced or renamed in the safety folder and in the collection's own stays; file: whose failure it is.
+// Makes name changes in both folders durable; file: named in a Failure.
 void SyncFolders(Disk& disk, std::string_view file);
 
-// Writes a whole file aside, synced, and puts it in the place of the named one; a stop at any moment leaves the old
-// file or the new one.
+// Writes a whole file to a temporary one, syncs it and puts it in place of the named one; a stop at any moment leaves
+// the old file or the new one.
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);
-// Puts a complete, synced file of the safety folder in the place of the named one.
+// Puts a complete, synced file of the safety folder in place of the named one.
 void TakePlace(Disk& disk, std::string_view aside, std::string_view name);
 // Removes a temporary file; a failure is ignored, since the file does no harm.
 void Discard(Disk& disk, const std::string& name);
 // Discards what a stop left in the safety folder.
 void RemoveLeftovers(Disk& disk);
 
-// The ending of files that are only on their way.
+// Suffix of temporary files.
 inline constexpr std::string_view AsideEnding = ".new";
 
 }  // namespace runtime

@@ -1,4 +1,4 @@
-// A film as the master file keeps it: 32 texts of fixed width and a line end, 649 bytes.
+// A film in the master file: 32 texts of fixed width and a line end, 649 bytes.
 #pragma once
 
 #include <array>
@@ -71,7 +71,7 @@ static_assert(
       }
       return offset == RecordLength;
     }(),
-    "the fields stand in order, without a gap, and fill the record");
+    "the fields are in order, without gaps, and fill the record");
 
 constexpr const FilmFieldRow& RowOf(FilmField field) { return FilmFields[static_cast<std::size_t>(field)]; }
 
@@ -79,14 +79,14 @@ struct FilmRecord {
   std::array<char, RecordLength> Bytes;
 
   FilmRecord() { Clear(); }
-  // Blanks throughout, the tail too.
+  // All blanks, the tail too.
   void Clear() { Bytes.fill(' '); }
 
   // The whole field, padding included.
   std::string_view Get(FilmField field) const {
     return {Bytes.data() + RowOf(field).Offset, static_cast<std::size_t>(RowOf(field).Width)};
   }
-  // The text cut at the field's width or padded with blanks to it; it may lie in the record itself.
+  // Cuts the text at the field's width or pads it with blanks; text may point into this record.
   void Set(FilmField field, std::string_view text) {
     auto width = static_cast<std::size_t>(RowOf(field).Width);
     char* target = Bytes.data() + RowOf(field).Offset;

@@ -1,4 +1,4 @@
-// The master file: one record of 649 bytes for each film, at a number that never changes.
+// The master file: one record of 649 bytes for each film, whose number never changes.
 #pragma once
 
 #include <cstdint>

@@ -115,7 +115,7 @@ TEST_F(HistoryCommand, NamesAnEntryAFolderAndASlotThatAreNotThere) {
   EXPECT_EQ(Complaints.str(), "There is no entry 2.\n");
   EXPECT_EQ(RunBare({"/nowhere", "undo", "1"}), 1);
   EXPECT_EQ(Complaints.str(), "File not found: /nowhere/Recpra.Dat\n");
-  std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", 2 * store::RecordLength - 1);
+  std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", store::RecordLength);
   EXPECT_EQ(Run({"undo", "1"}), 1);
   EXPECT_EQ(Complaints.str(), "Bad record number: " + Folder.Path().string() + "/Recpra.Dat\n");
 }
