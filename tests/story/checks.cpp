@@ -145,7 +145,7 @@ void SeeProperty(const Program& program, const Line& line) {
     value = property->second(ThingNamed(program, line, std::string_view(name).substr(0, dot)));
   }
   if (!value) throw Difference{line.Number, Differs("a control that has that property", name)};
-  auto shown = [](std::string notation) { return notation.empty() ? "no items" : notation; };
+  auto shown = [](const std::string& notation) { return notation.empty() ? std::string("no items") : notation; };
   Compare(line, shown(ValuesOf(line)), shown(*value));
 }
 

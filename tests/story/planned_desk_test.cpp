@@ -17,6 +17,7 @@ class PlannedDeskTest : public testing::Test {
   // An action on line 10, its effects on the lines below it.
   void Plan(const std::vector<std::string>& effects) {
     std::vector<Line> lines;
+    lines.reserve(effects.size());
     for (const std::string& effect : effects) lines.push_back(ParseLine(effect, static_cast<int>(11 + lines.size())));
     desk.Plan(10, std::move(lines));
   }
