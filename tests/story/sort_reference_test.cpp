@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
+
 namespace story {
 namespace {
 
-std::string Film(std::string title, char format) {
+std::string Film(std::string_view title, char format) {
   std::string record(647, ' ');
   record.replace(0, title.size(), title);
   record[265] = format;
