@@ -107,8 +107,8 @@ const std::map<std::string_view, Property> Properties = {
      }},
 };
 
-void Compare(const Line& line, std::string_view expected, std::string_view came) {
-  if (expected != came) throw Difference{line.Number, Differs(expected, came)};
+void Compare(const Line& line, std::string_view expected, std::string_view got) {
+  if (expected != got) throw Difference{line.Number, Differs(expected, got)};
 }
 
 std::optional<Thing> FindThing(const Program& program, std::string_view name) {
@@ -171,7 +171,7 @@ void SeeState(const Program& program, const Line& line) {
 
 void Check(const Scene& scene, const Line& line) {
   if (CheckFiles(scene, line)) return;
-  if (!scene.Running) throw Difference{line.Number, "expected the program to be running, came a line before its start"};
+  if (!scene.Running) throw Difference{line.Number, "expected the program to be running, got a line before its start"};
   if (line.Text(0) == "focus") {
     SeeFocus(*scene.Running, line);
   } else if (line.Text(0) == "state") {

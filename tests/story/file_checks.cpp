@@ -19,8 +19,8 @@ constexpr std::size_t NumberBytes = 7;
 
 std::string_view WithoutBlanks(std::string_view text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
 
-void Compare(const Line& line, std::string_view expected, std::string_view came) {
-  if (expected != came) throw Difference{line.Number, Differs(expected, came)};
+void Compare(const Line& line, std::string_view expected, std::string_view got) {
+  if (expected != got) throw Difference{line.Number, Differs(expected, got)};
 }
 
 std::string BytesOf(const Line& line, const fs::path& path) {
@@ -68,12 +68,12 @@ void SeeFile(const Scene& scene, const Line& line) {
 // Two files, byte for byte; a difference names the first byte that differs, from 0, and both lengths.
 void SeeSameBytes(const Line& line, const fs::path& wanted_path, const fs::path& path) {
   std::string wanted = BytesOf(line, wanted_path);
-  std::string came = BytesOf(line, path);
-  if (wanted == came) return;
-  auto at = std::mismatch(wanted.begin(), wanted.end(), came.begin(), came.end()).first - wanted.begin();
+  std::string got = BytesOf(line, path);
+  if (wanted == got) return;
+  auto at = std::mismatch(wanted.begin(), wanted.end(), got.begin(), got.end()).first - wanted.begin();
   throw Difference{line.Number,
                    Differs("the " + std::to_string(wanted.size()) + " bytes of " + wanted_path.string(),
-                           std::to_string(came.size()) + " bytes that differ from byte " + std::to_string(at) + " on")};
+                           std::to_string(got.size()) + " bytes that differ from byte " + std::to_string(at) + " on")};
 }
 
 void SeeSame(const Scene& scene, const Line& line) {

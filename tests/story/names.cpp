@@ -21,7 +21,7 @@ constexpr std::pair<std::string_view, forms::Key> Keys[] = {
 constexpr std::string_view Alt = "Alt+";
 
 [[noreturn]] void Fail(std::string_view kind, std::string_view name) {
-  throw Unplayable{"expected a " + std::string(kind) + ", came " + runtime::ToUtf8(name)};
+  throw Unplayable{"expected a " + std::string(kind) + ", got " + runtime::ToUtf8(name)};
 }
 
 }  // namespace

@@ -11,20 +11,20 @@ namespace {
 
 using Form = Argument::Form;
 
-Line Came(std::string verb, std::vector<Argument> arguments = {}) {
+Line Event(std::string verb, std::vector<Argument> arguments = {}) {
   return {0, Role::Effect, std::move(verb), std::move(arguments)};
 }
 
 Argument Word(std::string text) { return {Form::Word, std::move(text)}; }
 Argument Text(std::string_view text) { return {Form::Text, std::string(text)}; }
 
-// A planned line may say ANY for a text; behind what came, it may go on with the answer.
-bool Equals(const Line& planned, const Line& came) {
-  if (planned.Verb != came.Verb || planned.Arguments.size() < came.Arguments.size()) return false;
-  for (std::size_t index = 0; index < came.Arguments.size(); ++index) {
+// A planned line may say ANY for a text; the answer may follow.
+bool Equals(const Line& planned, const Line& got) {
+  if (planned.Verb != got.Verb || planned.Arguments.size() < got.Arguments.size()) return false;
+  for (std::size_t index = 0; index < got.Arguments.size(); ++index) {
     const Argument& wanted = planned.Arguments[index];
-    bool any = wanted.Is("ANY") && came.Arguments[index].As == Form::Text;
-    if (!any && wanted != came.Arguments[index]) return false;
+    bool any = wanted.Is("ANY") && got.Arguments[index].As == Form::Text;
+    if (!any && wanted != got.Arguments[index]) return false;
   }
   return true;
 }
@@ -64,13 +64,13 @@ void PlannedDesk::Note(int line, std::string what) {
   planned_.clear();
 }
 
-std::optional<Line> PlannedDesk::Take(const Line& came, std::string_view remark) {
-  std::string shown = came.Notation() + std::string(remark);
+std::optional<Line> PlannedDesk::Take(const Line& got, std::string_view remark) {
+  std::string shown = got.Notation() + std::string(remark);
   if (planned_.empty()) {
     Note(action_line_, Differs("nothing more", shown));
     return std::nullopt;
   }
-  if (!Equals(planned_.front(), came)) {
+  if (!Equals(planned_.front(), got)) {
     Note(planned_.front().Number, Differs(planned_.front().Notation(), shown));
     return std::nullopt;
   }
@@ -83,7 +83,7 @@ forms::Answer PlannedDesk::AskMessageBox(forms::Icon icon, std::string_view titl
                                          forms::Buttons buttons) {
   bool ok_only = buttons == forms::Buttons::Ok;
   forms::Answer harmless = ok_only ? forms::Answer::Ok : forms::Answer::No;
-  std::optional<Line> line = Take(Came("box", {Word(std::string(NameOf(icon))), Text(title), Text(text)}),
+  std::optional<Line> line = Take(Event("box", {Word(std::string(NameOf(icon))), Text(title), Text(text)}),
                                   ok_only ? " with OK" : " with Yes and No");
   if (!line) return harmless;
   std::optional<forms::Answer> answer = AnswerOf(line->Text(3), buttons);
@@ -92,18 +92,18 @@ forms::Answer PlannedDesk::AskMessageBox(forms::Icon icon, std::string_view titl
 }
 
 std::string PlannedDesk::InputBox(std::string_view title, std::string_view prompt) {
-  std::optional<Line> line = Take(Came("input", {Text(title), Text(prompt)}));
+  std::optional<Line> line = Take(Event("input", {Text(title), Text(prompt)}));
   if (!line) return "";
   if (line->Arguments[2].As == Form::Text) return line->Text(2);
   if (!line->Arguments[2].Is("cancel")) Note(line->Number, Differs("an answer in quotes or cancel", line->Text(2)));
   return "";
 }
 
-void PlannedDesk::Beep() { Take(Came("beep")); }
+void PlannedDesk::Beep() { Take(Event("beep")); }
 
 std::optional<std::uint32_t> PlannedDesk::ColourDialog(std::uint32_t start) {
   static_cast<void>(start);
-  std::optional<Line> line = Take(Came("colour"));
+  std::optional<Line> line = Take(Event("colour"));
   if (!line || line->Arguments[0].Is("cancel")) return std::nullopt;
   if (line->Text(0).find_first_not_of("0123456789") != std::string::npos || line->Text(0).size() > 8) {
     Note(line->Number, Differs("a colour or cancel", line->Text(0)));
@@ -112,14 +112,14 @@ std::optional<std::uint32_t> PlannedDesk::ColourDialog(std::uint32_t start) {
   return static_cast<std::uint32_t>(line->Number32(0));
 }
 
-void PlannedDesk::PrinterDialog() { Take(Came("printer-setup")); }
+void PlannedDesk::PrinterDialog() { Take(Event("printer-setup")); }
 
 void PlannedDesk::Print(const runtime::PrintJob& job) {
   world_.Document = job;
-  Take(Came("printed", {Word(std::to_string(job.Pages.size()))}));
+  Take(Event("printed", {Word(std::to_string(job.Pages.size()))}));
 }
 
-void PlannedDesk::Help(int topic) { Take(Came("help", {Word(topic == 0 ? "contents" : std::to_string(topic))})); }
+void PlannedDesk::Help(int topic) { Take(Event("help", {Word(topic == 0 ? "contents" : std::to_string(topic))})); }
 
 std::chrono::local_seconds PlannedDesk::Now() { return world_.Clock.value_or(runtime::LocalTime()); }
 
@@ -135,10 +135,10 @@ std::optional<std::string> PlannedDesk::DriveFolder(char letter) {
   return drive->second->string();
 }
 
-void PlannedDesk::Closed() { Take(Came("end")); }
+void PlannedDesk::Closed() { Take(Event("end")); }
 
 void PlannedDesk::FailureReport(std::string_view failure, std::string_view file) {
-  Take(Came("stop", {Text(failure)}), file.empty() ? "" : " for " + std::string(file));
+  Take(Event("stop", {Text(failure)}), file.empty() ? "" : " for " + std::string(file));
 }
 
 }  // namespace story

@@ -43,8 +43,8 @@ class PlannedDesk final : public forms::Desk {
                               forms::Buttons buttons) override;
 
  private:
-  // The planned line of an effect that came, without its answer; nothing where another one was due.
-  std::optional<Line> Take(const Line& came, std::string_view remark = "");
+  // The planned line of an effect; nothing if another one was due.
+  std::optional<Line> Take(const Line& got, std::string_view remark = "");
   void Note(int line, std::string what);
 
   World& world_;

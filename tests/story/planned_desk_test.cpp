@@ -49,20 +49,20 @@ TEST_F(PlannedDeskTest, TakesAnyTextAndTitleWhereThePlanDoes) {
 TEST_F(PlannedDeskTest, NotesABoxThatIsNotPlanned) {
   Plan({});
   EXPECT_EQ(desk.MessageBox(Icon::Question, "T", "Sure?", Buttons::YesNo), Answer::No);
-  EXPECT_EQ(Outcome(), "10: expected nothing more, came box question \"T\" \"Sure?\" with Yes and No");
+  EXPECT_EQ(Outcome(), "10: expected nothing more, got box question \"T\" \"Sure?\" with Yes and No");
 }
 
 TEST_F(PlannedDeskTest, NotesAnEffectThatDoesNotCome) {
   Plan({"beep", "box none \"\" \"text\" OK"});
   desk.Beep();
-  EXPECT_EQ(Outcome(), "12: expected box none \"\" \"text\" OK, came nothing");
+  EXPECT_EQ(Outcome(), "12: expected box none \"\" \"text\" OK, got nothing");
 }
 
 TEST_F(PlannedDeskTest, NotesEffectsInAnotherOrder) {
   Plan({"beep", "box none \"\" \"text\" OK"});
   desk.MessageBox(Icon::None, "", "text");
   desk.Beep();
-  EXPECT_EQ(Outcome(), "11: expected beep, came box none \"\" \"text\" with OK");
+  EXPECT_EQ(Outcome(), "11: expected beep, got box none \"\" \"text\" with OK");
 }
 
 TEST_F(PlannedDeskTest, ComparesIconTitleAndTextExactly) {
@@ -78,7 +78,7 @@ TEST_F(PlannedDeskTest, ComparesIconTitleAndTextExactly) {
 TEST_F(PlannedDeskTest, NotesAButtonThatTheBoxDoesNotHave) {
   Plan({"box none \"\" \"text\" Yes"});
   EXPECT_EQ(desk.MessageBox(Icon::None, "", "text"), Answer::Ok);
-  EXPECT_EQ(Outcome(), "11: expected the button Yes, came OK alone");
+  EXPECT_EQ(Outcome(), "11: expected the button Yes, got OK alone");
 }
 
 TEST_F(PlannedDeskTest, KeepsTheFirstDifferenceAndAnswersHarmlesslyAfterIt) {
@@ -86,7 +86,7 @@ TEST_F(PlannedDeskTest, KeepsTheFirstDifferenceAndAnswersHarmlesslyAfterIt) {
   EXPECT_EQ(desk.InputBox("", "Which?"), "");
   EXPECT_EQ(desk.ColourDialog(0), std::nullopt);
   desk.Beep();
-  EXPECT_EQ(Outcome(), "11: expected beep, came input \"\" \"Which?\"");
+  EXPECT_EQ(Outcome(), "11: expected beep, got input \"\" \"Which?\"");
 }
 
 TEST_F(PlannedDeskTest, AnswersInputBoxes) {
@@ -115,7 +115,7 @@ TEST_F(PlannedDeskTest, TakesHelpPrinterDialogEndAndStop) {
 TEST_F(PlannedDeskTest, NamesTheFileOfAStopThatIsNotPlanned) {
   Plan({"stop \"Overflow\""});
   desk.FailureReport("File not found", "Last");
-  EXPECT_EQ(Outcome(), "11: expected stop \"Overflow\", came stop \"File not found\" for Last");
+  EXPECT_EQ(Outcome(), "11: expected stop \"Overflow\", got stop \"File not found\" for Last");
 }
 
 TEST_F(PlannedDeskTest, KeepsTheLastDocument) {
@@ -131,7 +131,7 @@ TEST_F(PlannedDeskTest, KeepsTheLastDocument) {
 TEST_F(PlannedDeskTest, NotesAnotherNumberOfPages) {
   Plan({"printed 2"});
   desk.Print({});
-  EXPECT_EQ(Outcome(), "11: expected printed 2, came printed 0");
+  EXPECT_EQ(Outcome(), "11: expected printed 2, got printed 0");
 }
 
 TEST_F(PlannedDeskTest, ShowsTheDrivesAndTheClockOfTheStory) {

@@ -90,7 +90,7 @@ void PlayFilms(World& world, const Line& line, const fs::path&) {
 
 void PlaySorted(World& world, const Line& line, const fs::path&) {
   std::string weights = BytesOf(world, WeightsFile);
-  if (weights.size() != 256) throw Difference{line.Number, "expected the 256 weights of UPPER.ALT, came another file"};
+  if (weights.size() != 256) throw Difference{line.Number, "expected the 256 weights of UPPER.ALT, got another file"};
   for (const SortedPair& pair : SortedPairs(BytesOf(world, MasterFile), weights)) {
     WriteBytes(world.Folder / pair.KeyFile, pair.KeyBytes);
     WriteBytes(world.Folder / pair.CountFile, pair.CountBytes);

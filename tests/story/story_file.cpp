@@ -1,4 +1,4 @@
-// Splitting a line into its arguments, and turning a line back into its notation.
+// Splits a line into its arguments and turns it back into its notation.
 #include "tests/story/story_file.h"
 
 #include <array>
@@ -7,14 +7,18 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <utility>
 
 #include "runtime/code_page.h"
+#include "tests/story/story_table.h"
 #include "tests/story/verbs.h"
 
 namespace story {
 namespace {
 
 constexpr std::string_view Blanks = " \t";
+// Between a line and the one that continues it.
+constexpr char Continuation = '\n';
 
 // Takes arguments off the front of a line in the system's code page.
 class Scanner {
@@ -23,11 +27,30 @@ class Scanner {
 
   bool AtEnd() const { return rest_.empty(); }
   Argument Take() {
+    Argument argument = TakeArgument();
+    PassBlanks();
+    while (rest_.starts_with(Continuation)) {
+      rest_.remove_prefix(1);
+      if (AtEnd()) Fail("expected more of the line after +");
+      if (rest_[0] != '"') break;
+      if (argument.As == Argument::Form::Word) Fail("expected a text above the text that continues it");
+      argument.Text += TakeQuoted();
+      PassBlanks();
+    }
+    return argument;
+  }
+
+ private:
+  [[noreturn]] void Fail(std::string what) const { throw Difference{number_, std::move(what)}; }
+
+  void PassBlanks() { rest_.remove_prefix(std::min(rest_.find_first_not_of(Blanks), rest_.size())); }
+
+  Argument TakeArgument() {
     Argument argument;
     if (rest_[0] == '"') {
       argument = {Argument::Form::Text, TakeQuoted()};
     } else {
-      std::size_t length = std::min(rest_.find_first_of(" \t\""), rest_.size());
+      std::size_t length = std::min(rest_.find_first_of(" \t\"\n"), rest_.size());
       std::string_view word = rest_.substr(0, length);
       rest_.remove_prefix(length);
       bool is_field = word.size() > 1 && word.ends_with('=') && rest_.starts_with('"');
@@ -38,19 +61,11 @@ class Scanner {
         argument = {Argument::Form::Word, std::string(word)};
       }
     }
-    if (!rest_.empty() && Blanks.find(rest_[0]) == std::string_view::npos)
-      Fail("expected a blank after the closing quote");
-    PassBlanks();
     return argument;
   }
 
- private:
-  [[noreturn]] void Fail(std::string what) const { throw Difference{number_, std::move(what)}; }
-
-  void PassBlanks() { rest_.remove_prefix(std::min(rest_.find_first_not_of(Blanks), rest_.size())); }
-
   char TakeCharacter() {
-    if (rest_.empty()) Fail("expected a closing quote, came the end of the line");
+    if (rest_.empty() || rest_[0] == Continuation) Fail("expected a closing quote, got the end of the line");
     char character = rest_[0];
     rest_.remove_prefix(1);
     return character;
@@ -62,6 +77,8 @@ class Scanner {
     for (char character = TakeCharacter(); character != '"'; character = TakeCharacter()) {
       text += character == '\\' ? TakeEscape() : character;
     }
+    if (!rest_.empty() && rest_[0] != Continuation && Blanks.find(rest_[0]) == std::string_view::npos)
+      Fail("expected a blank after the closing quote");
     return text;
   }
 
@@ -77,7 +94,7 @@ class Scanner {
       case 'x':
         return TakeHexadecimal();
       default:
-        Fail(std::string("expected one of the escapes \\\" \\\\ \\n \\r \\xHH, came \\") + letter);
+        Fail(std::string("expected one of the escapes \\\" \\\\ \\n \\r \\xHH, got \\") + letter);
     }
   }
 
@@ -95,10 +112,46 @@ class Scanner {
   int number_;
 };
 
+// A line as its words and texts, not yet checked against the verbs.
+Line Scanned(std::string_view utf8, int number) {
+  std::optional<std::string> text = runtime::FromUtf8(utf8);
+  if (!text) throw Difference{number, Differs("UTF-8 text of the system's code page", "another character")};
+  Scanner scanner(*text, number);
+  Line line;
+  line.Number = number;
+  Argument verb = scanner.Take();
+  if (verb.As != Argument::Form::Word) throw Difference{number, Differs("a verb", Notation(verb))};
+  line.Verb = verb.Text;
+  while (!scanner.AtEnd()) line.Arguments.push_back(scanner.Take());
+  return line;
+}
+
+// Every line with its number, without blank lines and comments; a line that begins with + is put after the line that it
+// continues.
+std::vector<std::pair<int, std::string>> WholeLines(std::string_view utf8) {
+  std::vector<std::pair<int, std::string>> lines;
+  for (int number = 1; !utf8.empty(); ++number) {
+    std::string_view line = utf8.substr(0, utf8.find('\n'));
+    utf8.remove_prefix(std::min(line.size() + 1, utf8.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    line.remove_prefix(std::min(line.find_first_not_of(Blanks), line.size()));
+    if (line.empty() || line[0] == '#') continue;
+    if (line[0] != '+') {
+      lines.emplace_back(number, line);
+      continue;
+    }
+    if (lines.empty()) throw Difference{number, Differs("a line above the one that continues it", line)};
+    line.remove_prefix(1);
+    line.remove_prefix(std::min(line.find_first_not_of(Blanks), line.size()));
+    (lines.back().second += Continuation) += line;
+  }
+  return lines;
+}
+
 }  // namespace
 
-std::string Differs(std::string_view expected, std::string_view came) {
-  return "expected " + std::string(expected) + ", came " + std::string(came);
+std::string Differs(std::string_view expected, std::string_view got) {
+  return "expected " + std::string(expected) + ", got " + std::string(got);
 }
 
 int Line::Number32(std::size_t index) const {
@@ -141,37 +194,31 @@ std::string Line::Notation() const {
 }
 
 Line ParseLine(std::string_view utf8, int number) {
-  std::optional<std::string> text = runtime::FromUtf8(utf8);
-  if (!text) throw Difference{number, "expected UTF-8 text of the system's code page, came another character"};
-  Scanner scanner(*text, number);
-  Line line;
-  line.Number = number;
-  Argument verb = scanner.Take();
-  if (verb.As != Argument::Form::Word) throw Difference{number, Differs("a verb", Notation(verb))};
-  line.Verb = verb.Text;
-  while (!scanner.AtEnd()) line.Arguments.push_back(scanner.Take());
+  Line line = Scanned(utf8, number);
   line.As = RoleOf(line);
   return line;
 }
 
-std::vector<Line> ParseStory(std::string_view utf8) {
+std::vector<Story> ParseStories(std::string_view utf8) {
   std::vector<Line> lines;
-  for (int number = 1; !utf8.empty(); ++number) {
-    std::string_view line = utf8.substr(0, utf8.find('\n'));
-    utf8.remove_prefix(std::min(line.size() + 1, utf8.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    std::size_t first = line.find_first_not_of(Blanks);
-    if (first == std::string_view::npos || line[first] == '#') continue;
-    lines.push_back(ParseLine(line, number));
+  for (const auto& [number, text] : WholeLines(utf8)) lines.push_back(Scanned(text, number));
+  std::vector<Story> stories = ExpandTable(std::move(lines));
+  for (Story& one : stories) {
+    try {
+      for (Line& line : one.Lines) line.As = RoleOf(line);
+    } catch (Difference& difference) {
+      difference.Row = one.Row;
+      throw;
+    }
   }
-  return lines;
+  return stories;
 }
 
-std::vector<Line> ReadStory(const std::filesystem::path& path) {
+std::vector<Story> ReadStories(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (!file) throw Difference{0, "expected a story, came no file that can be read"};
-  return ParseStory(text);
+  if (!file) throw Difference{0, Differs("a story", "no file that can be read")};
+  return ParseStories(text);
 }
 
 }  // namespace story

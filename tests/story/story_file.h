@@ -1,4 +1,4 @@
-// A story as lines of a verb and its arguments, taken from a text file and checked against the table of verbs. A line
+// A story as lines of a verb and its arguments, read from a text file and checked against the table of verbs. A line
 // turns back into the same notation, for messages.
 #pragma once
 
@@ -10,14 +10,15 @@
 
 namespace story {
 
-// What differs in a story, thrown and kept; Line from 1, 0 for the file as a whole.
+// A mismatch, thrown and kept; Line from 1, 0 for the whole file. Row: the row of the file's table, "" without one.
 struct Difference {
   int Line = 0;
   std::string What;
+  std::string Row = {};
 };
 
-// "expected ..., came ...".
-std::string Differs(std::string_view expected, std::string_view came);
+// "expected ..., got ...".
+std::string Differs(std::string_view expected, std::string_view got);
 
 enum class Role { SetUp, Action, Effect, Check };
 
@@ -38,7 +39,7 @@ struct Line {
   std::vector<Argument> Arguments;
 
   const std::string& Text(std::size_t index) const { return Arguments.at(index).Text; }
-  // The value of a number argument; throws Difference where it does not fit 32 bits.
+  // The value of a number argument; throws Difference if it does not fit 32 bits.
   int Number32(std::size_t index) const;
   // The line as a story writes it, in UTF-8.
   std::string Notation() const;
@@ -48,12 +49,18 @@ struct Line {
 std::string Quoted(std::string_view text);
 std::string Notation(const Argument& argument);
 
-// One line of UTF-8, which is neither blank nor a comment; throws Difference for a syntax or a verb that there is not.
+// One line of UTF-8, neither blank nor a comment; throws Difference for a syntax error or an unknown verb.
 Line ParseLine(std::string_view utf8, int number);
 
-// All lines of a file but blank ones and comments; throws Difference as ParseLine does, or where the file cannot be
-// read.
-std::vector<Line> ReadStory(const std::filesystem::path& path);
-std::vector<Line> ParseStory(std::string_view utf8);
+// One story of a file. Row: its name in UTF-8, "" if the file has no table.
+struct Story {
+  std::string Row;
+  std::vector<Line> Lines;
+};
+
+// The stories of a file: one, or one for each row of its table. Throws Difference as ParseLine and ExpandTable do, or
+// if the file cannot be read.
+std::vector<Story> ReadStories(const std::filesystem::path& path);
+std::vector<Story> ParseStories(std::string_view utf8);
 
 }  // namespace story

@@ -1,4 +1,4 @@
-// Collects the stories, plays them one after the other and counts.
+// Finds the stories, plays them one after the other and counts.
 #include "tests/story/story_main.h"
 
 #include <algorithm>
@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -52,6 +53,12 @@ std::vector<fs::path> StoriesOf(const fs::path& path) {
   return stories;
 }
 
+// FILE:LINE: what differed, or FILE:LINE [ROW]: what differed.
+std::string Report(const fs::path& path, const Difference& difference) {
+  std::string row = difference.Row.empty() ? "" : " [" + difference.Row + "]";
+  return path.string() + ":" + std::to_string(difference.Line) + row + ": " + difference.What;
+}
+
 }  // namespace
 
 int RunStories(int argc, char** argv, const PlayerFactory& widget_factory) {
@@ -70,10 +77,10 @@ int RunStories(int argc, char** argv, const PlayerFactory& widget_factory) {
       ++failed;
     }
     for (const fs::path& story_path : stories) {
-      std::optional<Difference> difference = PlayStory(story_path, command->Options);
-      ++(difference ? failed : passed);
-      if (difference)
-        std::cout << story_path.string() << ":" << difference->Line << ": " << difference->What << std::endl;
+      for (const std::optional<Difference>& difference : PlayFile(story_path, command->Options)) {
+        ++(difference ? failed : passed);
+        if (difference) std::cout << Report(story_path, *difference) << std::endl;
+      }
     }
   }
   std::cout << passed << " passed, " << failed << " failed" << std::endl;

@@ -146,6 +146,10 @@ class Performance {
   std::unique_ptr<ProgramRun> run_;
 };
 
+std::string NameOf(const fs::path& path, const std::string& row) {
+  return row.empty() ? path.string() : path.string() + " [" + row + "]";
+}
+
 }  // namespace
 
 std::optional<Difference> PlayLines(const std::vector<Line>& lines, const fs::path& folder,
@@ -160,19 +164,24 @@ std::optional<Difference> PlayLines(const std::vector<Line>& lines, const fs::pa
   return std::nullopt;
 }
 
-std::optional<Difference> PlayStory(const fs::path& path, const RunnerOptions& options) {
-  std::vector<Line> lines;
+std::vector<std::optional<Difference>> PlayFile(const fs::path& path, const RunnerOptions& options) {
+  std::vector<Story> stories;
   try {
-    lines = ReadStory(path);
-    if (lines.empty()) throw Difference{0, Differs("a story", "no line that plays or sees anything")};
+    stories = ReadStories(path);
+    if (stories[0].Lines.empty()) throw Difference{0, Differs("a story", "no line that plays or sees anything")};
   } catch (const Difference& difference) {
-    return difference;
+    return {difference};
   }
-  kit::FreshFolder fresh(options.Keep);
-  fs::path folder = fresh.Path() / "folder";
-  fs::create_directory(folder);
-  if (options.Keep) std::cout << path.string() << ": kept in " << folder.string() << "\n";
-  return PlayLines(lines, folder, path.parent_path(), options);
+  std::vector<std::optional<Difference>> differences;
+  for (const Story& one : stories) {
+    kit::FreshFolder fresh(options.Keep);
+    fs::path folder = fresh.Path() / "folder";
+    fs::create_directory(folder);
+    if (options.Keep) std::cout << NameOf(path, one.Row) << ": kept in " << folder.string() << "\n";
+    differences.push_back(PlayLines(one.Lines, folder, path.parent_path(), options));
+    if (differences.back()) differences.back()->Row = one.Row;
+  }
+  return differences;
 }
 
 }  // namespace story

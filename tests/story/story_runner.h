@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "tests/story/checks.h"
 #include "tests/story/planned_desk.h"
@@ -14,18 +15,19 @@
 namespace story {
 
 struct RunnerOptions {
-  // Makes the player of each run of the program; the bare one where there is none.
+  // Makes the player of each run of the program; empty: the bare one.
   PlayerFactory MakePlayer;
-  // Leaves the folder of each story, and prints where.
+  // Leaves the folder of each story and prints where.
   bool Keep = false;
-  // Where the pictures of the windows go; none are taken where it is empty.
+  // Where the pictures of the windows go; empty: none are taken.
   std::filesystem::path Pictures;
 };
 
-// Plays one story in a folder of its own; the first difference, nothing where there is none.
-std::optional<Difference> PlayStory(const std::filesystem::path& path, const RunnerOptions& options);
+// Plays the stories of a file, each in a folder of its own: for each the first difference, or nothing. A file that
+// cannot be read as a story counts as one story.
+std::vector<std::optional<Difference>> PlayFile(const std::filesystem::path& path, const RunnerOptions& options);
 
-// The same for lines that are there already, in an empty folder of the caller.
+// Plays the lines of one story in an empty folder of the caller; the first difference, or nothing.
 std::optional<Difference> PlayLines(const std::vector<Line>& lines, const std::filesystem::path& folder,
                                     const std::filesystem::path& story_folder, const RunnerOptions& options);
 

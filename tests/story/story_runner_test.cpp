@@ -16,8 +16,16 @@ class StoryRunnerTest : public testing::Test {
   std::string Play(std::string_view text) {
     fs::remove_all(fresh.Path() / "folder");
     fs::create_directory(fresh.Path() / "folder");
-    std::optional<Difference> difference = PlayLines(ParseStory(text), fresh.Path() / "folder", fresh.Path(), {});
+    std::optional<Difference> difference =
+        PlayLines(ParseStories(text)[0].Lines, fresh.Path() / "folder", fresh.Path(), {});
     return difference ? std::to_string(difference->Line) + ": " + difference->What : "";
+  }
+
+  // What failed in a file of one story.
+  std::optional<Difference> OnlyStory(std::string_view name) {
+    std::vector<std::optional<Difference>> differences = PlayFile(fresh.Path() / name, {});
+    EXPECT_EQ(differences.size(), 1u);
+    return differences[0];
   }
 
   kit::FreshFolder fresh;
@@ -50,48 +58,48 @@ TEST_F(StoryRunnerTest, PlaysAStory) {
 
 TEST_F(StoryRunnerTest, FailsOnABoxThatIsNotPlanned) {
   EXPECT_EQ(Play("film 1 Title=\"Alien\"\nfilm 2 Title=\"Brazil\"\nstart\nclick cmdPrevious\nbeep\n"),
-            "4: expected nothing more, came box warning \"\" \"Top of file encountered!\" with OK");
+            "4: expected nothing more, got box warning \"\" \"Top of file encountered!\" with OK");
 }
 
 TEST_F(StoryRunnerTest, FailsOnAnEffectThatDoesNotCome) {
   EXPECT_EQ(Play("film 1 Title=\"Alien\"\nfilm 2 Title=\"Brazil\"\nstart\nclick cmdNext\nbeep\n"),
-            "5: expected beep, came nothing");
+            "5: expected beep, got nothing");
 }
 
 TEST_F(StoryRunnerTest, FailsOnAnEffectWithoutItsAction) {
-  EXPECT_EQ(Play("beep\nstart\n"), "1: expected an action above the effect, came beep");
+  EXPECT_EQ(Play("beep\nstart\n"), "1: expected an action above the effect, got beep");
 }
 
 TEST_F(StoryRunnerTest, FailsOnUnknownNames) {
-  EXPECT_EQ(Play("start\nclick cmdNowhere\n"), "2: expected a control of the program, came cmdNowhere");
-  EXPECT_EQ(Play("start\nsee txtNowhere \"\"\n"), "2: expected a control or a window of the program, came txtNowhere");
-  EXPECT_EQ(Play("start\nsee txtTitle.Colour 1\n"), "2: expected a property of the stories, came Colour");
-  EXPECT_EQ(Play("start\nsee txtTitle.Items\n"), "2: expected a control that has that property, came txtTitle.Items");
-  EXPECT_EQ(Play("start\nsee state Nowhere 1\n"), "2: expected a variable of the run state, came Nowhere");
-  EXPECT_EQ(Play("start\nsee focus txtNowhere\n"), "2: expected a control of the program, came txtNowhere");
-  EXPECT_EQ(Play("start\npick txtTitle \"a\"\n"), "2: expected a list, came txtTitle");
-  EXPECT_EQ(Play("start\nkey F13\n"), "2: expected a key or character, came F13");
-  EXPECT_EQ(Play("start\nclose frmNowhere\n"), "2: expected a window of the program, came frmNowhere");
+  EXPECT_EQ(Play("start\nclick cmdNowhere\n"), "2: expected a control of the program, got cmdNowhere");
+  EXPECT_EQ(Play("start\nsee txtNowhere \"\"\n"), "2: expected a control or a window of the program, got txtNowhere");
+  EXPECT_EQ(Play("start\nsee txtTitle.Colour 1\n"), "2: expected a property of the stories, got Colour");
+  EXPECT_EQ(Play("start\nsee txtTitle.Items\n"), "2: expected a control that has that property, got txtTitle.Items");
+  EXPECT_EQ(Play("start\nsee state Nowhere 1\n"), "2: expected a variable of the run state, got Nowhere");
+  EXPECT_EQ(Play("start\nsee focus txtNowhere\n"), "2: expected a control of the program, got txtNowhere");
+  EXPECT_EQ(Play("start\npick txtTitle \"a\"\n"), "2: expected a list, got txtTitle");
+  EXPECT_EQ(Play("start\nkey F13\n"), "2: expected a key or character, got F13");
+  EXPECT_EQ(Play("start\nclose frmNowhere\n"), "2: expected a window of the program, got frmNowhere");
 }
 
 TEST_F(StoryRunnerTest, FailsOnWhatDiffersFromASight) {
   std::string start = "film 1 Title=\"Alien\"\nstart\n";
-  EXPECT_EQ(Play(start + "see txtTitle \"Alien \"\n"), "3: expected \"Alien \", came \"Alien\"");
-  EXPECT_EQ(Play(start + "see txtTitle.Visible no\n"), "3: expected no, came yes");
-  EXPECT_EQ(Play(start + "see state CurrentRecNo \"1\"\n"), "3: expected \"1\", came 1");
-  EXPECT_EQ(Play(start + "see focus txtTitle\n"), "3: expected the focus on txtTitle, came the focus on cmdSave");
-  EXPECT_EQ(Play(start + "see film 1 Title \"Brazil\"\n"), "3: expected \"Brazil\", came \"Alien\"");
-  EXPECT_EQ(Play(start + "see film 2 Title \"\"\n"), "3: expected record 2, came a file of 649 bytes");
-  EXPECT_EQ(Play(start + "see length Recpra.Dat 648\n"), "3: expected 648 bytes, came 649 bytes");
-  EXPECT_EQ(Play(start + "see missing Recpra.Dat\n"), "3: expected no file Recpra.Dat, came a file of that name");
-  EXPECT_EQ(Play(start + "see pages 1\n"), "3: expected a document on paper, came none");
+  EXPECT_EQ(Play(start + "see txtTitle \"Alien \"\n"), "3: expected \"Alien \", got \"Alien\"");
+  EXPECT_EQ(Play(start + "see txtTitle.Visible no\n"), "3: expected no, got yes");
+  EXPECT_EQ(Play(start + "see state CurrentRecNo \"1\"\n"), "3: expected \"1\", got 1");
+  EXPECT_EQ(Play(start + "see focus txtTitle\n"), "3: expected the focus on txtTitle, got the focus on cmdSave");
+  EXPECT_EQ(Play(start + "see film 1 Title \"Brazil\"\n"), "3: expected \"Brazil\", got \"Alien\"");
+  EXPECT_EQ(Play(start + "see film 2 Title \"\"\n"), "3: expected record 2, got a file of 649 bytes");
+  EXPECT_EQ(Play(start + "see length Recpra.Dat 648\n"), "3: expected 648 bytes, got 649 bytes");
+  EXPECT_EQ(Play(start + "see missing Recpra.Dat\n"), "3: expected no file Recpra.Dat, got a file of that name");
+  EXPECT_EQ(Play(start + "see pages 1\n"), "3: expected a document on paper, got none");
 }
 
 TEST_F(StoryRunnerTest, ComparesKeysAndWholeFiles) {
   std::string keys = "key DVDpra.Dat \"Alien\" 12\n";
   WriteBytes(fresh.Path() / "wanted", "Alien" + std::string(35, ' ') + "0000012\r\n");
   EXPECT_EQ(Play(keys + "see key DVDpra.Dat 1 \"Alien\" 12\nsee same DVDpra.Dat wanted\n"), "");
-  EXPECT_EQ(Play(keys + "see key DVDpra.Dat 1 \"Alien\" 13\n"), "2: expected \"Alien\" 13, came \"Alien\" 12");
+  EXPECT_EQ(Play(keys + "see key DVDpra.Dat 1 \"Alien\" 13\n"), "2: expected \"Alien\" 13, got \"Alien\" 12");
   WriteBytes(fresh.Path() / "wanted", "Aliens" + std::string(34, ' ') + "0000012\r\n");
   EXPECT_NE(Play(keys + "see same DVDpra.Dat wanted\n"), "");
 }
@@ -103,9 +111,9 @@ TEST_F(StoryRunnerTest, ComparesFilesOnADrive) {
 }
 
 TEST_F(StoryRunnerTest, WantsOneStartBeforeTheActions) {
-  EXPECT_EQ(Play("click cmdNext\n"), "1: expected start above the first action, came click cmdNext");
-  EXPECT_EQ(Play("start\nstart\n"), "2: expected a first start, came another one");
-  EXPECT_EQ(Play("see txtTitle \"\"\n"), "1: expected the program to be running, came a line before its start");
+  EXPECT_EQ(Play("click cmdNext\n"), "1: expected start above the first action, got click cmdNext");
+  EXPECT_EQ(Play("start\nstart\n"), "2: expected a first start, got another one");
+  EXPECT_EQ(Play("see txtTitle \"\"\n"), "1: expected the program to be running, got a line before its start");
 }
 
 TEST_F(StoryRunnerTest, RestartsOnTheSameFolder) {
@@ -122,17 +130,32 @@ TEST_F(StoryRunnerTest, LeavesHiddenAndDisabledControlsAlone) {
 
 TEST_F(StoryRunnerTest, StopsOnAFailureByItsName) {
   EXPECT_EQ(Play("remove Titlepra\nstart\nstop \"File not found\"\n"), "");
-  EXPECT_EQ(Play("remove Titlepra\nstart\n"), "2: expected nothing more, came stop \"File not found\" for Titlepra");
+  EXPECT_EQ(Play("remove Titlepra\nstart\n"), "2: expected nothing more, got stop \"File not found\" for Titlepra");
 }
 
 TEST_F(StoryRunnerTest, ReadsAStoryFromItsFile) {
   WriteBytes(fresh.Path() / "passes.story", "film 1 Title=\"Alien\"\nstart\nsee txtTitle \"Alien\"\n");
   WriteBytes(fresh.Path() / "fails.story", "film 1 Title=\"Alien\"\nstart\nsee txtTitle \"Brazil\"\n");
   WriteBytes(fresh.Path() / "empty.story", "# nothing\n");
-  EXPECT_FALSE(PlayStory(fresh.Path() / "passes.story", {}));
-  EXPECT_TRUE(PlayStory(fresh.Path() / "fails.story", {}));
-  EXPECT_TRUE(PlayStory(fresh.Path() / "empty.story", {}));
-  EXPECT_TRUE(PlayStory(fresh.Path() / "missing.story", {}));
+  EXPECT_FALSE(OnlyStory("passes.story"));
+  EXPECT_TRUE(OnlyStory("fails.story"));
+  EXPECT_TRUE(OnlyStory("empty.story"));
+  EXPECT_TRUE(OnlyStory("missing.story"));
+}
+
+TEST_F(StoryRunnerTest, PlaysEachRowInAFolderOfItsOwn) {
+  WriteBytes(fresh.Path() / "rows.story",
+             "each TITLE\nrow Alien\nrow \"The Thing\"\nrow Brazil\n"
+             "see missing Made\nfile Made \"{TITLE}\"\nfilm 1 Title=\"Alien\"\nstart\nsee txtTitle \"{TITLE}\"\n");
+  std::vector<std::optional<Difference>> differences = PlayFile(fresh.Path() / "rows.story", {});
+  ASSERT_EQ(differences.size(), 3u);
+  EXPECT_FALSE(differences[0]);
+  ASSERT_TRUE(differences[1]);
+  EXPECT_EQ(differences[1]->Row, "The Thing");
+  EXPECT_EQ(differences[1]->Line, 9);
+  EXPECT_EQ(differences[1]->What, "expected \"The Thing\", got \"Alien\"");
+  ASSERT_TRUE(differences[2]);
+  EXPECT_EQ(differences[2]->Row, "Brazil");
 }
 
 }  // namespace

@@ -123,6 +123,8 @@ Role RoleOf(const Line& line) {
     bool concerns = row.Subject.empty() ? !has_subject : subject_stands;
     if (concerns && Takes(row, line)) return row.As;
   }
+  if (line.Verb == "each" || line.Verb == "row")
+    throw Difference{line.Number, Differs("each and its rows above all other lines", line.Notation())};
   throw Difference{line.Number, known ? Differs("arguments that \"" + line.Verb + "\" takes", line.Notation())
                                       : Differs("a verb of the stories", line.Verb)};
 }
