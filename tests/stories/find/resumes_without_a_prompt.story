@@ -1,0 +1,56 @@
+# Director search chosen again after Match goes on without asking, from the film on the screen, which it tests again.
+each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
+row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
+row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar
+row  producer Producer        Nobody "Anna Karina" "Banana Split" karina mnuProducer
+row  cinema   Cinematographer Nobody "Anna Karina" "Banana Split" karina mnuCinema
+row  writer   Written         Nobody "Anna Karina" "Banana Split" karina mnuWriter
+row  music    Music           Nobody "Anna Karina" "Banana Split" karina mnuMusic
+row  dance    Choreography    Nobody "Anna Karina" "Banana Split" karina mnuDance
+row  costume  Costume         Nobody "Anna Karina" "Banana Split" karina mnuCostume
+row  awards   Awards          Nobody "Anna Karina" "Banana Split" karina mnuAwards
+row  mpaa     Rating          R      PG            PG-13          pg     mnuMPAA
+row  sound    Sound           Nobody "Anna Karina" "Banana Split" karina mnuSound
+
+each SEARCH   TITLE                           PROMPT                                      ANSWER
+row  director "Search For Director"           "Enter Director. To Search: "               karin
+row  star     "Search For Star"               "Enter Star To Search: "                    karin
+row  producer "Search For Producer"           "Enter Producer To Search: "                karin
+row  cinema   "Search For Cinematographer"    "Enter Cinematographer To Search: "         karin
+row  writer   "Search For Writer"             "Enter Writer To Search: "                  karin
+row  music    "Search For Music Composer"     "Enter Music Composer To Search: "          karin
+row  dance    "Search For Choreographer"      "Enter Choreographer To Search: "           karin
+row  costume  "Search For Costume Designer"   "Enter Costume Designer To Search: "        karin
+row  awards   "Search For Awards"             "Enter Awards To Search: "                  karin
+row  mpaa     "Search For MPAA or TV Ratings" "Enter Ratings To Search: "                 pg
+row  sound    "Search For Sound"              "Enter Sound To Search: \n\rTHX Dolby Etc." karin
+
+each SEARCH   HEADING                                                                      BOXTITLE
+row  director " Viewing Files for Director karina                        "                 "DIRECTOR SEARCH"
+row  star     "Viewing Files For  karina                        "                          "STAR  SEARCH"
+row  producer " Produced  By karina                        "                               "PRODUCER SEARCH"
+row  cinema   "    Viewing Files by Cinematographers"                                      "CINEMATOGRAPHER SEARCH"
+row  writer   " Written by karina"                                                         "WRITER SEARCH"
+row  music    "   Music Composed By karina                        "                        "MUSIC COMPOSER SEARCH"
+row  dance    "Choreography By karina                        "                             "CHOREOGRAPHER SEARCH"
+row  costume  " Viewing For Costume Designer karina                        "               "COSTUME DESIGNER SEARCH"
+row  awards   " Awards/Notes karina                                                      " "AWARDS SEARCH"
+row  mpaa     "MPAA Rating is  pg   "                                                      "MPAA RATINGS SEARCH"
+row  sound    "Viewing Sound Recording in karina"                                          "SOUND RECORDING SEARCH"
+
+film 1 Title="Film 1" {FIELD}="{FILM1}"
+film 2 Title="Film 2" {FIELD}="{FILM2}"
+film 3 Title="Film 3" {FIELD}="{FILM3}"
+film 4 Title="Film 4" {FIELD}="{FILM4}"
+start
+click {MENU}
+input "{TITLE}" "{PROMPT}" "{ANSWER}"
+click cmdMatch
+see state CurrentRecNo 4
+click {MENU}
+see state CurrentRecNo 4
+see state RowCursor 3
+see lblHead "{HEADING}"
+click cmdMatch
+beep
+box warning "{BOXTITLE}" "End of file!" OK

@@ -1,0 +1,20 @@
+# Find Last Record out of the DVD view ends it; the walk goes on by number.
+each VIEW  FORMAT MENU
+row  dvd   D      mnuByDVD
+row  laser L      mnuByLaser
+row  title D      mnuByTitle
+row  vhs   V      mnuByVHS
+
+films 1 4 Title="Film #" Format="{FORMAT}"
+sorted
+start
+click {MENU}
+click cmdNext
+click mnuLast
+
+see txtTitle "Film 4"
+see state ViewKind ""
+see state KeyFilePos 0
+see frmPage1 "Reelora Prima Record  4/ 4      Title Non Sorted"
+click cmdPrevious
+see txtTitle "Film 3"

@@ -1,0 +1,46 @@
+# Title list: the first Back of a list counts past the page on the screen and writes from the twentieth film on.
+each LIST   FORMAT MENU         SEEN  CAPTION
+row  titles D      mnuAllTitles DVD   "Title Sorted All Formats"
+row  dvd    D      mnualldvd    DVD   "  DVD  Sorted"
+row  laser  L      mnualllas    Laser "Laser Sorted"
+row  vhs    V      mnuAllVHS    VHS   "  VHS  Sorted"
+
+films 1 45 Title="Film ##" Year="19##" Genre="DR" Format="{FORMAT}"
+sorted
+start
+click {MENU}
+click cmdNext20
+click cmdPrev20
+see Text1(0) "Film 01"
+see Text1(1) "Film 02"
+see Text1(18) "Film 19"
+see Text1(19) "Film 20"
+see Text2(0) "1901              Drama"
+see Text3(0) "{SEEN}"
+see state BackCount 40
+see state KeyFilePos 1
+see state RowCursor 20
+see state ScanRecNo 0
+see state CurrentRecNo 40
+see txtTitle "Film 01"
+see frmPage1 "Reelora Prima Record  40/ 45      {CAPTION}"
+click cmdPrev20
+beep
+box warning "" "Top of file encountered!" OK
+see state ListState 0
+see state SearchState 0
+see state ListShown 0
+see state ListShownAlso 0
+see state PageMode 0
+see state KeyFilePos 0
+see state ViewKind ""
+see state CurrentRecNo 1
+see Text1(0).Visible no
+see Text2(19).Visible no
+see Text3(10).Visible no
+see cmdNext20.Visible no
+see cmdNext.Visible yes
+see cmdPrevious.Visible yes
+see cmdNew.Visible yes
+see optNotesoff.Visible yes
+see optnoteson.Visible yes

@@ -1,8 +1,0 @@
-# A master file of 0 bytes counts 1 record; what is there is shown, and nothing is rewritten.
-file Recpra.Dat ""
-start
-see state RecordCount 1
-see txtTitle ""
-see txtFormat ""
-see frmPage1 "Reelora Prima Record  1/ 1      Title Non Sorted"
-see file Recpra.Dat ""
