@@ -1,4 +1,4 @@
-# A deleted DVD film leaves 647 blanks and CR LF, and its neighbours stay.
+# A deleted film leaves 647 blanks and CR LF; its neighbours stay.
 each FORMAT_NAME FORMAT
 row  dvd         D
 row  laser       L

@@ -1,4 +1,4 @@
-# The aspect letter P shows as "Pan & Scan".
+# Each aspect letter is shown as its name.
 each ASPECT SHOWN
 row  P      "Pan & Scan"
 row  T      "TV 1.33:1"

@@ -1,4 +1,4 @@
-# The letter D shows as DVD; the cassette box is enabled after showing, whatever the format.
+# Each format letter is shown as its name; the cassette number is enabled after showing, whatever the format.
 each FORMAT_NAME FORMAT SHOWN
 row  dvd         D      DVD
 row  laser       L      Laser

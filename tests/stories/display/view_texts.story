@@ -1,4 +1,4 @@
-# The title bar and the heading of the view of DVD.
+# The title bar and the heading of each view.
 each VIEW  KIND  CAPTION                              HEADING
 row  dvd   DVD   "1/ 4        DVD  Sorted"            "Viewing All DVD Titles Alphabetically"
 row  laser Laser "4/ 4      Laser Sorted"             "Viewing All Laser Titles Alphabetically"

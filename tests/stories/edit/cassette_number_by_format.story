@@ -1,4 +1,4 @@
-# Edit leaves the cassette number shut for DVD.
+# Edit enables the cassette number as the format demands.
 each FORMAT_NAME FORMAT SHOWN ENABLED
 row  dvd         D      DVD   no
 row  laser       L      Laser no

@@ -1,4 +1,4 @@
-# "Pan & Scan" chosen by the mouse in Edit is stored as P.
+# An aspect chosen by mouse in Edit is stored as its letter.
 each ASPECT ITEM          STORED
 row  p      "Pan & Scan"  P
 row  t      "TV 1.33:1"   T

@@ -1,4 +1,4 @@
-# In Edit the aspect is not aligned anew for typing.
+# In Edit each field of page 1 is left-aligned for typing, except the aspect and the cassette number.
 each FIELD_NAME BOX          ALIGNMENT2 FOCUS        ALIGNMENT
 row  aspect     txtLetter    centre     List4        centre
 row  cassette   txtCassNo    left       txtCassNo    left

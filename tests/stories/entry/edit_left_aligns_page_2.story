@@ -1,4 +1,4 @@
-# In Edit the choreography is left-aligned for typing.
+# In Edit each field of page 2 is left-aligned for typing.
 each FIELD_NAME      BOX                FOCUS              ALIGNMENT
 row  choreography    txtChoreography    txtChoreography    left
 row  cinematographer txtCinematographer txtCinematographer left

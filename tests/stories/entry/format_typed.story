@@ -1,4 +1,4 @@
-# D typed into the format of an open film turns into DVD at once.
+# A letter typed into the format of an open film turns into the name of the format at once.
 each FORMAT_NAME TYPED SHOWN ENABLED ENABLED2
 row  d           D     DVD   no      no
 row  l           L     Laser no      yes

@@ -1,4 +1,4 @@
-# AA chosen by the mouse shows its name and is stored.
+# A genre chosen by mouse shows its name and is stored.
 each GENRE ITEM                    SHOWN SHOWN2
 row  aa    "AA = Action Adventure" AA    "Action Adventure"
 row  ad    "AD = Adult"            AD    Adult

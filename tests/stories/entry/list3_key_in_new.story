@@ -1,4 +1,4 @@
-# In a new film Enter closes the format list; the number of discs is next.
+# In a new film Enter, Space and a letter close the format list; the number of discs is next.
 each KEY_NAME KEY
 row  enter    Enter
 row  space    Space

@@ -1,4 +1,4 @@
-# In a new DVD film the aspect list that is left steers to the colour.
+# In a new film, leaving the aspect list leads to the colour.
 each FORMAT_NAME ITEM  FOCUS
 row  dvd         DVD   List6
 row  laser       Laser txtDirector

@@ -1,4 +1,4 @@
-# In a new DVD film a press on an aspect takes it, and the colour is next.
+# In a new film a press on an aspect takes it; the colour is next.
 each FORMAT_NAME ITEM  FOCUS
 row  dvd         DVD   List6
 row  laser       Laser List5

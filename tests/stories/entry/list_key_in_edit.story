@@ -1,4 +1,4 @@
-# In Edit a key closes the format list and Save gets the focus.
+# In Edit a key closes the list; Save gets the focus.
 each LIST BOX       KEY   SHOWN        LABEL      SEEN
 row  3    txtFormat Enter Laser        lblSorting "Save Work When Finished!"
 row  4    txtLetter z     "Pan & Scan" lblSorting "Save Work When Finished!"

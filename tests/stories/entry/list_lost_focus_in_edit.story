@@ -1,4 +1,4 @@
-# In Edit the format list that is left gives the focus to Save, wherever the user was going.
+# In Edit, leaving the list gives the focus to Save, wherever the user was going.
 each LIST BOX       FOCUS       LABEL      SEEN
 row  3    txtFormat cmdSave     lblSorting "Save Work When Finished!"
 row  4    txtLetter cmdSave     lblSorting "Save Work When Finished!"

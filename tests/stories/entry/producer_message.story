@@ -1,4 +1,4 @@
-# What the producer of a new film says with Auto Save NO and Auto Sort NO.
+# What the producer of a new film says under each pair of settings.
 each SETTINGS CONTENT   CONTENT2
 row  both_off "NO\r\n"  "NO\r\n"
 row  both_on  "YES\r\n" "YES\r\n"

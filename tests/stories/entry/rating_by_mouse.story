@@ -1,4 +1,4 @@
-# G chosen by the mouse in Edit is stored.
+# A rating chosen by mouse in Edit is stored.
 each RATING ITEM
 row  g      G
 row  nc_17  NC-17

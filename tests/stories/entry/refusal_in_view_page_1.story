@@ -1,4 +1,4 @@
-# In view the aspect refuses on the way in and Save gets the focus.
+# In view each field of page 1 refuses entry; Save gets the focus.
 each FIELD_NAME BOX          BOXTITLE             ALIGNMENT
 row  aspect     txtLetter    Aspect               centre
 row  cassette   txtCassNo    "Casette No."        left

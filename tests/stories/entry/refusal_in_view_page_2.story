@@ -1,4 +1,4 @@
-# In view the awards refuses on the way in and Save gets the focus.
+# In view each field of page 2 refuses entry; Save gets the focus.
 each FIELD_NAME      BOX                BOXTITLE
 row  awards          txtAwards          "Awards / Notes"
 row  choreography    txtChoreography    Choreography

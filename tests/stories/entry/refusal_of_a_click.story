@@ -1,4 +1,4 @@
-# A click in view on the director that has the focus already is refused, and the focus stays.
+# A click in view on the focused field is refused; the focus stays.
 each FIELD_NAME BOX         BOXTITLE
 row  director   txtDirector Director
 row  star_1     txtStar1(0) "Star 1"

@@ -1,4 +1,5 @@
-# Director search chosen again after its end asks: on record 1 it does not go on, and with its flag set the hits start from 0.
+# A search chosen again after its end asks: on record 1 it does not continue; with its flag set the hits start from
+# 0.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

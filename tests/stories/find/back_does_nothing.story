@@ -1,4 +1,4 @@
-# Director search: Back does nothing until the reset but set its help topic; Next goes on by number.
+# In a search Back only sets its help topic until the reset; Next continues by number.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Director search: an empty answer resets the screen with no word and drops the kept text.
+# An empty answer to a search resets the screen without a word and drops the stored text.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

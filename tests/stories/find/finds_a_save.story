@@ -1,4 +1,4 @@
-# Director search finds what was saved a moment ago.
+# A search finds what was saved a moment ago.
 each SEARCH   FIELD    BOX         MENU            TITLE                 PROMPT
 row  director Director txtDirector mnuFindDirector "Search For Director" "Enter Director. To Search: "
 row  star     Star1    txtStar1(0) mnuFindStar     "Search For Star"     "Enter Star To Search: "

@@ -1,4 +1,4 @@
-# Star search's flag is cleared by another search.
+# A search's flag is cleared by another search.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU        TITLE
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar "Search For Star"
 row  producer Producer        Nobody "Anna Karina" "Banana Split" karina mnuProducer "Search For Producer"

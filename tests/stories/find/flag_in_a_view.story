@@ -1,4 +1,4 @@
-# Director search with its flag set, chosen in a view behind record 1: it asks, and the position is 0.
+# A search with its flag set, chosen in a view past record 1, asks; the position is 0.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

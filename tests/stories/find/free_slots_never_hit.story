@@ -1,4 +1,4 @@
-# Director search: a free slot never hits, also for a blank.
+# A search never hits a free slot, not even for a blank.
 each SEARCH   FIELD           MENU            TITLE                         PROMPT
 row  director Director        mnuFindDirector "Search For Director"         "Enter Director. To Search: "
 row  star     Star1           mnuFindStar     "Search For Star"             "Enter Star To Search: "

@@ -1,4 +1,4 @@
-# Director search on page 2 stays there.
+# A search on page 2 stays there.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

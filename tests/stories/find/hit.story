@@ -1,4 +1,4 @@
-# Director search: small letters find the first film that holds them anywhere; all that it leaves behind.
+# A search in small letters finds the first film that contains them anywhere; all that it leaves behind.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Director search after a reset: the heading behind a hit is the search's own all the same.
+# A search after a reset: the heading after a hit is the search's own all the same.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Director search: blanks in front of the answer are part of what is sought, so that a field that begins with the word is passed over.
+# Leading blanks of the answer are part of the sought text: a field that begins with the word is passed over.
 each SEARCH   FIELD           MENU            TITLE                         PROMPT
 row  director Director        mnuFindDirector "Search For Director"         "Enter Director. To Search: "
 row  star     Star1           mnuFindStar     "Search For Star"             "Enter Star To Search: "

@@ -1,4 +1,5 @@
-# Director search in a view closes its file, begins anew at position 0 and keeps the view's kind, so that Next goes on with the view's first key.
+# A search in a view closes its file, starts again at position 0 and keeps the view's kind; Next continues with the
+# view's first key.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

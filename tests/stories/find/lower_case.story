@@ -1,4 +1,4 @@
-# Director search: capitals on both sides, accented letters, too.
+# A search ignores case, accented letters included.
 each SEARCH   FIELD           FILM1  FILM2 FILM3 FILM4 MENU            TITLE
 row  director Director        nobody pere  père  PÈRE  mnuFindDirector "Search For Director"
 row  star     Star1           nobody pere  père  PÈRE  mnuFindStar     "Search For Star"

@@ -1,4 +1,5 @@
-# Director search: Match goes on to the next film with the kept text, asks nothing, and turns to page 1; behind the last hit, which is the last film, it tells the end.
+# Match continues to the next film with the stored text, asks nothing and turns to page 1; past the last hit it
+# reports the end.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

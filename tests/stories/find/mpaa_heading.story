@@ -1,4 +1,4 @@
-# MPAA search: the heading behind a hit on NC-17.
+# MPAA search: the heading after a hit, by rating.
 each RATING FILM2 ANSWER HEADING
 row  nc_17  NC-17 nc-17  "MPAA Rating is  NC-17"
 row  r      R     r      "MPAA Rating is  R    "

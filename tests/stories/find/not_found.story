@@ -1,4 +1,4 @@
-# Director search that finds nothing says so with the text in capitals and resets.
+# A search that finds nothing says so, naming the text, and resets.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Director search after a hit and a reset that finds nothing tells the end, as the hit is still counted.
+# A search that finds nothing after a hit and a reset: what it says, as the hit is still counted.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

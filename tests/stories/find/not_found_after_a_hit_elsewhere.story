@@ -1,4 +1,4 @@
-# Director search from a film that is not the first, after a hit: finding nothing tells the end.
+# A search that finds nothing, started after a hit from a film other than the first, reports the end.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Director search whose only hit is the last film: it is shown, and Match tells the end behind it.
+# A search whose only hit is the last film shows it; Match then reports the end.
 each SEARCH   FIELD           FILM1  FILM2          FILM4         MENU            TITLE
 row  director Director        Nobody "Banana Split" "Anna Karina" mnuFindDirector "Search For Director"
 row  star     Star1           Nobody "Banana Split" "Anna Karina" mnuFindStar     "Search For Star"

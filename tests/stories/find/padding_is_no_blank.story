@@ -1,4 +1,4 @@
-# Director search: a blank behind the word finds nothing in the field's own padding, and the field's leading blanks are none.
+# A blank after the sought word does not match the field's padding; leading blanks of the field do not count.
 each SEARCH   FIELD           FILM1         ANSWER MENU            TITLE
 row  director Director        "Anna Karina" karina mnuFindDirector "Search For Director"
 row  star     Star1           "Anna Karina" karina mnuFindStar     "Search For Star"

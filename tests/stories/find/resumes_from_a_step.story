@@ -1,4 +1,4 @@
-# Director search chosen again after a jump goes on from the film on the screen.
+# A search chosen again after a jump continues from the film on the screen.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Director search chosen again after Match goes on without asking, from the film on the screen, which it tests again.
+# A search chosen again after Match continues without asking, from the film on the screen, which it tests again.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# Star search: star 1 hits, and its name heads the film.
+# Star search: each of the six stars is found, and the heading names it.
 each STAR BOX         POSITION STARHIT2 STARHIT3 STARHIT4 STARHIT5 STARHIT6
 row  1    txtStar1(0) 6        0        0        0        0        0
 row  2    txtStar2(1) 0        6        0        0        0        0

@@ -1,4 +1,4 @@
-# Director search gone on with from behind the last slot: nothing happens but the search's own heading.
+# A search continued from past the last slot changes nothing but the heading.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
 row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar

@@ -1,4 +1,4 @@
-# The code AA, asked for in small letters, heads the view with "Action Adventure".
+# The heading shows the name of each genre; the code may be typed in small letters.
 each CODE GENRE HEADING
 row  aa   AA    "Action Adventure"
 row  ad   AD    Adult

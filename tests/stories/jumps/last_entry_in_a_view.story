@@ -1,4 +1,5 @@
-# Find Last Entry in the middle of the DVD view shows its film under the view's title bar; Next goes on from the view's key.
+# Find Last Entry in the middle of a view shows its film under the view's title bar; Next continues from the view's
+# key.
 each VIEW  FORMAT KIND  CAPTION
 row  dvd   D      DVD   "  DVD  Sorted"
 row  laser L      Laser "Laser Sorted"

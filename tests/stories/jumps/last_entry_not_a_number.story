@@ -1,4 +1,4 @@
-# A blank line in "Last" is passed over: the film on the screen is shown again.
+# A "Last" whose line is not a number: what Find Last Entry shows.
 each CONTENT_NAME  CONTENT
 row  blank_line    "\r\n"
 row  emptied       ""

@@ -1,4 +1,4 @@
-# Find Last Record out of the DVD view ends it; the walk goes on by number.
+# Find Last Record ends a view; the walk continues by number.
 each VIEW  FORMAT MENU
 row  dvd   D      mnuByDVD
 row  laser L      mnuByLaser

@@ -1,4 +1,4 @@
-# Find By File No. out of the DVD view ends it; the walk goes on by number.
+# Find By File No. ends a view; the walk continues by number.
 each VIEW  FORMAT MENU
 row  dvd   D      mnuByDVD
 row  laser L      mnuByLaser

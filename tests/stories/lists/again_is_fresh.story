@@ -1,4 +1,4 @@
-# Title list chosen again on its first page begins anew; after Next it goes on from the last row.
+# A list chosen again on its first page starts again; after Next it continues from the last row.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

@@ -1,4 +1,4 @@
-# Title list: Back on the first page counts its way to the top and resets.
+# Back on the first page of a list counts its way to the top and resets.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

@@ -1,4 +1,4 @@
-# Title list, Back: a blank first key is read once more in its own place and leads to its film; then the top is told.
+# Back in a list reads a blank first key once more in its place, which leads to its film; then it reports the top.
 each LIST   FORMAT KEYS     MENU
 row  titles D      Titlepra mnuAllTitles
 row  dvd    D      DVDpra   mnualldvd

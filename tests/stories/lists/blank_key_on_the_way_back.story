@@ -1,4 +1,4 @@
-# Title list, Back: a blank key leads to its film, and the key before it is left out.
+# Back in a list: a blank key leads to its film, and the key before it is left out.
 each LIST   FORMAT KEYS     MENU
 row  titles D      Titlepra mnuAllTitles
 row  dvd    D      DVDpra   mnualldvd

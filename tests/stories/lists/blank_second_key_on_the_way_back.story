@@ -1,4 +1,4 @@
-# Title list, Back: a blank second key moves the position to 1, so that the first key is not read any more.
+# Back in a list: a blank second key moves the position to 1, so that the first key is no longer read.
 each LIST   FORMAT KEYS     MENU
 row  titles D      Titlepra mnuAllTitles
 row  dvd    D      DVDpra   mnualldvd

@@ -1,4 +1,4 @@
-# Title list up: Edit, Delete and New do nothing, the hot keys of Next and Back page, and Reset takes the list away.
+# On a list Edit, Delete and New do nothing, the hot keys of Next and Back page, and Reset takes the list away.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

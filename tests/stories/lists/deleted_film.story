@@ -1,4 +1,5 @@
-# Title list shows what the records hold now: a deleted film is a row without a title, a changed one has its new words.
+# A list shows what the records contain now: a deleted film is a row without a title, a changed one has its new
+# words.
 each LIST   FORMAT MENU         SEEN
 row  titles D      mnuAllTitles DVD
 row  dvd    D      mnualldvd    DVD

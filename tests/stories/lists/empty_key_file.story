@@ -1,4 +1,4 @@
-# Title list of an empty key file: it ends at its first key, and the reset takes the grid away.
+# A list of an empty key file ends at its first key; the reset takes the grid away.
 each LIST   COUNT    MENU
 row  titles Titlepra mnuAllTitles
 row  dvd    DVDpra   mnualldvd

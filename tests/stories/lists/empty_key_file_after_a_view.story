@@ -1,4 +1,4 @@
-# Title list of an empty key file ends at its first key.
+# A list of an empty key file, chosen after a view, ends at its first key.
 each LIST   FORMAT KEYS     COUNT    MENU       MENU2
 row  titles V      VHSpra   Titlepra mnuByVHS   mnuAllTitles
 row  dvd    V      VHSpra   DVDpra   mnuByVHS   mnualldvd

@@ -1,4 +1,4 @@
-# Title list whose last title begins with 49: EditMode is left at 1, so that the reset at its end asks about unsaved work.
+# A list whose last title begins with 49 leaves EditMode at 1, so that the reset at its end asks about unsaved work.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

@@ -1,4 +1,4 @@
-# Title list of exactly twenty keys: one full page; Next empties all rows, tells the end and resets.
+# A list of exactly twenty keys is one full page; Next empties all rows, reports the end and resets.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

@@ -1,4 +1,4 @@
-# Title list: the first Back of a list counts past the page on the screen and writes from the twentieth film on.
+# The first Back of a list counts past the page on the screen and writes from the twentieth film on.
 each LIST   FORMAT MENU         SEEN  CAPTION
 row  titles D      mnuAllTitles DVD   "Title Sorted All Formats"
 row  dvd    D      mnualldvd    DVD   "  DVD  Sorted"

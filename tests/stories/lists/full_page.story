@@ -1,4 +1,4 @@
-# Title list: twenty films with year, genre and format; the two list buttons take the places of Next and Back.
+# A full page of a list: twenty films with year, genre and format; the two list buttons replace Next and Back.
 each LIST   FORMAT MENU         SEEN  HEADING                                   CAPTION                    KIND
 row  titles D      mnuAllTitles DVD   "Viewing All Titles Alphabetically"       "Title Sorted All Formats" Title
 row  dvd    D      mnualldvd    DVD   "Viewing All DVD Titles Alphabetically"   "  DVD  Sorted"            DVD

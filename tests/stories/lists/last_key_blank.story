@@ -1,4 +1,4 @@
-# Title list whose last key is blank ends without the beep: the step that passes it lands on the end.
+# A list whose last key is blank ends without the beep: the step that passes it lands on the end.
 each LIST   FORMAT KEYS     MENU
 row  titles D      Titlepra mnuAllTitles
 row  dvd    D      DVDpra   mnualldvd

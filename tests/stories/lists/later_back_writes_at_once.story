@@ -1,4 +1,4 @@
-# Title list: later Backs write from the first film on; the Next between them repeats nineteen rows.
+# Later Backs of a list write from the first film on; the Next between them repeats nineteen rows.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

@@ -1,4 +1,4 @@
-# Title list at a key whose number is below 1 stops the program.
+# A list stops the program at a key whose number is below 1.
 each LIST   FILE     MENU
 row  titles Titlepra mnuAllTitles
 row  dvd    DVDpra   mnualldvd

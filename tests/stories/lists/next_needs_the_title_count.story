@@ -1,4 +1,4 @@
-# DVD list: its Next is the genre list's, which refuses in its own words when the count of all titles is 0.
+# Next of a list is the genre list's, which refuses in its own words when the count of all titles is 0.
 each LIST  FORMAT MENU
 row  dvd   D      mnualldvd
 row  laser L      mnualllas

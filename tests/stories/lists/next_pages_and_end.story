@@ -1,4 +1,4 @@
-# Title list: Next brings the next twenty; the short last page is emptied, the end told, and the screen resets.
+# Next brings the next twenty; the rest of a short last page is emptied, the end reported, and the screen resets.
 each LIST   FORMAT MENU         SEEN  HITCOUNT KIND  HEADING
 row  titles D      mnuAllTitles DVD   20       Title "Viewing All Titles Alphabetically"
 row  dvd    D      mnualldvd    DVD   40       DVD   "Viewing All DVD Titles Alphabetically"

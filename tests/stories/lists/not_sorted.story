@@ -1,4 +1,4 @@
-# Title list with a count of 0 refuses and resets.
+# A list with a count of 0 refuses and resets.
 each LIST   FORMAT KEYS     MENU            BOXTITLE                      TEXT
 row  titles D      Titlepra mnuAllTitles    "Reelora Prima Print Program" viewed!
 row  laser  L      Laserpra mnualllas       "Reelora Prima"               "be viewed!"

@@ -1,4 +1,4 @@
-# Title list refused in Edit: the edit is still on, so that the reset asks about it.
+# A list refused in Edit leaves the edit on, so that the reset asks about it.
 each LIST   FORMAT MENU            BOXTITLE                      TEXT
 row  titles D      mnuAllTitles    "Reelora Prima Print Program" viewed!
 row  laser  L      mnualllas       "Reelora Prima"               "be viewed!"

@@ -1,4 +1,4 @@
-# Title list opened in Edit: Delete stays off, and the keys end the edit.
+# A list opened in Edit: Delete stays off, and the keys end the edit.
 each LIST   FORMAT MENU         ENABLED
 row  titles D      mnuAllTitles no
 row  dvd    D      mnualldvd    yes

@@ -1,4 +1,4 @@
-# Title list of seven keys never shows a page: it fills seven rows, tells the end and resets.
+# A list of seven keys never shows a page: it fills seven rows, reports the end and resets.
 each LIST   FORMAT MENU
 row  titles D      mnuAllTitles
 row  dvd    D      mnualldvd

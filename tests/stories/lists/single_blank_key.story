@@ -1,4 +1,4 @@
-# Title list: a blank key is passed over on the way on.
+# A single blank key is skipped on the way forward.
 each LIST   FORMAT KEYS     MENU
 row  titles D      Titlepra mnuAllTitles
 row  dvd    D      DVDpra   mnualldvd

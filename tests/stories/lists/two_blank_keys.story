@@ -1,4 +1,4 @@
-# Title list: of two blank keys in a row the second leads to a row.
+# The second of two adjacent blank keys leads to a row.
 each LIST   FORMAT KEYS     MENU
 row  titles D      Titlepra mnuAllTitles
 row  dvd    D      DVDpra   mnualldvd

@@ -1,4 +1,4 @@
-# Yes turns Auto Save on at once: in the word, in the box, in the file, and after a restart.
+# Yes turns the setting on at once: in its caption, its box and its file, and after a restart.
 each SETTING  FILE     SHOWN           TEXT                                         SHOWN2
 row  save_yes AutoSave "Auto Save Off" "Save\" click (Y)  or to remove\" Auto Save" "Auto Save On"
 row  sort_yes AutoSort "Auto Sort Off" "Sort\" click (Y)  or to remove\" Auto Sort" "Auto Sort On"

@@ -1,4 +1,4 @@
-# The list closes the view's key file, goes on from its place, and stops.
+# An abridged list closes the view's key file, continues from its place and stops.
 each REPORT         FORMAT MENU       MENU2
 row  abridged-dvd   D      mnuByTitle mnuDVD
 row  abridged-vhs   V      mnuByVHS   mnuVHS

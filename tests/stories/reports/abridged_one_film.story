@@ -1,4 +1,4 @@
-# One film: the figure 1 with the singular, column heads, total and page number.
+# An abridged list of one film: the figure 1 with the singular, column heads, total and page number.
 each REPORT         FORMAT LINE  TEXT  LINE2        LINE3
 row  abridged-laser L      Laser laser "Laser List" "TOTAL LASER FILM(S)   1"
 row  abridged-dvd   D      DVD   DVD   "DVD List "  "  TOTAL DVD FILM(S)   1"

@@ -1,4 +1,4 @@
-# 48 films on the first page, 50 on each other; the heads of the columns stand on the first alone.
+# An abridged list has 48 films on the first page, 50 on each other; only the first has column heads.
 each REPORT         FORMAT LINE  TEXT  LINE2        LINE3
 row  abridged-dvd   D      DVD   DVD   "DVD List "  "  TOTAL DVD FILM(S)   99"
 row  abridged-laser L      Laser laser "Laser List" "TOTAL LASER FILM(S)   99"

@@ -1,4 +1,4 @@
-# A count of 0 is refused after the figure is reckoned, and Reset follows.
+# An abridged list with a count of 0 is refused after the pages are estimated; Reset follows.
 each REPORT         FORMAT MENU     TEXT
 row  abridged-dvd   D      mnuDVD   "DVD Records have not been sorted, or there are no records to sort"
 row  abridged-vhs   V      mnuVHS   "VHS Records have not been sorted, or there are no records to sort"

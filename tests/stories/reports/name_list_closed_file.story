@@ -1,4 +1,4 @@
-# The list closes the view's key file, goes on from its place, and stops.
+# A list by name closes the view's key file, continues from its place and stops.
 each REPORT        MENU
 row  director-list mnuDirector
 row  genre-list    mnuGenre

@@ -1,4 +1,4 @@
-# With no keys the list stops at record 0.
+# Without keys a list by name stops at record 0.
 each REPORT        MENU
 row  director-list mnuDirector
 row  genre-list    mnuGenre

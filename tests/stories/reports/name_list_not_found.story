@@ -1,4 +1,4 @@
-# Nothing found: the message, then Reset.
+# A list by name that finds nothing says so; Reset follows.
 each REPORT        MENU
 row  star-list     mnuStars
 row  genre-list    mnuGenre

@@ -1,4 +1,4 @@
-# The title "A 123456789012345678901234567890123456" is stored as "123456789012345678901234567890123456, A".
+# The stored form of each title: where its article goes, and which titles the rule damages.
 each TITLE_NAME                    TYPED
 row  38_characters_a               "A 123456789012345678901234567890123456"
 row  38_characters_an              "An 12345678901234567890123456789012345"

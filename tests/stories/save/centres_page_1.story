@@ -1,4 +1,4 @@
-# A save centres the director again.
+# A save centres each field of page 1 again.
 each FIELD_NAME BUTTON  BOX
 row  director   cmdEdit txtDirector
 row  format     cmdEdit txtFormat

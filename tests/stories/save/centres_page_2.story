@@ -1,4 +1,4 @@
-# A save centres the awards again.
+# A save centres each field of page 2 again.
 each FIELD_NAME      BUTTON  BOX
 row  awards          cmdEdit txtAwards
 row  choreography    cmdEdit txtChoreography

@@ -1,4 +1,4 @@
-# A number beyond 32 bits in BGColor.
+# A colour file with a number beyond 32 bits or with a word stops the program.
 each FILE_NAME             FILE        CONTENT           FAILURE
 row  too_large_BGColor     BGColor     "99999999999\r\n" Overflow
 row  too_large_tagForColor tagForColor "99999999999\r\n" Overflow

@@ -1,4 +1,4 @@
-# An empty AutoSave stops the program.
+# An empty file stops the program.
 each FILE_NAME
 row  AutoSave
 row  AutoSort

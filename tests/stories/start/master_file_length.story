@@ -1,4 +1,4 @@
-# A master file of 0 bytes counts 1 record; what is there is shown, and nothing is rewritten.
+# What a master file of each length counts; what is there is shown, and nothing is rewritten.
 each BYTES CONTENT
 row  0     ""
 row  1     A

@@ -1,4 +1,4 @@
-# Without the file AutoSave the program names the failure and stops.
+# Without one of its files the program names the failure and stops.
 each FILE_NAME
 row  AutoSave
 row  AutoSort

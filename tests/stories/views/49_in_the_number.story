@@ -1,4 +1,4 @@
-# Title view at record 49: EditMode is left at 46, where the number stands in the key; the field does not refuse, Reset asks nothing.
+# A view at record 49: the number in the key leaves EditMode at 46; the field does not refuse, Reset asks nothing.
 each VIEW  FORMAT MENU
 row  title D      mnuByTitle
 row  dvd   D      mnuByDVD

@@ -1,4 +1,4 @@
-# Title view at a title that begins with 49: EditMode is left at 1, so that the fields are open and Reset asks.
+# A view at a title that begins with 49 leaves EditMode at 1: the fields are open and Reset asks.
 each VIEW  FORMAT MENU
 row  title D      mnuByTitle
 row  dvd   D      mnuByDVD

@@ -1,4 +1,4 @@
-# Title view: Next behind a title that begins with 49 clears EditMode before it reads on, so that the end asks nothing.
+# Next after a title that begins with 49 clears EditMode before it reads on, so that the end asks nothing.
 each VIEW  FORMAT MENU       BOXTITLE                   TEXT
 row  title D      mnuByTitle "ALPHA TITLE SEARCH"       "End of file!"
 row  dvd   D      mnuByDVD   "ALPHA DVD TITLE SEARCH"   "End of file!"

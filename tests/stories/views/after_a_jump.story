@@ -1,4 +1,4 @@
-# Title view opens at its first key after a jump out of its middle, which has closed its file.
+# A view left by a jump, which closed its file, opens at its first key again.
 each VIEW  FORMAT FORMAT2 MENU
 row  title D      V       mnuByTitle
 row  dvd   D      V       mnuByDVD

@@ -1,4 +1,4 @@
-# Title view chosen again in the middle: the same key is shown, nothing starts anew.
+# A view chosen again in its middle shows the same key; nothing starts again.
 each VIEW  FORMAT FORMAT2 MENU
 row  title D      V       mnuByTitle
 row  dvd   D      V       mnuByDVD

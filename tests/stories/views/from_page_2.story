@@ -1,4 +1,4 @@
-# Title view opened and walked on page 2: opening leaves the page, Next turns it.
+# A view opened and walked on page 2: opening leaves the page, Next turns it.
 each VIEW  FORMAT FORMAT2 MENU
 row  title D      V       mnuByTitle
 row  dvd   D      V       mnuByDVD

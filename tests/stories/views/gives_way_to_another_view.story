@@ -1,4 +1,4 @@
-# Laser view chosen in the middle of the DVD view begins at its own first key.
+# A view chosen in the middle of another begins at its own first key.
 each VIEWS                    FORMAT FORMAT2 MENU       KIND  SHOWN
 row  dvd_gives_way_to_laser   D      L       mnuByDVD   Laser Cabaret
 row  dvd_gives_way_to_title   D      D       mnuByDVD   Title Alien

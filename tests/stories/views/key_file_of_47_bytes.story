@@ -1,4 +1,5 @@
-# DVD view of a key file of 47 bytes: the end is found behind the film shown, told in the view's box, and resets.
+# A view of a key file of 47 bytes: the end is noticed after the film is shown, reported in the view's box, and
+# resets.
 each VIEW  FORMAT FILE     MENU       BOXTITLE
 row  dvd   D      DVDpra   mnuByDVD   "ALPHA DVD TITLE SEARCH"
 row  laser L      Laserpra mnuByLaser "ALPHA LASER TITLE SEARCH"

@@ -1,4 +1,4 @@
-# Title view at a key that points behind the last film: nothing is read, the film stays under the new number.
+# A view at a key that points past the last film reads nothing: the film stays under the new number.
 each VIEW  FORMAT KEYS     MENU       CAPTION
 row  title D      Titlepra mnuByTitle "Title Sorted All Formats"
 row  dvd   D      DVDpra   mnuByDVD   "  DVD  Sorted"

@@ -1,4 +1,5 @@
-# Title view at a key whose number is 0: no film is read, no message comes, the heading is the view's own and the focus is on the title.
+# A view at a key whose number is 0 reads no film and says nothing; the heading is the view's own, the focus is on
+# the title.
 each VIEW  FORMAT KIND  HEADING                                        BOXTITLE
 row  title D      Title "    Viewing All Titles Alphabetically"        "ALPHA TITLE SEARCH"
 row  dvd   D      DVD   "Viewing All DVD Titles Alphabetically"        "ALPHA DVD TITLE SEARCH"

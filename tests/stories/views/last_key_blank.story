@@ -1,4 +1,4 @@
-# Title view whose last key is blank: the click that lands on it ends the view at once.
+# A view whose last key is blank ends at once with the click that lands on it.
 each VIEW  FORMAT KEYS     MENU       BOXTITLE                   TEXT
 row  title D      Titlepra mnuByTitle "ALPHA TITLE SEARCH"       "End of file!"
 row  dvd   D      DVDpra   mnuByDVD   "ALPHA DVD TITLE SEARCH"   "End of file!"

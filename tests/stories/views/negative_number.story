@@ -1,4 +1,4 @@
-# Title view at a key whose number is below 0 stops the program.
+# A view stops the program at a key whose number is below 0.
 each VIEW  FORMAT FILE     MENU
 row  title D      Titlepra mnuByTitle
 row  dvd   D      DVDpra   mnuByDVD

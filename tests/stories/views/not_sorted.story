@@ -1,4 +1,4 @@
-# Title view with a count of 0 refuses, though there are keys, and resets.
+# A view with a count of 0 refuses, though there are keys, and resets.
 each VIEW  FORMAT KEYS     MENU       BOXTITLE                      TEXT
 row  title D      Titlepra mnuByTitle "Reelora Prima Print Program" viewed!
 row  dvd   D      DVDpra   mnuByDVD   "Reelora Prima"               viewed!

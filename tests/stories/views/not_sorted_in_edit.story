@@ -1,4 +1,4 @@
-# DVD view refused in Edit: the edit is still on, so that the reset asks about it.
+# A view refused in Edit leaves the edit on, so that the reset asks about it.
 each VIEW  FORMAT MENU       TEXT
 row  dvd   D      mnuByDVD   viewed!
 row  laser L      mnuByLaser "be viewed!"

@@ -1,4 +1,4 @@
-# Title view: a number padded with blanks reads like one padded with zeros, and 2.5 and 3.5 go to the even neighbour.
+# A number padded with blanks reads like one padded with zeros; 2.5 and 3.5 round to the even neighbour.
 each VIEW  FORMAT FILE     MENU
 row  title D      Titlepra mnuByTitle
 row  dvd   D      DVDpra   mnuByDVD

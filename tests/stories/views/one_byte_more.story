@@ -1,4 +1,4 @@
-# Title view of a key file of two keys and one byte: there is no end; behind the last key no new one is read.
+# A view of a key file of two keys and one byte has no end; past the last key no new one is read.
 each VIEW  FORMAT KIND
 row  title D      Title
 row  dvd   D      DVD

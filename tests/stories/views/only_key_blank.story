@@ -1,4 +1,4 @@
-# Title view with one key, a blank one: it ends while it opens.
+# A view whose only key is blank ends while it opens.
 each VIEW  FORMAT KEYS     MENU       BOXTITLE                   TEXT
 row  title D      Titlepra mnuByTitle "ALPHA TITLE SEARCH"       "End of file!"
 row  dvd   D      DVDpra   mnuByDVD   "ALPHA DVD TITLE SEARCH"   "End of file!"

@@ -1,4 +1,4 @@
-# Title view opened in Edit: the key's scratch value ends the edit with no question, and Back is to be had again.
+# A view opened in Edit: the key's scratch value ends the edit without a question, and Back is enabled again.
 each VIEW  FORMAT MENU
 row  title D      mnuByTitle
 row  dvd   D      mnuByDVD

@@ -1,4 +1,4 @@
-# Title view of a file of 24 bytes: that is no key; the record number that there is is shown.
+# A view of a file of 24 bytes: that is not a key; the current record number is shown.
 each VIEW  FORMAT FILE     MENU       CAPTION
 row  title D      Titlepra mnuByTitle "Title Sorted All Formats"
 row  dvd   D      DVDpra   mnuByDVD   "  DVD  Sorted"

@@ -1,4 +1,4 @@
-# Title view of a file of 25 bytes: that counts as a key, whose number reads as 0.
+# A view of a file of 25 bytes: that counts as a key, whose number reads as 0.
 each VIEW  FORMAT FILE     MENU
 row  title D      Titlepra mnuByTitle
 row  dvd   D      DVDpra   mnuByDVD

@@ -1,4 +1,4 @@
-# Title view with two blank keys in front: one is passed over, the second is taken, and its number leads to its film.
+# A view with two leading blank keys skips one; the second is taken, and its number leads to its film.
 each VIEW  FORMAT KEYS     MENU
 row  title D      Titlepra mnuByTitle
 row  dvd   D      DVDpra   mnuByDVD

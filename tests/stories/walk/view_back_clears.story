@@ -1,4 +1,5 @@
-# Title view: Back empties director, colour and format (the disc mode comes back by its rule), seen at a key without a number.
+# Back in a view empties director, colour and format (the disc mode returns by its rule), seen at a key without a
+# number.
 each VIEW  KEYS     MENU
 row  title Titlepra mnuByTitle
 row  dvd   DVDpra   mnuByDVD

@@ -1,4 +1,4 @@
-# Title view with a blank first key: it opens on the second; Back goes to the first and is sent on again, and the top is never told.
+# A view with a blank first key opens on the second; Back goes to the first and on again, and never reports the top.
 each VIEW  FORMAT KEYS     MENU
 row  title D      Titlepra mnuByTitle
 row  dvd   D      DVDpra   mnuByDVD

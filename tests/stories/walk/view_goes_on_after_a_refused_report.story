@@ -1,4 +1,4 @@
-# Laser view: a report refused in its middle has closed its file; Next opens it again and goes on.
+# A report refused in the middle of a view has closed its file; Next opens it again and continues.
 each VIEW  FORMAT KIND
 row  laser L      Laser
 row  vhs   V      VHS

@@ -1,4 +1,4 @@
-# Title view: Next empties format and aspect, seen at a key without a number, which shows no film.
+# Next in a view empties format and aspect, seen at a key without a number, which shows no film.
 each VIEW  KEYS     MENU       SHOWN
 row  title Titlepra mnuByTitle ""
 row  dvd   DVDpra   mnuByDVD   X

@@ -1,4 +1,4 @@
-# Title view: after its top it opens anew at its first key.
+# A view that has reported its top opens again at its first key.
 each VIEW  FORMAT FORMAT2 MENU       BOXTITLE                   TEXT
 row  title D      V       mnuByTitle "ALPHA TITLE SEARCH"       "Beginning of file encounter!"
 row  dvd   D      V       mnuByDVD   "ALPHA DVD TITLE SEARCH"   "Begining of file encountered!"

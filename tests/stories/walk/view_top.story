@@ -1,4 +1,4 @@
-# Title view: Back on its first key beeps, says so in the view's own words and resets.
+# Back on the first key of a view beeps, says so in the view's own words and resets.
 each VIEW  FORMAT FORMAT2 MENU       BOXTITLE                   TEXT
 row  title D      V       mnuByTitle "ALPHA TITLE SEARCH"       "Beginning of file encounter!"
 row  dvd   D      V       mnuByDVD   "ALPHA DVD TITLE SEARCH"   "Begining of file encountered!"

@@ -1,4 +1,4 @@
-# A new film that has saved itself and waits for Save: the aspect takes the focus.
+# A new film that has saved itself and waits for Save: these fields of page 1 still take the focus.
 each FIELD_NAME BOX       FOCUS     ALIGNMENT
 row  aspect     txtLetter List4     centre
 row  cassette   txtCassNo txtCassNo left

@@ -1,4 +1,4 @@
-# A new film that has saved itself and waits for Save: the director refuses.
+# A new film that has saved itself and waits for Save: these fields refuse.
 each FIELD_NAME BOX          ICON    BOXTITLE             TEXT                  FOCUS     ALIGNMENT
 row  director   txtDirector  warning Director             "Hit edit to change." cmdSave   centre
 row  format     txtFormat    none    ""                   "Hit Edit To Change"  txtFormat left

@@ -1,4 +1,4 @@
-# A new film that has saved itself and waits for Save: the awards takes the focus.
+# A new film that has saved itself and waits for Save: these fields of page 2 still take the focus.
 each FIELD_NAME      BOX
 row  awards          txtAwards
 row  choreography    txtChoreography
