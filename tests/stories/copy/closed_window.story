@@ -1,4 +1,4 @@
-# The close box opens the master file again; the next time the window begins afresh.
+# The close box opens the master file again; the next time the window opens afresh.
 drive a none
 film 1 Title="Solaris"
 film 2 Title="Stalker"

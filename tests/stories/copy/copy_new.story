@@ -1,4 +1,4 @@
-# A file that the disk does not hold yet is copied after one question, and the record screen goes on.
+# A file that the disk does not hold yet is copied after one question, and the record screen continues.
 drive a floppy
 film 1 Title="Solaris"
 film 2 Title="Stalker"

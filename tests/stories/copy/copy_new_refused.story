@@ -1,4 +1,4 @@
-# No copies nothing; the window stays, and the drive is deaf until it has lost the focus.
+# No copies nothing; the window stays, and the drive is ignored until it has lost the focus.
 drive a floppy
 film 1 Title="Solaris"
 start

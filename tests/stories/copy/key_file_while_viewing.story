@@ -1,4 +1,4 @@
-# A key file is copied while its view is open, and the view goes on.
+# A key file is copied while its view is open, and the view continues.
 drive a floppy
 film 1 Title="Stalker" Format="D"
 film 2 Title="Solaris" Format="D"

@@ -1,4 +1,4 @@
-# The copy on the disk is the collection as it stands now.
+# The copy on the disk is the collection as it is now.
 drive a floppy
 film 1 Title="Solaris"
 start

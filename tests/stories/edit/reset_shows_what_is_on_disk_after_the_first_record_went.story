@@ -1,4 +1,4 @@
-# Reset reads record 1 anew.
+# Reset reads record 1 again.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 start

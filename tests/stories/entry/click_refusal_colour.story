@@ -1,4 +1,5 @@
-# A click in view on the colour that has the focus already is refused under a title of its own, and Save gets the focus.
+# A click in view on the colour that has the focus already is refused under a title of its own, and Save gets the
+# focus.
 film 1 Title="49th Parallel, The" Format="V" Genre="WE"
 film 2 Title="Area 49" Format="D" Genre="DR"
 sorted

@@ -1,4 +1,5 @@
-# A click in view on the disc mode that has the focus already is refused under a title of its own, and the focus stays.
+# A click in view on the disc mode that has the focus already is refused under a title of its own, and the focus
+# stays.
 film 1 Title="Alien" Format="L" CLV1="CAV"
 start
 click cmdEdit

@@ -1,4 +1,4 @@
-# A click on a disc mode that a tape still has open shuts the box, and its list opens all the same.
+# A click on a disc mode that a tape still has open shuts the box, and its list opens nonetheless.
 film 1 Title="Alien" Format="L" CLV1="CLV" Color1="Color"
 start
 click cmdEdit

@@ -1,4 +1,4 @@
-# In Edit the disc mode is not aligned anew for typing.
+# In Edit the disc mode is not aligned again for typing.
 film 1 Title="Alien" Format="L" CLV1="CAV"
 start
 click cmdEdit

@@ -1,4 +1,5 @@
-# Save from the menu leaves the genre list of a new film open; the key that closes it in view meets the refusal of the next box.
+# Save from the menu leaves the genre list of a new film open; the key that closes it in view meets the refusal of
+# the next box.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 start

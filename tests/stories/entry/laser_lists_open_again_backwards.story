@@ -1,4 +1,5 @@
-# Shift Tab out of the aspect and mode lists of a new laser goes back to their boxes, which open them afresh; Esc does nothing.
+# Shift Tab out of the aspect and mode lists of a new laser goes back to their boxes, which open them again; Esc does
+# nothing.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 start

@@ -1,4 +1,5 @@
-# With Auto Save on and Auto Sort off the last field of a new film saves and sorts all the same, and the fields stay until Save.
+# With Auto Save on and Auto Sort off the last field of a new film saves and sorts all the same, and the fields stay
+# until Save.
 file AutoSave "YES\r\n"
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"

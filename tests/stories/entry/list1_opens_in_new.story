@@ -1,4 +1,4 @@
-# In a new film the genre opens its list, which stands in order of its rows, and the first row is the default.
+# In a new film the genre opens its list, in the order of its rows, and the first row is the default.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 start

@@ -1,4 +1,4 @@
-# In a new film the format opens its list, and DVD stands in the box at once.
+# In a new film the format opens its list, and DVD is in the box at once.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 start

@@ -1,4 +1,5 @@
-# A new film that the last field has saved without ending it is no longer typed: some fields of page 1 refuse, some do not, and the lists open as far as the new film goes.
+# A new film that the last field has saved without ending it is no longer typed: some fields of page 1 refuse, some
+# do not, and the lists open as far as the new film goes.
 file AutoSave "YES\r\n"
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"

@@ -1,4 +1,5 @@
-# In Edit the rating list passes the focus on by the tab order: forwards to the packaging, backwards to its own box, which opens it again.
+# In Edit the rating list passes the focus on by the tab order: forwards to the packaging, backwards to its own box,
+# which opens it again.
 film 1 Title="Alien" Format="V" Rating="R"
 start
 click cmdEdit

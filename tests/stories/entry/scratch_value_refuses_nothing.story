@@ -1,4 +1,5 @@
-# In a view whose step left EditMode at neither 0 nor 1 no field refuses, aligns itself or opens a list, on page 2 neither.
+# In a view whose step left EditMode at neither 0 nor 1 no field refuses, aligns itself or opens a list, on page 2
+# neither.
 film 1 Title="Area 51" Format="V" Genre="SF"
 film 2 Title="Plan 49" Format="L" Genre="DR"
 sorted

@@ -1,4 +1,4 @@
-# Art search: capitals on both sides, accented letters, too.
+# Art search: ignores case, accented letters included.
 film 1 Title="Film 1" SetDirection="nobody"
 film 2 Title="Film 2" SetDirection="pere"
 film 3 Title="Film 3" SetDirection="père"

@@ -1,4 +1,4 @@
-# Art search whose only hit is the last film: it is shown, and a new search tells the end behind it.
+# Art search whose only hit is the last film: it is shown, and a new search reports the end after it.
 film 1 Title="Film 1" SetDirection="Nobody"
 film 2 Title="Film 2" SetDirection="Banana Split"
 film 3 Title="Film 3" SetDirection="Nobody"

@@ -1,4 +1,4 @@
-# The director search goes on with its kept text after a star search, from the film on the screen.
+# The director search continues with its kept text after a star search, from the film on the screen.
 film 1 Title="Film 1" Director="Aa" Star1="Bb"
 film 2 Title="Film 2" Director="Aa" Star1="Bb"
 film 3 Title="Film 3" Director="Xx" Star1="Cc"

@@ -1,4 +1,4 @@
-# A directors list given no name leaves an empty text to the search that goes on: it stands in every field.
+# A directors list given no name leaves an empty text to the search that continues: it is in every field.
 film 1 Title="Alpha" Director="Zed"
 film 2 Title="Beta" Director="Yan"
 film 3 Title="Gamma" Director="Oz"

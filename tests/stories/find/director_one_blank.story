@@ -1,4 +1,4 @@
-# A blank alone is a text like any other: it stands between two names, not behind the last.
+# A blank alone is a text like any other: it is between two names, not after the last.
 film 1 Title="Alpha" Director="Zed"
 film 2 Title="Beta"
 film 3 Title="Gamma" Director="Yan Oz"

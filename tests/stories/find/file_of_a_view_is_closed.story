@@ -1,4 +1,4 @@
-# A search closes the view's file, so that the view opened afresh finds it free.
+# A search closes the view's file, so that the view opened again finds it free.
 film 1 Title="Alien" Director="Aa" Format="D"
 film 2 Title="Brazil" Format="D"
 sorted

@@ -1,4 +1,4 @@
-# Next after a search in a genre view goes on with the first key and the genre asked for before.
+# Next after a search in a genre view continues with the first key and the genre asked for before.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Brazil" Genre="DR" Director="Aa"
 film 3 Title="Casablanca" Genre="DR"

@@ -1,4 +1,4 @@
-# Match goes on behind the film on the screen, which may be another than the hit.
+# Match goes on after the film on the screen, which may be another than the hit.
 film 1 Title="Film 1" Director="Aa"
 film 2 Title="Film 2" Director="Aa"
 film 3 Title="Film 3" Director="Aa"

@@ -1,4 +1,4 @@
-# MPAA search: blanks in front of the answer are part of what is sought.
+# MPAA search: leading blanks of the answer are part of the sought text.
 film 1 Title="Film 1" Rating="R"
 film 2 Title="Film 2" Rating="pg"
 film 3 Title="Film 3" Rating="PG"

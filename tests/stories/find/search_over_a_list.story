@@ -1,4 +1,4 @@
-# A search over a list of twenty leaves the rows up; the film of the hit stands behind them.
+# A search over a list of twenty leaves the rows up; the film of the hit is behind them.
 films 1 20 Title="Film ##" Director="Nobody"
 film 20 Title="Film 20" Director="Aa"
 sorted

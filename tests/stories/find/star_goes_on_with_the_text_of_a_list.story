@@ -1,4 +1,5 @@
-# The star search that goes on looks for the stars list's text in capitals, though that list has left it in small letters.
+# The star search that continues looks for the stars list's text in capitals, though that list has left it in small
+# letters.
 film 1 Title="Solaris" Star1="Nobody"
 film 2 Title="Stalker" Star2="Grace Kelly"
 film 3 Title="Mirror" Star2="Gene Kelly"

@@ -1,4 +1,5 @@
-# Star search: of several stars that hit the highest heads the film; each is looked at only if the one before it has not hit.
+# Star search: of several stars that hit the highest heads the film; each is looked at only if the one before it has
+# not hit.
 film 1 Title="Film 1" Star1="Ann Lee" Star3="Bob Lee" Star4="Cid Lee" Star6="Dan Lee"
 start
 click mnuFindStar

@@ -1,4 +1,5 @@
-# Star search: a hit left from the search before stops the chain behind a first star that hits, and heads the film with its name.
+# Star search: a hit left from the search before stops the chain after a first star that hits, and heads the film
+# with its name.
 film 1 Title="Film 1" Star1="Hepburn" Star2="Bogart" Star3="Hepburn"
 start
 click mnuFindStar

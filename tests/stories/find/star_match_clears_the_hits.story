@@ -1,4 +1,4 @@
-# Star search: Match clears the hits of the second to the sixth star before it goes on.
+# Star search: Match clears the hits of the second to the sixth star before it continues.
 film 1 Title="Film 1" Star2="Ann Lee" Star4="Bob Lee"
 film 2 Title="Film 2" Star1="Cid Lee" Star2="Other"
 start

@@ -1,4 +1,5 @@
-# Title search chosen again after its end asks: on record 1 it does not go on, and with its flag set the hits start from 0.
+# Title search chosen again after its end asks: on record 1 it does not go on, and with its flag set the hits start
+# from 0.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

@@ -1,4 +1,4 @@
-# Title search: an empty answer resets the screen with no word and drops the kept text.
+# Title search: an empty answer resets the screen without a word and drops the stored text.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

@@ -1,4 +1,5 @@
-# Title search with its flag set, chosen in a view behind record 1: it goes on from the film on the screen, whatever the position.
+# Title search with its flag set, chosen in a view past record 1: it continues from the film on the screen, whatever
+# the position.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

@@ -1,4 +1,4 @@
-# Title search: small letters find the first film that holds them anywhere; all that it leaves behind.
+# Title search: small letters find the first film that contains them anywhere; all that it leaves behind.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

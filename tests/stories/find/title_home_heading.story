@@ -1,4 +1,4 @@
-# Title search after a reset: the heading behind a hit is the search's own all the same.
+# Title search after a reset: the heading after a hit is the search's own nonetheless.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

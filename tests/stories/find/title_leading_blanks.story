@@ -1,4 +1,5 @@
-# Title search: blanks in front of the answer are part of what is sought, so that a field that begins with the word is passed over.
+# Title search: leading blanks of the answer are part of the sought text, so that a field that begins with the word
+# is skipped.
 film 1 Title="Nobody"
 film 2 Title="karina"
 film 3 Title="Anna Karina"

@@ -1,4 +1,5 @@
-# Title search in a view closes its file, begins anew at position 0 and keeps the view's kind, so that Next is dead.
+# Title search in a view closes its file, starts again at position 0 and keeps the view's kind, so that Next does
+# nothing.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

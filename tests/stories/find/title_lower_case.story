@@ -1,4 +1,4 @@
-# Title search: capitals on both sides, accented letters, too.
+# Title search: ignores case, accented letters included.
 film 1 Title="nobody"
 film 2 Title="pere"
 film 3 Title="père"

@@ -1,4 +1,5 @@
-# Title search: Match goes on to the next film with the kept text, asks nothing, and turns to page 1; behind the last hit, which is the last film, it tells the end.
+# Title search: Match continues to the next film with the stored text, asks nothing, and turns to page 1; past the
+# last hit, which is the last film, it reports the end.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

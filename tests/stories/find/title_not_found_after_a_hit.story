@@ -1,4 +1,4 @@
-# Title search after a hit and a reset that finds nothing says so all the same: on record 1 it counts anew.
+# Title search after a hit and a reset that finds nothing says so nonetheless: on record 1 it counts again from 0.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

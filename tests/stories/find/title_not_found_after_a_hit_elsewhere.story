@@ -1,4 +1,4 @@
-# Title search from a film that is not the first, after a hit: finding nothing tells the end.
+# Title search from a film that is not the first, after a hit: finding nothing reports the end.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

@@ -1,4 +1,4 @@
-# Title search whose only hit is the last film: it is shown, and Match tells the end behind it.
+# Title search whose only hit is the last film: it is shown, and Match reports the end after it.
 film 1 Title="Nobody"
 film 2 Title="Banana Split"
 film 3 Title="Nobody"

@@ -1,4 +1,5 @@
-# Title search: a blank behind the word finds nothing in the field's own padding, and the field's leading blanks are none.
+# Title search: a blank after the word finds nothing in the field's own padding, and the field's leading blanks do
+# not count.
 film 1 Title="Anna Karina"
 film 2 Title="  karina"
 start

@@ -1,4 +1,4 @@
-# Title search chosen again after a jump goes on from the film on the screen.
+# Title search chosen again after a jump continues from the film on the screen.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

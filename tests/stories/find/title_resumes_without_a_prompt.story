@@ -1,4 +1,4 @@
-# Title search chosen again after Match goes on without asking, from the film on the screen, which it tests again.
+# Title search chosen again after Match continues without asking, from the film on the screen, which it tests again.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

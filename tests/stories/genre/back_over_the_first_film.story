@@ -1,4 +1,4 @@
-# Back over films of another genre down to position 1 tells the top.
+# Back over films of another genre down to position 1 reports the top.
 film 1 Title="Alien" Genre="DR"
 film 2 Title="Brazil" Genre="DR"
 film 3 Title="Casablanca" Genre="SF"

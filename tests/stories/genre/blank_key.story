@@ -1,4 +1,4 @@
-# A blank key is passed over in a genre view, on the way back, too: Back goes to it and is sent on to the film that it came from.
+# A blank key is skipped in a genre view, on the way back, too: Back goes to it and returns to the same film.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Brazil" Genre="SF"
 film 3 Title="Casablanca" Genre="SF"

@@ -1,4 +1,4 @@
-# Blanks in the answer are part of what is sought.
+# Blanks in the answer are part of the sought text.
 film 1 Title="Alien" Genre="SF" Director="Ridley Scott"
 film 2 Title="Brazil" Genre="DR"
 film 3 Title=""

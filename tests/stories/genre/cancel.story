@@ -1,4 +1,4 @@
-# Find By Genre: Cancel resets the screen with no word.
+# Find By Genre: Cancel resets the screen without a word.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Brazil" Genre="SF"
 film 3 Title="Casablanca" Genre="DR"

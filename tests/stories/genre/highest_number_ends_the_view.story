@@ -1,4 +1,4 @@
-# The film with the highest number ends the view wherever it stands; the films behind it are not reached.
+# The film with the highest number ends the view wherever it is; the films after it are not reached.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Zardoz" Genre="SF"
 film 3 Title="Metropolis" Genre="SF"

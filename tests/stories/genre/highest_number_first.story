@@ -1,4 +1,4 @@
-# The film with the highest number in front of all others ends the view before it begins.
+# The film with the highest number before all others ends the view before it begins.
 film 1 Title="Metropolis" Genre="SF"
 film 2 Title="Alien" Genre="SF"
 sorted

@@ -1,4 +1,4 @@
-# Back clears the boxes, is not dead in a genre view, and works by its hot key.
+# Back clears the boxes, works in a genre view, and works by its hot key.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Brazil" Genre="SF"
 film 3 Title="Casablanca" Genre="DR"

@@ -1,4 +1,4 @@
-# One letter hits every code that holds it, in the second place, too; it has no words.
+# One letter hits every code that contains it, in the second place, too; it has no words.
 film 1 Title="Alien" Genre="CO"
 film 2 Title="Brazil" Genre="DO"
 film 3 Title="Casablanca" Genre="DR"

@@ -1,4 +1,4 @@
-# Find By Genre over a genre list is the same kind of view: it goes on from the list's position and asks nothing.
+# Find By Genre over a genre list is the same kind of view: it continues from the list's position and asks nothing.
 films 1 25 Title="Film ##" Genre="SF"
 sorted
 start

@@ -1,4 +1,4 @@
-# Find By Genre over another view begins afresh and asks.
+# Find By Genre over another view starts again and asks.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Brazil" Genre="SF"
 film 3 Title="Casablanca" Genre="DR"

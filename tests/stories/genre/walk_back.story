@@ -1,4 +1,5 @@
-# Back in a genre view passes over the films of other genres; the film of the first key is not reached: at position 1 the top is told.
+# Back in a genre view skips the films of other genres; the film of the first key is not reached: at position 1 the
+# top is reported.
 film 1 Title="Alien" Genre="SF"
 film 2 Title="Brazil" Genre="SF"
 film 3 Title="Casablanca" Genre="DR"

@@ -1,4 +1,5 @@
-# Shift+Tab goes back from Save over the buttons and the selected page to the last field of page 1, which refuses in view.
+# Shift+Tab goes back from Save over the buttons and the selected page to the last field of page 1, which refuses in
+# view.
 film 1 Title="Alien" Format="V"
 start
 key Shift+Tab

@@ -1,4 +1,5 @@
-# In Edit Tab goes through the fields of page 2 in order; the rating passes the focus to its list, which passes it on to the packaging.
+# In Edit Tab goes through the fields of page 2 in order; the rating passes the focus to its list, which passes it on
+# to the packaging.
 film 1 Title="Alien" Format="V"
 start
 click cmdEdit

@@ -1,4 +1,5 @@
-# A jump empties the name of the genre, so that an unknown code has none, and the aspect in front of and behind the showing.
+# A jump empties the name of the genre, so that an unknown code has none, and the aspect in front of and behind the
+# showing.
 film 1 Title="Alien" Genre="SF" Letter="W"
 film 2 Title="Brazil" Genre="ZZ" Letter="Z"
 film 3 Title="Cabaret" Genre="DR" Letter="P"

@@ -1,4 +1,4 @@
-# Find Last Entry shows the film whose number "Last" holds and changes no heading.
+# Find Last Entry shows the film whose number "Last" contains and changes no heading.
 films 1 4 Title="Film #" Genre="SF" Format="D"
 file Last "3\r\n"
 start

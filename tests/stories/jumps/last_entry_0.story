@@ -1,4 +1,4 @@
-# A 0 in "Last" becomes the record's number, the read fails and is passed over: the film stays under number 0.
+# A 0 in "Last" becomes the record's number, the read fails and is skipped: the film stays under number 0.
 films 1 4 Title="Film #" Genre="SF" Format="D"
 file Last "0\r\n"
 start

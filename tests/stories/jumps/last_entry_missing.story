@@ -1,4 +1,4 @@
-# A missing "Last" is passed over: the film on the screen is shown again.
+# A missing "Last" is skipped: the film on the screen is shown again.
 films 1 4 Title="Film #" Genre="SF" Format="D"
 start
 click cmdNext

@@ -1,4 +1,4 @@
-# "Last" behind the last slot shows it, tells the end and resets.
+# "Last" past the last slot shows it, reports the end and resets.
 films 1 4 Title="Film #" Genre="SF" Format="D"
 file Last "5\r\n"
 start

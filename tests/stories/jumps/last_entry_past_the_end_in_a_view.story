@@ -1,4 +1,4 @@
-# "Last" behind the last slot in a view ends the view.
+# "Last" past the last slot in a view ends the view.
 films 1 4 Title="Film #" Genre="SF" Format="D"
 sorted
 file Last "5\r\n"

@@ -1,4 +1,4 @@
-# After a jump in a search Back stays dead until the reset.
+# After a jump in a search Back does nothing until the reset.
 films 1 5 Title="Film #" Director="Aa"
 start
 click mnuFindDirector

@@ -1,4 +1,4 @@
-# The largest number of 32 bits is only behind the end.
+# The largest number of 32 bits is only past the end.
 film 1 Title="Alien"
 start
 click mnuFile

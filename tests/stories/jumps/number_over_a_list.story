@@ -1,4 +1,4 @@
-# A jump out of a list of twenty leaves the rows up; the list's Next goes on from the first key.
+# A jump out of a list of twenty leaves the rows up; the list's Next continues from the first key.
 films 1 45 Title="Film ##"
 sorted
 start

@@ -1,4 +1,4 @@
-# A number behind the last slot shows that slot first, then the end under a title with a blank behind it, then record 1.
+# A number past the last slot shows that slot first, then the end under a title with a blank after it, then record 1.
 films 1 3 Title="Film #"
 start
 click mnuFile

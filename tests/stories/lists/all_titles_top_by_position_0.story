@@ -1,4 +1,4 @@
-# The title list gone on with from position 0 after Back in a genre view tells the top.
+# The title list continued from position 0 after Back in a genre view reports the top.
 films 1 45 Title="Film ##" Genre="CO" Format="D" Director="Nobody"
 sorted
 start

@@ -1,4 +1,4 @@
-# The list's Back after a search has closed its file opens it again and goes on from the position.
+# The list's Back after a search has closed its file opens it again and continues from the position.
 films 1 90 Title="Film ##" Format="D" Director="Aa"
 films 1 30 Title="Film ##" Format="V" Director="Aa"
 sorted

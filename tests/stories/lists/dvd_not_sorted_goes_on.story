@@ -1,4 +1,4 @@
-# DVD list with a count of 0 says so and goes on all the same: the keys that there are fill it.
+# DVD list with a count of 0 says so and goes on nonetheless: the keys that there are fill it.
 films 1 20 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 count DVDpra 0

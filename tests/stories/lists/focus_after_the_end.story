@@ -1,4 +1,5 @@
-# At the end of a list its Next goes and hands the focus to its Back, which stays; at the top Back goes, and the focus passes through the rows to the title.
+# At the end of a list its Next goes and hands the focus to its Back, which stays; at the top Back goes, and the
+# focus passes through the rows to the title.
 films 1 25 Title="Film ##"
 sorted
 start

@@ -1,4 +1,4 @@
-# Genre list chosen again on its first page begins anew; after Next it goes on from the last row.
+# Genre list chosen again on its first page starts again; after Next it continues from the last row.
 films 1 45 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 start

@@ -1,4 +1,4 @@
-# Genre list: Back on its first page counts the nineteen films before the last row and tells the top.
+# Genre list: Back on its first page counts the nineteen films before the last row and reports the top.
 films 1 100 Title="Film ###" Genre="CO" Format="D"
 film 2 Title="Film 002" Genre="DR" Format="D"
 film 4 Title="Film 004" Genre="DR" Format="D"

@@ -1,4 +1,5 @@
-# Genre list: Back pages to the first film of the genre; the next Back passes only others on its way to the top and writes nothing.
+# Genre list: Back pages to the first film of the genre; the next Back passes only others on its way to the top and
+# writes nothing.
 films 1 80 Title="Film ##" Format="V" Genre="DR"
 films 31 70 Title="Film ##" Format="V" Genre="CO"
 sorted

@@ -1,4 +1,5 @@
-# Genre list of a letter in second place: at the twentieth film the count stays at 20, and the film of another genre next to it gets a row, too.
+# Genre list of a letter in second place: at the twentieth film the count stays at 20, and the film of another genre
+# next to it gets a row, too.
 films 1 100 Title="Film ###" Genre="CO" Format="D"
 film 2 Title="Film 002" Genre="DR" Format="D"
 film 4 Title="Film 004" Genre="DR" Format="D"

@@ -1,4 +1,5 @@
-# Genre list, Back: a blank first key is read once more in its own place and leads to its film; then the top is told.
+# Genre list, Back: a blank first key is read once more in its own place and leads to its film; then the top is
+# reported.
 films 1 50 Title="Film ##" Year="19##" Genre="DR" Format="D"
 key Titlepra.Dat "" 1
 key Titlepra.Dat "Film 02" 2

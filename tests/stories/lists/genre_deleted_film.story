@@ -1,4 +1,5 @@
-# Genre list shows what the records hold now: a deleted film is a row without a title, a changed one has its new words.
+# Genre list shows what the records hold now: a deleted film is a row without a title, a changed one has its new
+# words.
 films 1 20 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 film 2 Title=""

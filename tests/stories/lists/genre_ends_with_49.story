@@ -1,4 +1,5 @@
-# Genre list whose last title begins with 49: EditMode is left at 1, so that the reset at its end asks about unsaved work.
+# Genre list whose last title begins with 49: EditMode is left at 1, so that the reset at its end asks about unsaved
+# work.
 film 1 Title="49th Parallel" Genre="DR" Format="D"
 sorted
 start

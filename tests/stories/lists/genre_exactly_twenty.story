@@ -1,4 +1,4 @@
-# Genre list of exactly twenty keys: one full page; Next empties all rows, tells the end and resets.
+# Genre list of exactly twenty keys: one full page; Next empties all rows, reports the end and resets.
 films 1 20 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 start

@@ -1,4 +1,4 @@
-# Genre list asked for "d": every code that holds it, anywhere; capitals on both sides.
+# Genre list asked for "d": every code that contains it, anywhere; ignoring case.
 film 1 Title="Film 01" Genre="CO"
 film 2 Title="Film 02" Genre="DO"
 film 3 Title="Film 03" Genre="FO"

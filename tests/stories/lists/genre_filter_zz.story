@@ -1,4 +1,4 @@
-# Genre list asked for "zz": nothing holds it; capitals on both sides.
+# Genre list asked for "zz": nothing contains it; ignoring case.
 film 1 Title="Film 01" Genre="CO"
 film 2 Title="Film 02" Genre="DO"
 film 3 Title="Film 03" Genre="FO"

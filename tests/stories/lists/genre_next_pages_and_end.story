@@ -1,4 +1,4 @@
-# Genre list: Next brings the next twenty; the short last page is emptied, the end told, and the screen resets.
+# Genre list: Next brings the next twenty; the short last page is emptied, the end reported, and the screen resets.
 films 1 45 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 start

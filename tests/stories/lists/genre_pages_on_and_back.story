@@ -1,4 +1,4 @@
-# Genre list: films of other genres are passed over on the way on and on the way back.
+# Genre list: films of other genres are skipped in both directions.
 films 1 100 Title="Film ###" Genre="CO" Format="D"
 film 2 Title="Film 002" Genre="DR" Format="D"
 film 4 Title="Film 004" Genre="DR" Format="D"

@@ -1,4 +1,4 @@
-# Genre list of seven keys never shows a page: it fills seven rows, tells the end and resets.
+# Genre list of seven keys never shows a page: it fills seven rows, reports the end and resets.
 films 1 7 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 start

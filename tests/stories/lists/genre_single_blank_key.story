@@ -1,4 +1,4 @@
-# Genre list: a blank key is passed over on the way on.
+# Genre list: a blank key is skipped on the way forward.
 films 1 22 Title="Film ##" Year="19##" Genre="DR" Format="D"
 key Titlepra.Dat "" 1
 key Titlepra.Dat "Film 02" 2

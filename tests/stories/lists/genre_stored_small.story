@@ -1,4 +1,4 @@
-# Genre list: small letters in the record are taken as capitals, a blank in front of them is none.
+# Genre list: small letters in the record are taken as capitals, leading blanks do not count.
 film 1 Title="Film 01" Genre="dr"
 film 2 Title="Film 02" Genre=" D"
 film 3 Title="Film 03" Genre="CO"

@@ -1,4 +1,5 @@
-# A list that goes on after a search has closed its file opens that file again, whichever list's menu item goes on with it.
+# A list that continues after a search has closed its file opens that file again, whichever list's menu item
+# continues with it.
 films 1 30 Title="Film ##" Format="V" Director="Aa"
 films 31 90 Title="Film ##" Format="D" Director="Aa"
 sorted

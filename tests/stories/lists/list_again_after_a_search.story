@@ -1,4 +1,5 @@
-# A search closes the list's key file; the list chosen again while it goes on opens it and goes on from the position.
+# A search closes the list's key file; the list chosen again while it goes on opens it and continues from the
+# position.
 films 1 45 Title="Film ##" Genre="DR" Format="D" Director="Nobody"
 sorted
 start

@@ -1,4 +1,4 @@
-# A title of forty characters stands in its row in full.
+# A title of forty characters is in its row in full.
 film 1 Title="Dr. Strangelove or How I Learned to Stop"
 films 2 20 Title="Film ##"
 sorted

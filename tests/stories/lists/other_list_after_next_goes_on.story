@@ -1,4 +1,5 @@
-# Another list chosen after Next is no fresh one: it goes on in the open key file from the last row, under the old kind.
+# Another list chosen after Next is no fresh one: it continues in the open key file from the last row, under the old
+# kind.
 films 1 60 Title="Film ##" Genre="DR" Format="D"
 film 1 Title="Film 01" Genre="DR" Format="V"
 sorted

@@ -1,4 +1,5 @@
-# The tape of record 49 shows its letter in its row, for its scratch value is neither 0 nor 1; paging back writes the word.
+# The tape of record 49 shows its letter in its row, for its scratch value is neither 0 nor 1; paging back writes the
+# word.
 films 1 80 Title="Film ##" Format="V" Genre="CO"
 film 50 Title="Film 50" Format="L" Genre="CO"
 film 52 Title="Film 52" Format="D" Genre="CO"

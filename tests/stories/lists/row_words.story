@@ -1,4 +1,5 @@
-# The rows have the words of genre and format as the record screen has them; an unknown genre keeps the name of the row before.
+# The rows have the words of genre and format as the record screen has them; an unknown genre keeps the name of the
+# row before.
 film 1 Title="Alien" Year="79" Genre="SF" Format="L"
 film 2 Title="Brazil" Year=" 85" Genre="ZZ" Format="V"
 film 3 Title="Cabaret" Year="1972" Genre="MU" Format="D"

@@ -1,4 +1,4 @@
-# A list of twenty-one keys: the last film stands alone for a moment, then the end takes the list away.
+# A list of twenty-one keys: the last film is alone for a moment, then the end takes the list away.
 films 1 21 Title="Film ##" Format="V" Genre="CO"
 sorted
 start

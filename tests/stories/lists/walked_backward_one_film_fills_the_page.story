@@ -1,4 +1,5 @@
-# After Back in a genre view a genre list walks backward: before a film of another genre the one before it comes again, row after row.
+# After Back in a genre view a genre list walks backward: before a film of another genre the one before it comes
+# again, row after row.
 films 1 30 Title="Film ##" Genre="CO"
 film 2 Title="Film 02" Genre="DR"
 sorted

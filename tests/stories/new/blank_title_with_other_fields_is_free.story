@@ -1,4 +1,4 @@
-# A blank title makes a slot free whatever else stands in it.
+# A blank title makes a slot free whatever else it contains.
 film 1 Title="Alien"
 film 2 Director="Nobody" Format="V" CLV1="CAV" Color1="Color" Rating="R" Letter="T" NumReel="2"
 film 3 Title="Casablanca"

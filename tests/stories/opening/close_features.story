@@ -1,4 +1,4 @@
-# The close box of the features window ends the program, although the record screen stands behind it.
+# The close box of the features window ends the program, although the record screen is behind it.
 remove Fo
 start opener
 click cmdStart

@@ -1,4 +1,5 @@
-# First start: no Fo, Fo1 with YES. Start leads to the features, Continue to the quick start, continue to the records.
+# First start: no Fo, Fo1 with YES. Start leads to the features, Continue to the quick start, continue to the
+# records.
 remove Fo
 file Fo1 "YES\r\n"
 film 1 Title="Solaris" Format="D"

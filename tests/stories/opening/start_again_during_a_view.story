@@ -1,4 +1,4 @@
-# Start pressed again behind a view closes its key file; the view opens it again and goes on.
+# Start pressed again behind a view closes its key file; the view opens it again and continues.
 films 1 3 Title="Film ##"
 sorted
 start opener

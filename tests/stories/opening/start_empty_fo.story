@@ -1,4 +1,4 @@
-# An Fo without a line is passed over like a missing one.
+# An Fo without a line is skipped like a missing one.
 file Fo ""
 file Fo1 "NO\r\n"
 start opener

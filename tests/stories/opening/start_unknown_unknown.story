@@ -1,4 +1,4 @@
-# Features on and an unknown word for the quick start: Continue shows the quick start all the same.
+# Features on and an unknown word for the quick start: Continue shows the quick start nonetheless.
 remove Fo
 file Fo1 "PERHAPS\r\n"
 start opener

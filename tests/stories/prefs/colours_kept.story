@@ -1,4 +1,5 @@
-# Colours that were chosen are there again after a restart; the purchase price shows its ground only when one is chosen.
+# Colours that were chosen are there again after a restart; the purchase price shows its ground only when one is
+# chosen.
 start
 click mnuBGColors
 colour 4194304

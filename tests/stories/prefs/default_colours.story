@@ -1,4 +1,5 @@
-# Default Colors puts all four groups back and overwrites all four files; it leaves the ground of the saved note alone.
+# Default Colors puts all four groups back and overwrites all four files; it leaves the ground of the saved note
+# alone.
 start
 click mnuBGColors
 colour 255

@@ -1,4 +1,5 @@
-# At the start the stored colours are applied: the purchase price keeps its ground, and the saved note takes the tags'.
+# At the start the stored colours are applied: the purchase price keeps its ground, and the saved note takes the
+# tags'.
 file BGColor "255\r\n"
 file txtBGColor "65280\r\n"
 file txtForColor "128\r\n"

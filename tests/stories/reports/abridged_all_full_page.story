@@ -1,4 +1,4 @@
-# 48 films fill the first page: the total stands on the second.
+# 48 films fill the first page: the total is on the second.
 films 1 48 Title="Film ##" Format="L" Genre="CO" Year="19##"
 sorted
 clock 2026-11-21 09:05:07

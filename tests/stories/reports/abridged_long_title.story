@@ -1,4 +1,4 @@
-# A title of 40 characters stands beside its year; a film of no format has no word.
+# A title of 40 characters is next to its year; a film of no format has no word.
 film 1 Title="XXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXXX" Year="1960" Genre="SI"
 sorted
 clock 2026-11-21 09:05:07

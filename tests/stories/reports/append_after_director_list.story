@@ -1,4 +1,5 @@
-# What a list leaves in FirstRecordAdjust displaces the next append: two films were printed, so slot 4 and not 6 is taken.
+# What a list leaves in FirstRecordAdjust displaces the next append: two films were printed, so slot 4 and not 6 is
+# taken.
 film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS" Year="1958"
 film 2 Title="Solaris" Director="Andrei Tarkovsky" Star1="Natalya Bondarchuk" Format="V" Genre="SF" Year="1972"
 film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS" Year="1954"

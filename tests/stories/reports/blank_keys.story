@@ -1,4 +1,4 @@
-# One blank key is passed over, the second in a row is taken: its number leads to a film.
+# One blank key is skipped, the second in a row is taken: its number leads to a film.
 film 1 Title="Alpha" Format="D" Genre="DR"
 film 2 Title="Beta" Format="D" Genre="DR"
 film 3 Title="Gamma" Format="D" Genre="DR"

@@ -1,4 +1,4 @@
-# With one key nothing is ever found; the text stands in capitals in the message.
+# With one key nothing is ever found; the text is in capitals in the message.
 film 1 Title="Alpha" Director="Jean Renoir" Format="D"
 sorted
 clock 2026-11-21 09:05:07

@@ -1,4 +1,4 @@
-# One film more than the first page holds.
+# One film more than fit the first page.
 films 1 45 Title="Film ###" Director="Ann Smith" Star1="Ann Smith" Genre="CO" Format="V" Year="1950"
 sorted
 clock 2026-11-21 09:05:07

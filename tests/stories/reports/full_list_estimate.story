@@ -1,4 +1,4 @@
-# The words behind the figure are never cleared: what an earlier report left stands behind a figure of less than 1.
+# The words after the figure are never cleared: what an earlier report left stays after a figure of less than 1.
 films 1 4 Title="Film ##" Director="Director ##" Star1="Star ##" Format="V" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
 sorted
 clock 2026-11-21 09:05:07

@@ -1,4 +1,4 @@
-# Eight films fill the page: the figure is 1 with the singular, and the total stands on a page of its own.
+# Eight films fill the page: the figure is 1 with the singular, and the total is on a page of its own.
 films 1 8 Title="Film ##" Director="Director ##" Star1="Star ##" Format="V" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
 sorted
 clock 2026-11-21 09:05:07

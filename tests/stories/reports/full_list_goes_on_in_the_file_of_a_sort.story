@@ -1,4 +1,5 @@
-# A sort run from the menu within a view keeps the view's place and leaves the tapes' key file open: the full list goes on there.
+# A sort run from the menu within a view keeps the view's place and leaves the tapes' key file open: the full list
+# goes on there.
 film 1 Title="Alpha" Format="D"
 film 2 Title="Beta" Format="V"
 film 3 Title="Gamma" Format="D"

@@ -1,5 +1,5 @@
-# A title of 31 characters leaves the director in its line, one of 32 or more sends it to the next, which
-# is not counted: eight such films stand on a page of eight more lines.
+# A title of 31 characters leaves the director in its line, one of 32 or more sends it to the next, which is not
+# counted: eight such films stand on a page of eight more lines.
 film 1 Title="1 Long Title of Many Words Inde" Director="Director of Film 1" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
 film 2 Title="2 Long Title of Many Words Indee" Director="Director of Film 2" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
 film 3 Title="3 Long Title of Many Words Indeed Up to " Director="Director of Film 3" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"

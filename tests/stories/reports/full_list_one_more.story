@@ -1,4 +1,4 @@
-# Nine films: the figure reads 1.125, the ninth film stands on page 2.
+# Nine films: the figure reads 1.125, the ninth film is on page 2.
 films 1 9 Title="Film ##" Director="Director ##" Star1="Star ##" Format="V" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
 sorted
 clock 2026-11-21 09:05:07

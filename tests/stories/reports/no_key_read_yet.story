@@ -1,4 +1,5 @@
-# A view without keys has left a position behind the first and nothing read: the list goes on from there and stops at record 0.
+# A view without keys has left a position after the first and nothing read: the list continues from there and stops
+# at record 0.
 film 1 Title="Solaris" Format="D"
 count Titlepra 1
 start

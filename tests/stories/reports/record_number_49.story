@@ -1,5 +1,5 @@
-# "49" in a key's record number leaves a scratch value in EditMode while the film is shown: letters stay letters.
-# The abridged list of all titles turns the L into the word, the full list has no line for it.
+# "49" in a key's record number leaves a scratch value in EditMode while the film is shown: letters stay letters. The
+# abridged list of all titles turns the L into the word, the full list has no line for it.
 films 1 48 Title="Film ##" Format="V" Genre="CO"
 film 49 Title="Zulu" Format="L" Genre="AA"
 sorted

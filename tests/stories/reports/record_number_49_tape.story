@@ -1,4 +1,4 @@
-# A tape under a key with "49" stands as the letter V in its list.
+# A tape under a key with "49" is shown as the letter V in its list.
 films 1 48 Title=""
 film 49 Title="Zulu" Format="V" Genre="AA"
 sorted

@@ -1,4 +1,4 @@
-# 44 films fill the first page; the total stands on the second.
+# 44 films fill the first page; the total is on the second.
 films 1 44 Title="Film ###" Director="Ann Smith" Star1="Ann Smith" Genre="CO" Format="V" Year="1950"
 sorted
 clock 2026-11-21 09:05:07

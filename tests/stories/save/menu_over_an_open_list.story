@@ -1,4 +1,4 @@
-# Save from the menu hides the list that holds the focus; what it had put into the box is saved.
+# Save from the menu hides the list that has the focus; what it had put into the box is saved.
 film 1 Title="Alien" Format="D" Letter="P"
 film 2 Title="Brazil" Format="D"
 start

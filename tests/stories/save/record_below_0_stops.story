@@ -1,4 +1,4 @@
-# The write fails: the note stands already, the film is still open, the count is that of before.
+# The write fails: the note is already there, the film is still open, the count is that of before.
 film 1 Title="Alien" Format="D"
 file Last "-1\r\n"
 start

@@ -1,4 +1,4 @@
-# Auto Save off stops a new film whatever Auto Sort holds.
+# Auto Save off stops a new film whatever Auto Sort says.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

@@ -1,4 +1,4 @@
-# A slot without a title that still has a format letter stands in the file of the format, and not among all titles.
+# A slot without a title that still has a format letter is in the file of the format, and not among all titles.
 film 1 Title="Ran" Format="V"
 film 2 Director="Nobody" Format="V"
 film 3 Director="Nobody"

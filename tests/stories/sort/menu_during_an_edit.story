@@ -1,4 +1,4 @@
-# A sort from the menu leaves the open film open, with the focus and what was typed; it sorts the file as it stands.
+# A sort from the menu leaves the open film open, with the focus and what was typed; it sorts the file as it is.
 film 1 Title="Alien" Format="D"
 start
 click cmdEdit

@@ -1,4 +1,5 @@
-# Without its weights every pass fails: the key files stay, the counts are those of no pass, and the run goes to its end.
+# Without its weights every pass fails: the key files stay, the counts are those of no pass, and the run goes to its
+# end.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

@@ -1,4 +1,4 @@
-# A title that was edited stands under its old name until the next sort.
+# A title that was edited keeps its old name until the next sort.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

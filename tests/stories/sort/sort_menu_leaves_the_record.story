@@ -1,4 +1,4 @@
-# The menu makes the same files and leaves the record on the screen; the view's name is one that there is not.
+# The menu makes the same files and leaves the record on the screen; the view's kind names no view.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

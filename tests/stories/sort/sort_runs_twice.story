@@ -1,4 +1,4 @@
-# A sort right after a sort: the file that the first has left open is closed and made anew.
+# A sort right after a sort: the file that the first has left open is closed and made again.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

@@ -1,4 +1,4 @@
-# The status of a pass that fails stands in its label; the line of the counts is that of before.
+# The status of a pass that fails is in its label; the line of the counts is that of before.
 film 1 Title="Alien" Format="D"
 file VHSpra.Dat/x ""
 remove UPPER.ALT

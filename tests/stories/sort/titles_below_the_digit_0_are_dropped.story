@@ -1,5 +1,5 @@
-# Only a title that compares greater than "000000" stands among all titles; what begins with a quote or a parenthesis
-# does not, but its format's file has it.
+# Only a title that compares greater than "000000" is among all titles; what begins with a quote or a parenthesis
+# is not, but its format's file has it.
 film 1 Title="'Round Midnight" Format="D"
 film 2 Title="(500) Days" Format="D"
 film 3 Title="\"Quoted\"" Format="L"

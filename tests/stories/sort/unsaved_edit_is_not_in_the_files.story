@@ -1,4 +1,4 @@
-# During an unsaved edit the button sorts the file as it stands; then Reset asks.
+# During an unsaved edit the button sorts the file as it is; then Reset asks.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

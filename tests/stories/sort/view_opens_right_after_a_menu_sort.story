@@ -1,4 +1,4 @@
-# What a sort leaves open as file 2 stands in nobody's way.
+# What a sort leaves open as file 2 disturbs nothing.
 film 1 Title="Solaris" Format="D"
 film 2 Title="alien" Format="L"
 film 3 Title="Ran" Format="V"

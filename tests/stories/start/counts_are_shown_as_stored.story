@@ -1,4 +1,4 @@
-# The counts of the last sort stand above the fields, whatever the master file holds.
+# The counts of the last sort are above the fields, whatever the master file contains.
 count Titlepra 12
 count DVDpra 7
 count Laserpra 3

@@ -1,4 +1,4 @@
-# A count is the first line of its file without the blanks before it, whatever stands there.
+# A count is the first line of its file without the blanks before it, whatever it contains.
 file Titlepra "   12 \n"
 file DVDpra "\r\n"
 file Laserpra "many\r\n9\r\n"

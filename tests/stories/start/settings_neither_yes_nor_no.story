@@ -1,4 +1,4 @@
-# A setting that is neither YES nor NO leaves its box as it is, and the run goes on.
+# A setting that is neither YES nor NO leaves its box as it is, and the run continues.
 file AutoSave "yes\r\n"
 file AutoSort "\r\n"
 start

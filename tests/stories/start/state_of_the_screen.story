@@ -1,4 +1,4 @@
-# What stands on the screen behind a start, and what does not.
+# What is on the screen after a start, and what is not.
 film 1 Title="Alien" Format="L" CLV1="CAV" CassNo="12" Letter="P" Genre="SF" Color1="B & W" Rating="R"
 start
 see frmPage1 "Reelora Prima Record  1/ 1      Title Non Sorted"

@@ -1,4 +1,4 @@
-# The flag of the quick start is read last, when the first film stands on the screen.
+# The flag of the quick start is read last, when the first film is on the screen.
 film 1 Title="Alien"
 remove Fo1
 start

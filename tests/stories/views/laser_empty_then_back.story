@@ -1,4 +1,5 @@
-# Back in an empty Laser view goes to position 1 without a test for the end: there is no number, the focus is on the title.
+# Back in an empty Laser view goes to position 1 without a test for the end: there is no number, the focus is on the
+# title.
 film 1 Title="Alien"
 count Laserpra 1
 file Laserpra.Dat ""

@@ -1,4 +1,4 @@
-# A film deleted behind the sort: its key stays and leads to an empty screen; the counts stay as they are.
+# A film deleted after the sort: its key stays and leads to an empty screen; the counts stay as they are.
 film 1 Title="Alien" Format="D" Genre="SF"
 film 2 Title="Brazil" Format="D" Genre="SF"
 sorted

@@ -1,4 +1,4 @@
-# A format changed behind the sort: the film stays in the old view and is missing from the new.
+# A format changed after the sort: the film stays in the old view and is missing from the new.
 film 1 Title="Alien" Format="D"
 film 2 Title="Brazil" Format="V"
 sorted

@@ -1,4 +1,4 @@
-# A film written behind the sort is missing from the view and is reached by its number.
+# A film written after the sort is missing from the view and is reached by its number.
 film 1 Title="Brazil"
 sorted
 film 2 Title="Alien"

@@ -1,4 +1,4 @@
-# A slot used again behind the sort: the old title leads to the new film.
+# A slot used again after the sort: the old title leads to the new film.
 film 1 Title="Alien"
 film 2 Title="Brazil"
 sorted

@@ -1,4 +1,4 @@
-# A title changed behind the sort: the film keeps its old place and shows its new title.
+# A title changed after the sort: the film keeps its old place and shows its new title.
 film 1 Title="Alien"
 film 2 Title="Brazil"
 sorted

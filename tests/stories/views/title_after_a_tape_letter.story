@@ -1,4 +1,5 @@
-# A letter V left on the screen by record 49 becomes the word right before the next film of the Title view is shown, and passes to that film; the file keeps its own.
+# A letter V left on the screen by record 49 becomes the word right before the next film of the Title view is shown,
+# and passes to that film; the file keeps its own.
 film 1 Title="Alien" Format="D" Genre="CO"
 film 49 Title="Brazil" Format="V" Genre="SF"
 film 50 Title="Zulu" Format="D" Genre="CO"

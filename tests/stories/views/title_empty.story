@@ -1,4 +1,4 @@
-# Title view of an empty key file has no words: the focus goes to the title, the heading stands.
+# Title view of an empty key file has no words: the focus goes to the title, the heading stays.
 film 1 Title="Alien"
 count Titlepra 1
 file Titlepra.Dat ""

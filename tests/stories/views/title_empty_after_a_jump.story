@@ -1,4 +1,5 @@
-# Title view of an empty key file shows the film of the last record number used; here alone the test behind the film tells the end.
+# Title view of an empty key file shows the film of the last record number used; here alone the test after the film
+# reports the end.
 film 1 Title="Alien"
 film 2 Title="Brazil"
 count Titlepra 1

@@ -1,4 +1,4 @@
-# Title view of a key file of 47 bytes: the test behind the film shown divides by 49 and finds no end.
+# Title view of a key file of 47 bytes: the test after the film shown divides by 49 and finds no end.
 film 1 Title="Alien" Format="D"
 film 2 Title="Brazil" Format="D"
 file Titlepra.Dat "Alien                                   0000001"

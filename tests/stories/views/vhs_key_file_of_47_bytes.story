@@ -1,4 +1,5 @@
-# VHS view of a key file of 47 bytes: the end found behind the film shown is told in a plain box, and the view stays.
+# VHS view of a key file of 47 bytes: the end found after the film shown is reported in a plain box, and the view
+# stays.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 file VHSpra.Dat "Alien                                   0000001"

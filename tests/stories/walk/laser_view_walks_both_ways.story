@@ -1,4 +1,5 @@
-# Laser view: Next and Back go on and back along its own keys; only the click behind the last one tells the end, and record 1 comes back.
+# Laser view: Next and Back walk both ways along its own keys; only the click past the last one reports the end, and
+# record 1 comes back.
 film 1 Title="Zulu" Format="L"
 film 2 Title="Alien" Format="L"
 film 3 Title="Metropolis" Format="L"

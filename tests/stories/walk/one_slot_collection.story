@@ -1,4 +1,4 @@
-# An empty collection counts one slot: Next shows the slot behind it and says so, Back says its own.
+# An empty collection counts one slot: Next shows the slot after it and says so, Back says its own.
 start
 see frmPage1 "Reelora Prima Record  1/ 1      Title Non Sorted"
 click cmdNext

@@ -1,4 +1,5 @@
-# VHS view: Next and Back go on and back along its own keys; only the click behind the last one tells the end, and record 1 comes back.
+# VHS view: Next and Back walk both ways along its own keys; only the click past the last one reports the end, and
+# record 1 comes back.
 film 1 Title="Zulu" Format="V"
 film 2 Title="Alien" Format="V"
 film 3 Title="Metropolis" Format="V"

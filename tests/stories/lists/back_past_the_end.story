@@ -1,4 +1,5 @@
-# Behind the end of a list its Back is still there under the other one and may hold the focus; pressed, it finds no open key file.
+# Past the end of a list its Back is still there under the other one and may hold the focus; pressed, it finds no
+# open key file.
 films 1 25 Title="Film ##"
 sorted
 start

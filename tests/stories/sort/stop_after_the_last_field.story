@@ -1,4 +1,4 @@
-# Where the sort stops, the last field has saved its film already, and "Last" has not been written.
+# If the sort stops, the last field has saved its film already, and "Last" has not been written.
 films 1 2 Title="Film #" Format="D"
 file Titlepra.Dat/x ""
 start

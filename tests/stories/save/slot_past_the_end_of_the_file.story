@@ -1,4 +1,5 @@
-# A key that leads past the end leaves the film before on the screen; a save there fills the slots between with blanks.
+# A key that leads past the end leaves the film before on the screen; a save there fills the slots between with
+# blanks.
 film 1 Title="Alien" Format="D"
 film 2 Title="Brazil" Format="D"
 key Titlepra.Dat "Casablanca" 5

@@ -1,4 +1,4 @@
-# The title search tells its end once, though it resets twice, and Next is alive again.
+# The title search reports its end once, though it resets twice, and Next is alive again.
 film 1 Title="Alien"
 film 2 Title="Brazil"
 start

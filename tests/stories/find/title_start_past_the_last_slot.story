@@ -1,4 +1,4 @@
-# Title search gone on with from behind the last slot: nothing happens but the search's own heading.
+# Title search continued from past the last slot: nothing happens but the search's own heading.
 film 1 Title="Nobody"
 film 2 Title="Anna Karina"
 film 3 Title="Banana Split"

@@ -1,4 +1,4 @@
-# Behind the last film of the genre the end is told, where the highest slot has no key.
+# Past the last film of the genre the end is reported, where the highest slot has no key.
 film 1 Title="Alien" Genre="SF" Director="Ridley Scott"
 film 2 Title="Brazil" Genre="DR"
 film 3 Title=""

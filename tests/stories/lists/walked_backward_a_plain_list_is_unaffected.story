@@ -1,4 +1,4 @@
-# After Back in a genre view a plain list fills as ever, only without counting its hits.
+# After Back in a genre view a plain list is unaffected, except that it does not count its hits.
 films 1 30 Title="Film ##" Genre="CO" Format="D"
 sorted
 start

@@ -1,4 +1,4 @@
-# A save in a genre view shows the heading anew, now with the name of the genre on the screen.
+# A save in a genre view shows the heading again, now with the name of the genre on the screen.
 film 1 Title="Alien" Genre="SF" Format="D"
 film 2 Title="Brazil" Genre="DR" Format="D"
 sorted
