@@ -28,7 +28,8 @@ click mnuAllTitles
 picture 08_list_of_twenty
 click cmdReset
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 12.37 pages to print." Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 12.37 pages to print." Yes
 printed 13
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There are 13 pages to print." OK

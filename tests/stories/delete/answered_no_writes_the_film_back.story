@@ -4,7 +4,18 @@ film 2 Title="Brazil"
 start
 click cmdDelete
 box question "Reelora Prima" "Are you sure you want to DELETE this record? This file will be removed permanently!!" No
-see file Recpra.Dat "Alien                                   Ridley Scott                                                                                                                                                                                                                     L                CAV                                                                                                                                                                                                                                                                                                                                                                          \r\nBrazil                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                 \r\n"
+see file Recpra.Dat "Alien                                   Ridley Scott                                            "
++ "                                                                                                                  "
++ "                                                       L                "
++ "CAV                                                                                                               "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                       \r\nBrazil                                                                                 "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                        \r\n"
 see lblSave.Visible yes
 see lblSave "    Your Work Has Been Saved!"
 see txtTitle "Alien"

@@ -9,4 +9,21 @@ box question "Reelora Prima" "Are you sure you want to DELETE this record? This 
 see state EditMode 0
 see state NewMode 0
 see state ClearOnShow 0
-see file Recpra.Dat "Alien                                                                                                                                                                                                                                                                    V                                                                                                                                                                                                                                                                                                                                                                                             \r\nBrazil                                                                                                                                                                                                                                                                   V                                                                                                                                                                                                                                                                                                                                                                                             \r\n                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                       \r\n"
+see file Recpra.Dat "Alien                                                                                           "
++ "                                                                                                                  "
++ "                                                       V                                                          "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
++ "Brazil                                                                                                            "
++ "                                                                                                                  "
++ "                                     V                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"

@@ -1,5 +1,8 @@
 # After Yes every field is empty, the message stays, and Next, Back and the views stay disabled.
-film 1 Title="Alien" Director="Ridley Scott" Star1="A" Star2="B" Star3="C" Star4="D" Star5="E" Star6="F" Label="L" NumReel="2" Genre="SF" Time="117" Year="1979" CassNo="7" Letter="T" CLV1="CAV" Color1="B & W" Producer="P" Cinematographer="Q" Written="R" Music="S" Choreography="T" SetDirection="U" Costume="V" Sound="W" Awards="X" Rating="NC-17" Package="Y" Purchase="Z" Cost="1" Ratings="2" Format="L"
+film 1 Title="Alien" Director="Ridley Scott" Star1="A" Star2="B" Star3="C" Star4="D" Star5="E" Star6="F" Label="L"
++ NumReel="2" Genre="SF" Time="117" Year="1979" CassNo="7" Letter="T" CLV1="CAV" Color1="B & W" Producer="P"
++ Cinematographer="Q" Written="R" Music="S" Choreography="T" SetDirection="U" Costume="V" Sound="W" Awards="X"
++ Rating="NC-17" Package="Y" Purchase="Z" Cost="1" Ratings="2" Format="L"
 film 2 Title="Brazil"
 start
 click cmdDelete
@@ -36,7 +39,8 @@ see txtPackage ""
 see txtPurchase ""
 see txtCost ""
 see txtRatings ""
-see lblSorting "               This Record Has Been Deleted!                         To Write a New Record Click The New Button or Alt W "
+see lblSorting "               This Record Has Been Deleted!                         To Write a New Record Click The "
++ "New Button or Alt W "
 see lblSorting.Visible yes
 see lblHead.Visible no
 see lblSave.Visible no

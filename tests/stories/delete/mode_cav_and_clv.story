@@ -8,4 +8,15 @@ click cmdSave
 click cmdNext
 click cmdDelete
 box question "Reelora Prima" "Are you sure you want to DELETE this record? This file will be removed permanently!!" Yes
-see file Recpra.Dat "                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                       \r\n                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                       \r\n"
+see file Recpra.Dat "                                                                                                "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"

@@ -1,6 +1,9 @@
 # Blanks at both ends of a field are taken off on the screen; the stored rating, disc number, colour and mode show as
 # stored.
-film 1 Title="  Alien" Director="  Ridley Scott" Star1=" A" Star2=" B" Star3=" C" Star4=" D" Star5=" E" Star6=" F" Label=" Fox" Format="L" NumReel="2" Genre="sf" Time=" 9" Year=" 79" CassNo=" 12" Letter="W" CLV1="CAV" Color1="B & W" Producer=" P" Cinematographer=" Q" Written=" R" Music=" S" Choreography=" T" SetDirection=" U" Costume=" V" Sound=" X" Awards=" Y" Rating="R" Package=" Z" Purchase=" 1" Cost=" 2" Ratings=" 3"
+film 1 Title="  Alien" Director="  Ridley Scott" Star1=" A" Star2=" B" Star3=" C" Star4=" D" Star5=" E" Star6=" F"
++ Label=" Fox" Format="L" NumReel="2" Genre="sf" Time=" 9" Year=" 79" CassNo=" 12" Letter="W" CLV1="CAV"
++ Color1="B & W" Producer=" P" Cinematographer=" Q" Written=" R" Music=" S" Choreography=" T" SetDirection=" U"
++ Costume=" V" Sound=" X" Awards=" Y" Rating="R" Package=" Z" Purchase=" 1" Cost=" 2" Ratings=" 3"
 start
 see txtTitle "Alien"
 see txtDirector "Ridley Scott"

@@ -4,7 +4,8 @@ film 2 Title="Brazil" Genre="DR" Format="D"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 see frmPage1 "Reelora Prima Record  1/ 2      Genre Sorted"
 click cmdSave
 see lblHead "Viewing All Science Fiction Files Alphabetically"

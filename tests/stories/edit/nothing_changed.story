@@ -4,4 +4,15 @@ film 2 Title="Brazil"
 start
 click cmdEdit
 click cmdSave
-see file Recpra.Dat "Alien                                                                                                                                                                                                                                                                    V SF       7    T                                                                                                                                                                                                                                                                                                                                                                             \r\nBrazil                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                 \r\n"
+see file Recpra.Dat "Alien                                                                                           "
++ "                                                                                                                  "
++ "                                                       V SF       7    "
++ "T                                                                                                                 "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                        \r\nBrazil                                                                                "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                         \r\n"

@@ -7,7 +7,8 @@ film 5 Title="Film 5" Genre="DR"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "dr"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "dr"
 click cmdNext
 click cmdNext
 click cmdPrevious

@@ -10,7 +10,18 @@ click cmdReset
 box question "Reelora Prima" "You have not saved your work.  To save it now hit Yes." No
 see state PromptText "You have not saved your work.  To save it now hit Yes."
 see txtTitle "Alien"
-see file Recpra.Dat "Alien                                                                                                                                                                                                                                                                    V                                                                                                                                                                                                                                                                                                                                                                                             \r\nBrazil                                                                                                                                                                                                                                                                   V                                                                                                                                                                                                                                                                                                                                                                                             \r\n"
+see file Recpra.Dat "Alien                                                                                           "
++ "                                                                                                                  "
++ "                                                       V                                                          "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
++ "Brazil                                                                                                            "
++ "                                                                                                                  "
++ "                                     V                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"
 click cmdNext
 see txtDirector ""
 click cmdPrevious

@@ -5,7 +5,12 @@ click cmdNew
 type "Zulu"
 click cmdReset
 box question "Reelora Prima" "You have not saved your work.  To save it now hit Yes." No
-see file Recpra.Dat "Alien                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                  \r\n"
+see file Recpra.Dat "Alien                                                                                           "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
 see state RecordCount 1
 see state NewPending 0
 see txtTitle "Alien"

@@ -6,7 +6,12 @@ see state NewPending 1
 type "Zulu"
 click cmdReset
 box question "Reelora Prima" "You have not saved your work.  To save it now hit Yes." Yes
-see file Recpra.Dat "Zulu                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                   \r\n"
+see file Recpra.Dat "Zulu                                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
 see state RecordCount 1
 see state FirstRecordAdjust 1
 see state NewPending 0

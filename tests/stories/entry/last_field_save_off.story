@@ -7,7 +7,8 @@ click optnoteson
 click txtRatings
 click lblHead
 key Tab
-see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."
 see state SortStarted 1
 see state EditMode 1
 see state NewMode 1

@@ -11,7 +11,8 @@ see List1.Visible no
 see List1.Items
 see lblSelect.Visible no
 see focus txtTime
-see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up automatically."
+see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up "
++ "automatically."
 see txtCLV1.Visible yes
 see txtStar6(1).Visible yes
 see txtColor1.Visible yes

@@ -12,4 +12,5 @@ see txtRating "G"
 see List2.Visible no
 see List2.Items
 see lblSorting.Visible yes
-see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."

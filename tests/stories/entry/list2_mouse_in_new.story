@@ -10,4 +10,5 @@ see txtRating "NR"
 see List2.Visible no
 see List2.Items
 see focus txtPackage
-see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."

@@ -9,4 +9,5 @@ see txtFormat "VHS"
 see List3.Visible no
 see List3.Items
 see focus txtNumReel
-see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up automatically."
+see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up "
++ "automatically."

@@ -9,6 +9,7 @@ see List3.Visible yes
 see List3.Items "DVD" "Laser" "VHS"
 see List3.ListIndex 0
 see txtFormat "DVD"
-see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up automatically."
+see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up "
++ "automatically."
 see txtCassNo.Enabled no
 see txtCLV1.Enabled no

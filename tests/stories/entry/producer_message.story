@@ -6,10 +6,13 @@ row  save_off "NO\r\n"  "YES\r\n"
 row  sort_off "YES\r\n" "NO\r\n"
 
 each SETTINGS SEEN
-row  both_off "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+row both_off "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."
 row  both_on  "When the last text box is filled in and the tab key pressed,  this record will be auto saved and sorted."
-row  save_off "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
-row  sort_off "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up automatically."
+row save_off "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."
+row sort_off "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up "
++ "automatically."
 
 each SETTINGS FONTSIZE
 row  both_off 9.75

@@ -93,14 +93,33 @@ see focus txtRatings
 type "Five stars"
 key Tab
 see state SortStarted 1
-see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."
 see focus optnoteson
 see state NewMode 1
 key Alt+S
 see focus cmdSave
 see lblPage "PAGE 1"
 see state NewMode 0
-see file Recpra.Dat "Film 1                                  Nobody                                                                                                                                                                                                                           V DR                                                                                                                                                                                                                                                                                                                                                                                          \r\nAmerican in Paris, An                   Vincente Minnelli             Gene Kelly                    Leslie Caron                  Orson Welles                  Trevor Howard                 Bernard Lee                   Paul Hörbiger                 Criterion      D1AA1131951     P   Color Carol Reed                    Robert Krasker                Graham Greene                                     Anton Karas                   none                          Vincent Korda                 Ivy Baker                     Dolby AC-3     Academy Award: Cinematography                               G    Slip case      11-02-9819.95   Five stars     \r\nFilm 3                                  Nobody                                                                                                                                                                                                                           V DR                                                                                                                                                                                                                                                                                                                                                                                          \r\n"
+see file Recpra.Dat "Film 1                                  Nobody                                                  "
++ "                                                                                                                  "
++ "                                                       V "
++ "DR                                                                                                                "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                      \r\nAmerican in Paris, An                   Vincente Minnelli             "
++ "Gene Kelly                    Leslie Caron                  Orson Welles                  Trevor "
++ "Howard                 Bernard Lee                   Paul Hörbiger                 Criterion      D1AA1131951     "
++ "P   Color Carol Reed                    Robert Krasker                Graham "
++ "Greene                                     Anton Karas                   none                          Vincent "
++ "Korda                 Ivy Baker                     Dolby AC-3     Academy Award: "
++ "Cinematography                               G    Slip case      11-02-9819.95   Five stars     \r\nFilm "
++ "3                                  Nobody                                                                         "
++ "                                                                                                                  "
++ "                                V DR                                                                              "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                        \r\n"
 restart
 see state RecordCount 3
 click cmdNext

@@ -97,7 +97,13 @@ beep
 beep
 see focus cmdSave
 see lblPage "PAGE 1"
-see file Recpra.Dat "American in Paris, An                   Vincente Minnelli             Gene Kelly                    Leslie Caron                  Orson Welles                  Trevor Howard                 Bernard Lee                   Paul Hörbiger                 Criterion      D1AA1131951     P   Color Carol Reed                    Robert Krasker                Graham Greene                                     Anton Karas                   none                          Vincent Korda                 Ivy Baker                     Dolby AC-3     Academy Award: Cinematography                               G    Slip case      11-02-9819.95   Five stars     \r\n"
+see file Recpra.Dat "American in Paris, An                   Vincente Minnelli             Gene "
++ "Kelly                    Leslie Caron                  Orson Welles                  Trevor "
++ "Howard                 Bernard Lee                   Paul Hörbiger                 Criterion      D1AA1131951     "
++ "P   Color Carol Reed                    Robert Krasker                Graham "
++ "Greene                                     Anton Karas                   none                          Vincent "
++ "Korda                 Ivy Baker                     Dolby AC-3     Academy Award: "
++ "Cinematography                               G    Slip case      11-02-9819.95   Five stars     \r\n"
 see file Titlepra " 1\r\n"
 see file DVDpra " 1\r\n"
 see file Laserpra " 0\r\n"

@@ -123,14 +123,21 @@ type "Five stars"
 see length Recpra.Dat 0
 key Tab
 see state SortStarted 1
-see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."
 see focus optnoteson
 see state NewMode 1
 key Alt+S
 see focus cmdSave
 see lblPage "PAGE 1"
 see state NewMode 0
-see file Recpra.Dat "Third Man, The                          Carol Reed                    Joseph Cotten                 Alida Valli                   Orson Welles                  Trevor Howard                 Bernard Lee                   Paul Hörbiger                 Criterion      V1MS1041949A-117T   B & W Carol Reed                    Robert Krasker                Graham Greene                                     Anton Karas                   none                          Vincent Korda                 Ivy Baker                     Mono           Academy Award: Cinematography                               NR   Slip case      11-02-9819.95   Five stars     \r\n"
+see file Recpra.Dat "Third Man, The                          Carol Reed                    Joseph "
++ "Cotten                 Alida Valli                   Orson Welles                  Trevor Howard                 "
++ "Bernard Lee                   Paul Hörbiger                 Criterion      V1MS1041949A-117T   B & W Carol "
++ "Reed                    Robert Krasker                Graham Greene                                     Anton "
++ "Karas                   none                          Vincent Korda                 Ivy Baker                     "
++ "Mono           Academy Award: Cinematography                               NR   Slip case      11-02-9819.95   "
++ "Five stars     \r\n"
 see missing Last
 restart
 see txtTitle "Third Man, The"

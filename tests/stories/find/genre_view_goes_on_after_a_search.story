@@ -6,7 +6,8 @@ film 4 Title="Zulu" Genre="WE"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "dr"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "dr"
 see txtTitle "Brazil"
 click mnuFindDirector
 input "Search For Director" "Enter Director. To Search: " "aa"

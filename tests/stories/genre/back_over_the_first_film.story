@@ -6,7 +6,8 @@ film 4 Title="Zulu" Genre="DR"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 see txtTitle "Casablanca"
 see state KeyFilePos 3
 click cmdPrevious

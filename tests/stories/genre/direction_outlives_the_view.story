@@ -8,16 +8,19 @@ film 6 Title="Zulu" Genre="DR"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 click cmdNext
 click cmdPrevious
 beep
 box warning "" "Top of file encountered!" OK
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 beep
 box warning "" "Top of file encountered!" OK
 click cmdNext
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 see txtTitle "Alien"

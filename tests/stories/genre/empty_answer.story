@@ -9,7 +9,8 @@ sorted
 start
 click cmdNext
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" ""
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" ""
 see state CurrentRecNo 1
 see state ViewKind ""
 see state KeyFilePos 0

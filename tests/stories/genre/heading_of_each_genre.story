@@ -26,7 +26,8 @@ film 2 Title="Zulu" Genre="ZZ"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "{CODE}"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "{CODE}"
 see txtTitle "Alien"
 see lblHead "Viewing Files For {HEADING}  Alphabetically"
 see state GenreFilter "{GENRE}"

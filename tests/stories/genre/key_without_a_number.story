@@ -6,7 +6,8 @@ key Titlepra.Dat "Alien" 1
 count Titlepra 2
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 see focus txtTitle
 see txtTitle "Alien"
 see state CurrentRecNo 1

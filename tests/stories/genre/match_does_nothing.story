@@ -12,7 +12,8 @@ input "Search For Director" "Enter Director. To Search: " "x"
 beep
 box warning "DIRECTOR SEARCH" "The search for \"X\" was not found. " OK
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 click optnoteson
 click cmdMatch
 see txtTitle "Alien"

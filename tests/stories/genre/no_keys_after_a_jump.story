@@ -6,7 +6,8 @@ start
 click mnuFile
 input "Reelora Prima" "Enter File No To Search:" "2"
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 see txtTitle "Brazil"
 see state KeyFilePos 1
 see state RowCursor 1

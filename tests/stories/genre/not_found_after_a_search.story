@@ -10,6 +10,7 @@ see state RowCursor 1
 click cmdReset
 see state RowCursor 1
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "we"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "we"
 beep
 box warning "GENRE SEARCH" "End of file!" OK

@@ -7,7 +7,8 @@ film 5 Title="Zulu" Genre="WE"
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "o"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "o"
 see txtTitle "Alien"
 see state MatchPos 2
 see lblHead "Viewing Files For   Alphabetically"

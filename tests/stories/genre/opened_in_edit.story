@@ -10,7 +10,8 @@ start
 click cmdEdit
 see cmdNext.Enabled no
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 see state EditMode 0
 see cmdNext.Enabled yes
 see cmdPrevious.Enabled yes

@@ -5,7 +5,8 @@ film 3 Title=""
 sorted
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "zz"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "zz"
 beep
 box warning "GENRE SEARCH" "The search for \"\" genre was not found." OK
 see state GenreFilter "ZZ"

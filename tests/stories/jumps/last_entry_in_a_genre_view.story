@@ -4,7 +4,8 @@ sorted
 file Last "4\r\n"
 start
 click mnuFindGenre
-input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  Comedy\n\rDR  Drama" "sf"
+input "Search For Genre" "Enter Genre To Search:  Use 2 Letter Abbreviation \n\rAA  Action Adventure\n\rCO  "
++ "Comedy\n\rDR  Drama" "sf"
 click mnuLastEntry
 see txtTitle "Film 4"
 see lblHead "Viewing All  Files Alphabetically"

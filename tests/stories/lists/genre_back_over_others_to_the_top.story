@@ -5,7 +5,8 @@ films 31 70 Title="Film ##" Format="V" Genre="CO"
 sorted
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "co"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "co"
 click cmdNext20
 see Text1(19) "Film 70"
 click cmdPrev20

@@ -54,7 +54,8 @@ film 100 Title="Film 100" Genre="DR" Format="D"
 sorted
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "o"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "o"
 see Text1(0) "Film 001"
 see Text1(19) "Film 039"
 click cmdNext20

@@ -55,7 +55,8 @@ count Titlepra 50
 count Titlepra 50
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
 see Text1(0) "Film 02"
 see Text1(19) "Film 21"
 click cmdNext20

@@ -3,7 +3,8 @@ films 1 45 Title="Film ##" Year="19##" Genre="DR" Format="D"
 sorted
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
 click cmdEdit
 see state EditMode 0
 click cmdDelete

@@ -4,7 +4,8 @@ sorted
 start
 click cmdNext
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" cancel
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" cancel
 see state ListState 0
 see state SearchState 0
 see state ListShown 0

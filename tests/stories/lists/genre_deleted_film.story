@@ -6,7 +6,8 @@ film 2 Title=""
 film 3 Title="Zulu" Year="1964" Genre="DR" Format="V"
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
 beep
 box none "" "End of file!" OK
 see Text1(0) "Film 01"

@@ -4,7 +4,8 @@ films 50 52 Title="Film ##" Format="V" Genre="CO"
 sorted
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "co"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "co"
 beep
 box none "" "End of file!" OK
 see Text1(0) "Film 50"

@@ -5,7 +5,8 @@ film 80 Title="Film 80" Format="V" Genre="CO"
 sorted
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "co"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "co"
 see Text1(0) "Film 31"
 see Text1(19) "Film 50"
 see state KeyFilePos 50

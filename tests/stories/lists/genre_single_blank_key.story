@@ -25,7 +25,8 @@ key Titlepra.Dat "Film 22" 22
 count Titlepra 22
 start
 click mnuFindAllGenre
-input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
+input "Search" "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  "
++ "Drama\n\rCO  Comedy\n\rupper or lower case" "dr"
 see Text1(0) "Film 02"
 see Text1(7) "Film 09"
 see Text1(8) "Film 11"

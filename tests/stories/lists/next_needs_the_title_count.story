@@ -12,7 +12,8 @@ click {MENU}
 see Text1(0) "Film 01"
 see Text1(19) "Film 20"
 click cmdNext20
-box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can viewed!" OK
+box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can "
++ "viewed!" OK
 see state ListState 0
 see state SearchState 0
 see state ListShown 0

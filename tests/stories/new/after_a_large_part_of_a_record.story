@@ -1,5 +1,19 @@
 # A part of 325 bytes counts as a slot: its title is looked at, and a save after it fills it with blanks.
-file Recpra.Dat "Alien                                                                                                                                                                                                                                                                    D                                                                                                                                                                                                                                                                                                                                                                                             \r\nBrazil                                                                                                                                                                                                                                                                   D                                                                                                                                                                                                                                                                                                                                                                                             \r\nCube                                                                                                                                                                                                                                                                     V                                                           "
+file Recpra.Dat "Alien                                                                                               "
++ "                                                                                                                  "
++ "                                                   D                                                              "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                           \r\n"
++ "Brazil                                                                                                            "
++ "                                                                                                                  "
++ "                                     D                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"
++ "Cube                                                                                                              "
++ "                                                                                                                  "
++ "                                     V                                                           "
 start
 see state RecordCount 3
 click cmdNew

@@ -9,5 +9,16 @@ see state RecordCount 2
 see state NewPending 0
 type "Brazil"
 click cmdSave
-see file Recpra.Dat "Alien                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                  \r\nBrazil                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                 \r\n"
+see file Recpra.Dat "Alien                                                                                           "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
++ "Brazil                                                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"
 see state FirstRecordAdjust 0

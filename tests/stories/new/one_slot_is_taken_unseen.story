@@ -10,6 +10,11 @@ see txtTitle ""
 see txtDirector ""
 type "Zulu"
 click cmdSave
-see file Recpra.Dat "Zulu                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                   \r\n"
+see file Recpra.Dat "Zulu                                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
 see state RecordCount 2
 see state FirstRecordAdjust 1

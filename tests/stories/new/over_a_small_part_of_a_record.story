@@ -1,5 +1,19 @@
 # A part of 324 bytes past the last film is no slot: the new film takes its place whole.
-file Recpra.Dat "Alien                                                                                                                                                                                                                                                                    D                                                                                                                                                                                                                                                                                                                                                                                             \r\nBrazil                                                                                                                                                                                                                                                                   D                                                                                                                                                                                                                                                                                                                                                                                             \r\nCube                                                                                                                                                                                                                                                                     V                                                          "
+file Recpra.Dat "Alien                                                                                               "
++ "                                                                                                                  "
++ "                                                   D                                                              "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                           \r\n"
++ "Brazil                                                                                                            "
++ "                                                                                                                  "
++ "                                     D                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"
++ "Cube                                                                                                              "
++ "                                                                                                                  "
++ "                                     V                                                          "
 start
 see state RecordCount 2
 click cmdNew

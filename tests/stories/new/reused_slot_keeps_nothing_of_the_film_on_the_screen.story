@@ -1,5 +1,8 @@
 # Nothing of the film that stood on the screen survives.
-film 1 Title="Alien" Director="Ridley Scott" Star1="A" Star2="B" Star3="C" Star4="D" Star5="E" Star6="F" Label="L" Format="L" NumReel="2" Genre="SF" Time="117" Year="1979" CassNo="7" Letter="W" CLV1="CAV" Color1="Color" Producer="P" Cinematographer="Q" Written="R" Music="S" Choreography="T" SetDirection="U" Costume="V" Sound="W" Awards="X" Rating="R" Package="Y" Purchase="Z" Cost="1" Ratings="2"
+film 1 Title="Alien" Director="Ridley Scott" Star1="A" Star2="B" Star3="C" Star4="D" Star5="E" Star6="F" Label="L"
++ Format="L" NumReel="2" Genre="SF" Time="117" Year="1979" CassNo="7" Letter="W" CLV1="CAV" Color1="Color"
++ Producer="P" Cinematographer="Q" Written="R" Music="S" Choreography="T" SetDirection="U" Costume="V" Sound="W"
++ Awards="X" Rating="R" Package="Y" Purchase="Z" Cost="1" Ratings="2"
 film 2 Title="Brazil"
 start
 click cmdNew

@@ -15,7 +15,8 @@ see cmdNext.Enabled no
 see cmdPrevious.Enabled no
 see cmdSave.Enabled yes
 see lblSorting.Visible yes
-see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up automatically."
+see lblSorting "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up "
++ "automatically."
 see lblHead ""
 see lblPage "PAGE 1"
 see txtCLV1.Visible yes

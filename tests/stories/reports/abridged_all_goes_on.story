@@ -10,7 +10,8 @@ click cmdNext
 see txtTitle "Beta"
 see state KeyFilePos 2
 click mnuShort
-box question "Reelora Prima Print Program" "Are you sure you want to Print Abridged List?,  This List only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Are you sure you want to Print Abridged List?,  This List only prints "
++ "Title, Date, Genre and Format. It will take 1 page to print." Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There is 1 page to print." OK

@@ -11,7 +11,8 @@ beep
 beep
 see state ViewKind "DVDpra"
 click mnuDVD
-box question "Reelora Prima Print Program" "Do you want to print DVD disc library?  This list only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Do you want to print DVD disc library?  This list only prints Title, "
++ "Date, Genre and Format. It will take 1 page to print." Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There is 1 page to print." OK

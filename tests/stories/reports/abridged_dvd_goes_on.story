@@ -10,7 +10,8 @@ click cmdNext
 see txtTitle "Beta"
 see state KeyFilePos 2
 click mnuDVD
-box question "Reelora Prima Print Program" "Do you want to print DVD disc library?  This list only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Do you want to print DVD disc library?  This list only prints Title, "
++ "Date, Genre and Format. It will take 1 page to print." Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There is 1 page to print." OK

@@ -16,7 +16,8 @@ sorted
 clock 2026-11-21 09:05:07
 start
 click {MENU}
-box question "Reelora Prima Print Program" "{TEXT} only prints Title, Date, Genre and Format. It will take 1 page to print." No
+box question "Reelora Prima Print Program" "{TEXT} only prints Title, Date, Genre and Format. It will take 1 page to "
++ "print." No
 see lblHead "{HEADING}"
 see state PrintPending 1
 see state FirstRecordAdjust 1

@@ -8,7 +8,8 @@ sorted
 clock 2026-11-21 09:05:07
 start
 click mnu{LINE}
-box question "Reelora Prima Print Program" "Do you want to print {TEXT} disc library?  This list only prints Title, Date, Genre and Format. It will take 1.867 pages to print." Yes
+box question "Reelora Prima Print Program" "Do you want to print {TEXT} disc library?  This list only prints Title, "
++ "Date, Genre and Format. It will take 1.867 pages to print." Yes
 printed 3
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There are 3 pages to print." OK

@@ -7,7 +7,8 @@ count DVDpra 1
 clock 2026-11-21 09:05:07
 start
 click mnuLaser
-box question "Reelora Prima Print Program" "Do you want to print laser disc library?  This list only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Do you want to print laser disc library?  This list only prints Title, "
++ "Date, Genre and Format. It will take 1 page to print." Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There is 1 page to print." OK
@@ -20,7 +21,8 @@ see page 1 line 7 "  ___________________________________________________________
 see page 1 line 9 "TOTAL LASER FILM(S)   1"
 see page 1 line 56 "                                     Page  1"
 click mnuDVD
-box question "Reelora Prima Print Program" "Do you want to print DVD disc library?  This list only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Do you want to print DVD disc library?  This list only prints Title, "
++ "Date, Genre and Format. It will take 1 page to print." Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There is 1 page to print." OK

@@ -4,7 +4,8 @@ sorted
 clock 2026-11-21 09:05:07
 start
 click mnuVHS
-box question "Reelora Prima Print Program" "Do you want to print VHS library?  This list only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Do you want to print VHS library?  This list only prints Title, Date, "
++ "Genre and Format. It will take 1 page to print." Yes
 printed 2
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There are 2 pages to print." OK

@@ -1,12 +1,20 @@
 # A film in each format: the words of the fifth line differ in small things.
-film 1 Title="Bridge on the River Kwai, The" Director="David Lean" Star1="William Holden" Star2="Alec Guinness" Star3="Jack Hawkins" Star4="Sessue Hayakawa" Star5="James Donald" Star6="Geoffrey Horne" Label="Columbia" Format="D" NumReel="2" Genre="DR" Time="161" Year="1957" Letter="W" Color1="Color" Rating="PG" Sound="Dolby Surround" Awards="Seven Academy Awards, Best Picture among them"
-film 2 Title="Third Man, The" Director="Carol Reed" Star1="Joseph Cotten" Star2="Alida Valli" Star3="Orson Welles" Star4="Trevor Howard" Star5="Bernard Lee" Star6="Ernst Deutsch" Label="Criterion" Format="L" NumReel="1" Genre="MS" Time="104" Year="1949" Letter="T" CLV1="CAV" Color1="B & W" Rating="NR" Sound="Mono" Awards="Academy Award for the cinematography"
-film 3 Title="Metropolis" Director="Fritz Lang" Star1="Brigitte Helm" Star2="Alfred Abel" Format="V" NumReel="1" Genre="SF" Time="153" Year="1927" CassNo="00012" Label="Kino" Letter="T" Color1="B & W" Rating="NR" Sound="Silent"
+film 1 Title="Bridge on the River Kwai, The" Director="David Lean" Star1="William Holden" Star2="Alec Guinness"
++ Star3="Jack Hawkins" Star4="Sessue Hayakawa" Star5="James Donald" Star6="Geoffrey Horne" Label="Columbia" Format="D"
++ NumReel="2" Genre="DR" Time="161" Year="1957" Letter="W" Color1="Color" Rating="PG" Sound="Dolby Surround"
++ Awards="Seven Academy Awards, Best Picture among them"
+film 2 Title="Third Man, The" Director="Carol Reed" Star1="Joseph Cotten" Star2="Alida Valli" Star3="Orson Welles"
++ Star4="Trevor Howard" Star5="Bernard Lee" Star6="Ernst Deutsch" Label="Criterion" Format="L" NumReel="1" Genre="MS"
++ Time="104" Year="1949" Letter="T" CLV1="CAV" Color1="B & W" Rating="NR" Sound="Mono"
++ Awards="Academy Award for the cinematography"
+film 3 Title="Metropolis" Director="Fritz Lang" Star1="Brigitte Helm" Star2="Alfred Abel" Format="V" NumReel="1"
++ Genre="SF" Time="153" Year="1927" CassNo="00012" Label="Kino" Letter="T" Color1="B & W" Rating="NR" Sound="Silent"
 sorted
 clock 2026-11-21 09:05:07
 start
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There is 1 Page to print." OK

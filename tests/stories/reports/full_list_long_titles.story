@@ -1,18 +1,48 @@
 # A title of 31 characters leaves the director in its line, one of 32 or more sends it to the next, which is not
 # counted: eight such films stand on a page of eight more lines.
-film 1 Title="1 Long Title of Many Words Inde" Director="Director of Film 1" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 2 Title="2 Long Title of Many Words Indee" Director="Director of Film 2" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 3 Title="3 Long Title of Many Words Indeed Up to " Director="Director of Film 3" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 4 Title="4 Long Title of Many Words Indeed" Director="Director of Film 4" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 5 Title="5 Long Title of Many Words Indeed Up to " Director="Director of Film 5" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 6 Title="6 Long Title of Many Words Indeed Up to " Director="Director of Film 6" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 7 Title="7 Long Title of Many Words Indeed Up to " Director="Director of Film 7" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
-film 8 Title="8 Long Title of Many Words Indeed Up to " Director="Director of Film 8" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345" Letter="W" Color1="Color"
+film 1 Title="1 Long Title of Many Words Inde" Director="Director of Film 1" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS"
++ Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL"
++ Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14"
++ NumReel="3" CassNo="12345" Letter="W" Color1="Color"
+film 2 Title="2 Long Title of Many Words Indee" Director="Director of Film 2" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS"
++ Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL"
++ Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14"
++ NumReel="3" CassNo="12345" Letter="W" Color1="Color"
+film 3 Title="3 Long Title of Many Words Indeed Up to " Director="Director of Film 3"
++ Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090"
++ Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E"
++ Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345"
++ Letter="W" Color1="Color"
+film 4 Title="4 Long Title of Many Words Indeed" Director="Director of Film 4" Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS"
++ Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090" Year="1950" Label="LLLLLLLLLLLLLLL"
++ Sound="Dolby Digital E" Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14"
++ NumReel="3" CassNo="12345" Letter="W" Color1="Color"
+film 5 Title="5 Long Title of Many Words Indeed Up to " Director="Director of Film 5"
++ Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090"
++ Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E"
++ Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345"
++ Letter="W" Color1="Color"
+film 6 Title="6 Long Title of Many Words Indeed Up to " Director="Director of Film 6"
++ Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090"
++ Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E"
++ Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345"
++ Letter="W" Color1="Color"
+film 7 Title="7 Long Title of Many Words Indeed Up to " Director="Director of Film 7"
++ Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090"
++ Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E"
++ Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345"
++ Letter="W" Color1="Color"
+film 8 Title="8 Long Title of Many Words Indeed Up to " Director="Director of Film 8"
++ Star1="SSSSSSSSSSSSSSSSSSSSSSSSSSSSSS" Star2="TTTTTTTTTTTTTTTTTTTTTTTTTTTTTT" Format="V" Genre="CO" Time="090"
++ Year="1950" Label="LLLLLLLLLLLLLLL" Sound="Dolby Digital E"
++ Awards="AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA" Rating="TV-14" NumReel="3" CassNo="12345"
++ Letter="W" Color1="Color"
 sorted
 clock 2026-11-21 09:05:07
 start
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 1 page to print." Yes
 printed 2
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There are 2 pages to print." OK

@@ -1,10 +1,12 @@
 # Films without a format word print five lines: ten of them stand on a page, whose foot follows at once.
-films 1 11 Title="Film ##" Director="Director ##" Star1="Star ##" Format="" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
+films 1 11 Title="Film ##" Director="Director ##" Star1="Star ##" Format="" NumReel="1" Genre="CO" Time="1##"
++ Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
 sorted
 clock 2026-11-21 09:05:07
 start
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1.375 pages to print." Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 1.375 pages to print." Yes
 printed 2
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There are 2 pages to print." OK

@@ -1,11 +1,15 @@
 # The full list of one film: the question ends in the figure 1 with nothing after it, the closing box has its capital
 # letter, and Reset follows.
-film 1 Title="Bridge on the River Kwai, The" Director="David Lean" Star1="William Holden" Star2="Alec Guinness" Star3="Jack Hawkins" Star4="Sessue Hayakawa" Star5="James Donald" Star6="Geoffrey Horne" Label="Columbia" Format="D" NumReel="2" Genre="DR" Time="161" Year="1957" Letter="W" Color1="Color" Rating="PG" Sound="Dolby Surround" Awards="Seven Academy Awards, Best Picture among them"
+film 1 Title="Bridge on the River Kwai, The" Director="David Lean" Star1="William Holden" Star2="Alec Guinness"
++ Star3="Jack Hawkins" Star4="Sessue Hayakawa" Star5="James Donald" Star6="Geoffrey Horne" Label="Columbia" Format="D"
++ NumReel="2" Genre="DR" Time="161" Year="1957" Letter="W" Color1="Color" Rating="PG" Sound="Dolby Surround"
++ Awards="Seven Academy Awards, Best Picture among them"
 sorted
 clock 2026-11-21 09:05:07
 start
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There is 1 Page to print." OK

@@ -1,12 +1,17 @@
 # Twenty-six films of three formats on four pages.
-films 1 9 Title="Film ##" Director="Director ##" Star1="Star ##" Format="V" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
-films 10 18 Title="Film ##" Director="Director ##" Star1="Star ##" Format="L" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##" CLV1="CLV"
-films 19 26 Title="Film ##" Director="Director ##" Star1="Star ##" Format="D" NumReel="1" Genre="CO" Time="1##" Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
+films 1 9 Title="Film ##" Director="Director ##" Star1="Star ##" Format="V" NumReel="1" Genre="CO" Time="1##"
++ Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
+films 10 18 Title="Film ##" Director="Director ##" Star1="Star ##" Format="L" NumReel="1" Genre="CO" Time="1##"
++ Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
++ CLV1="CLV"
+films 19 26 Title="Film ##" Director="Director ##" Star1="Star ##" Format="D" NumReel="1" Genre="CO" Time="1##"
++ Year="19##" CassNo="###" Color1="Color" Letter="P" Rating="G" Label="Label ##" Sound="Stereo" Awards="Note ##"
 sorted
 clock 2026-11-21 09:05:07
 start
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 3.25 pages to print." Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 3.25 pages to print." Yes
 printed 4
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There are 4 pages to print." OK

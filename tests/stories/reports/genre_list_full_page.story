@@ -4,7 +4,8 @@ sorted
 clock 2026-11-21 09:05:07
 start
 click mnuGenre
-input "Reelora Prima Print Program" "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs." "CO"
+input "Reelora Prima Print Program" "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   "
++ "Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs." "CO"
 beep
 printed 2
 box warning "Reelora Print Program" "End of file! Please wait.  There are 2 pages to print." OK

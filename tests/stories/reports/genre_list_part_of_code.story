@@ -7,7 +7,8 @@ sorted
 clock 2026-11-21 09:05:07
 start
 click mnuGenre
-input "Reelora Prima Print Program" "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs." "A"
+input "Reelora Prima Print Program" "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   "
++ "Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs." "A"
 beep
 printed 1
 box warning "Reelora Print Program" "End of file! Please wait.  There is 1 page to print." OK

@@ -1,12 +1,14 @@
 # A key that points past the master file prints the film before it again, under the number of the key.
-film 1 Title="Metropolis" Director="Fritz Lang" Star1="Brigitte Helm" Star2="Alfred Abel" Format="V" NumReel="1" Genre="SF" Time="153" Year="1927" CassNo="00012" Label="Kino" Letter="T" Color1="B & W" Rating="NR" Sound="Silent"
+film 1 Title="Metropolis" Director="Fritz Lang" Star1="Brigitte Helm" Star2="Alfred Abel" Format="V" NumReel="1"
++ Genre="SF" Time="153" Year="1927" CassNo="00012" Label="Kino" Letter="T" Color1="B & W" Rating="NR" Sound="Silent"
 key Titlepra.Dat "Metropolis" 1
 key Titlepra.Dat "Gone" 7
 count Titlepra 2
 clock 2026-11-21 09:05:07
 start
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There is 1 Page to print." OK

@@ -6,7 +6,8 @@ row  star-list     mnuStars
 
 each REPORT        PROMPT
 row  director-list "Director's Last Name. To Print List: "
-row  genre-list    "Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs."
+row genre-list "Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See "
++ "Genre List for more Abbrs."
 row  star-list     "Star's Last Name. To Print List: "
 
 film 1 Title="Alpha" Format="D" Genre="DR" Year="1951" Director="Ann Smith" Star1="Ann Smith"

@@ -7,16 +7,19 @@ row  genre-list    mnuGenre
 each REPORT        PROMPT
 row  star-list     "Star's Last Name. To Print List: "
 row  director-list "Director's Last Name. To Print List: "
-row  genre-list    "Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs."
+row genre-list "Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See "
++ "Genre List for more Abbrs."
 
 each REPORT        ANSWER   TEXT
 row  star-list     Caine    "No films Staring \"CAINE\" found!"
 row  director-list Endfield "No films directed by \"ENDFIELD\" found!"
 row  genre-list    AA       "No  \"Action Adventure\" genre found!"
 
-film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS" Year="1958"
+film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS"
++ Year="1958"
 film 2 Title="Solaris" Director="Andrei Tarkovsky" Star1="Natalya Bondarchuk" Format="V" Genre="SF" Year="1972"
-film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS" Year="1954"
+film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS"
++ Year="1954"
 film 4 Title="Zulu" Director="Cy Endfield" Star1="Stanley Baker" Star2="Michael Caine" Format="V" Genre="AA" Year="1964"
 film 5 Title="Bambi" Director="David Hand" Format="D" Genre="AN" Year="1942"
 sorted

@@ -6,7 +6,8 @@ row  director-list mnuDirector
 
 each REPORT        PROMPT
 row  star-list     "Star's Last Name. To Print List: "
-row  genre-list    "Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs."
+row genre-list "Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See "
++ "Genre List for more Abbrs."
 row  director-list "Director's Last Name. To Print List: "
 
 each REPORT        ANSWER   TEXT
@@ -14,9 +15,11 @@ row  star-list     Mifune   "No films Staring \"MIFUNE\" found!"
 row  genre-list    WE       "No  \"Western\" genre found!"
 row  director-list Kurosawa "No films directed by \"KUROSAWA\" found!"
 
-film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS" Year="1958"
+film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS"
++ Year="1958"
 film 2 Title="Solaris" Director="Andrei Tarkovsky" Star1="Natalya Bondarchuk" Format="V" Genre="SF" Year="1972"
-film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS" Year="1954"
+film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS"
++ Year="1954"
 film 4 Title="Zulu" Director="Cy Endfield" Star1="Stanley Baker" Star2="Michael Caine" Format="V" Genre="AA" Year="1964"
 film 5 Title="Bambi" Director="David Hand" Format="D" Genre="AN" Year="1942"
 sorted

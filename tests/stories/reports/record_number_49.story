@@ -6,7 +6,8 @@ sorted
 clock 2026-11-21 09:05:07
 start
 click mnuShort
-box question "Reelora Prima Print Program" "Are you sure you want to Print Abridged List?,  This List only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Are you sure you want to Print Abridged List?,  This List only prints "
++ "Title, Date, Genre and Format. It will take 1 page to print." Yes
 printed 2
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There are 2 pages to print." OK
@@ -70,7 +71,8 @@ see page 2 line 4 "Zulu                                                Action Ad
 see page 2 line 6 "TOTAL FILM(S)   49"
 see page 2 line 55 "                                  Page  2"
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 6.125 pages to print." Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 6.125 pages to print." Yes
 printed 7
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There are 7 pages to print." OK

@@ -10,7 +10,8 @@ beep
 beep
 beep
 click mnuAll
-box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
+box question "Reelora Prima Print Program" "If you have added any new records be sure to sort files before "
++ "printing!\n\nAre you sure you want to print all titles? The full list will take 1" Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   please wait. There is 1 Page to print." OK

@@ -1,7 +1,9 @@
 # What a list that found nothing has printed stays and is taken by the next document.
-film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS" Year="1958"
+film 1 Title="Vertigo" Director="Alfred Hitchcock" Star1="James Stewart" Star2="Kim Novak" Format="D" Genre="MS"
++ Year="1958"
 film 2 Title="Solaris" Director="Andrei Tarkovsky" Star1="Natalya Bondarchuk" Format="V" Genre="SF" Year="1972"
-film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS" Year="1954"
+film 3 Title="Rear Window" Director="Alfred Hitchcock" Star1="Grace Kelly" Star4="James Stewart" Format="L" Genre="MS"
++ Year="1954"
 film 4 Title="Zulu" Director="Cy Endfield" Star1="Stanley Baker" Star2="Michael Caine" Format="V" Genre="AA" Year="1964"
 film 5 Title="Bambi" Director="David Hand" Format="D" Genre="AN" Year="1942"
 sorted
@@ -11,7 +13,8 @@ click mnuStars
 input "Reelora Prima Print Program" "Enter Star's Last Name. To Print List: " "Mifune"
 box warning "Reelora Prima Print Program" "No films Staring \"MIFUNE\" found!" OK
 click mnuGenre
-input "Reelora Prima Print Program" "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs." "WE"
+input "Reelora Prima Print Program" "Enter Genre. Use Abbr.\r\nAA   Action Adventure\r\nAD   Adult\r\nAN   "
++ "Animation\r\nCO   Comedy\r\n See Genre List for more Abbrs." "WE"
 box warning "Reelora Prima Print Program" "No  \"Western\" genre found!" OK
 click mnuDirector
 input "Reelora Prima Print Program" "Enter Director's Last Name. To Print List: " "Hitchcock"
@@ -30,7 +33,8 @@ see page 1 line 16 "  Vertigo                                 1958   Mystery Sus
 see page 1 line 18 "  TOTAL FILM(S) DIRECTED BY ALFRED HITCHCOCK IN YOUR COLLECTION IS 2."
 see page 1 line 60 "                                     Page  1"
 click mnuShort
-box question "Reelora Prima Print Program" "Are you sure you want to Print Abridged List?,  This List only prints Title, Date, Genre and Format. It will take 1 page to print." Yes
+box question "Reelora Prima Print Program" "Are you sure you want to Print Abridged List?,  This List only prints "
++ "Title, Date, Genre and Format. It will take 1 page to print." Yes
 printed 1
 beep
 box warning "Reelora Prima Print Program" "End of file!   Please wait. There is 1 page to print." OK

@@ -104,5 +104,10 @@ key Alt+W
 type "{TYPED}"
 see txtTitle "{TYPED}"
 key Alt+S
-see file Recpra.Dat "{CONTENT}                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                               \r\n"
+see file Recpra.Dat "{CONTENT}                                                                                       "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                \r\n"
 see txtTitle "{SHOWN}"

@@ -80,4 +80,16 @@ click txtCost
 clear
 type "CostabcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-*/=!"
 click cmdSave
-see file Recpra.Dat "itleabcdefghijklmnopqrstuvwxyzABCDEFGHIJctorabcdefghijklmnopqrstuvwxyztar1abcdefghijklmnopqrstuvwxyztar2abcdefghijklmnopqrstuvwxyztar3abcdefghijklmnopqrstuvwxyztar4abcdefghijklmnopqrstuvwxyztar5abcdefghijklmnopqrstuvwxyztar6abcdefghijklmnopqrstuvwxyzabelabcdefghijkVR  TimYearssNoa          ucerabcdefghijklmnopqrstuvwxyzpherabcdefghijklmnopqrstuvwxyzttenabcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTusicabcdefghijklmnopqrstuvwxyzaphyabcdefghijklmnopqrstuvwxyztionabcdefghijklmnopqrstuvwxyztumeabcdefghijklmnopqrstuvwxyzoundabcdefghijkardsabcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123     kageabcdefghijkhaseabcdCostabcd               \r\nBrazil                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                 \r\n"
+see file Recpra.Dat "itleabcdefghijklmnopqrstuvwxyzABCDEFGHIJctorabcdefghijklmnopqrstuvwxyztar1abcdefghijklmnopqrstuv"
++ "wxyztar2abcdefghijklmnopqrstuvwxyztar3abcdefghijklmnopqrstuvwxyztar4abcdefghijklmnopqrstuvwxyztar5abcdefghijklmnop"
++ "qrstuvwxyztar6abcdefghijklmnopqrstuvwxyzabelabcdefghijkVR  TimYearssNoa          "
++ "ucerabcdefghijklmnopqrstuvwxyzpherabcdefghijklmnopqrstuvwxyzttenabcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTusic"
++ "abcdefghijklmnopqrstuvwxyzaphyabcdefghijklmnopqrstuvwxyztionabcdefghijklmnopqrstuvwxyztumeabcdefghijklmnopqrstuvwx"
++ "yzoundabcdefghijkardsabcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123     "
++ "kageabcdefghijkhaseabcdCostabcd               \r\nBrazil                                                          "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "             \r\n"

@@ -4,5 +4,16 @@ film 2 Title="Brazil"
 start
 see txtTitle "Alien"
 click cmdSave
-see file Recpra.Dat "  Alien                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                xxBrazil                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                 \r\n"
+see file Recpra.Dat "  Alien                                                                                         "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               "
++ "xxBrazil                                                                                                          "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                               \r\n"
 see state RecordCount 2

@@ -4,4 +4,15 @@ film 2 Title="Brazil"
 start
 click cmdEdit
 click cmdSave
-see file Recpra.Dat "Alien                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                  \r\nBrazil                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                 \r\n"
+see file Recpra.Dat "Alien                                                                                           "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
++ "Brazil                                                                                                            "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                             \r\n"

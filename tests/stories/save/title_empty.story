@@ -4,7 +4,12 @@ key Alt+W
 key Tab
 type "Carol Reed"
 key Alt+S
-see file Recpra.Dat "                                        Carol Reed                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                     \r\n"
+see file Recpra.Dat "                                        Carol Reed                                              "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"
 key Alt+W
 see state CurrentRecNo 1
 see txtDirector ""

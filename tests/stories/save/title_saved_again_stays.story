@@ -5,4 +5,9 @@ type "The Third Man"
 key Alt+S
 key Alt+E
 key Alt+S
-see file Recpra.Dat "Third Man, The                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                         \r\n"
+see file Recpra.Dat "Third Man, The                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                               \r\n"

@@ -24,10 +24,14 @@ beep
 beep
 beep
 see film 2 Ratings "Good"
-see file Titlepra.Dat "alien                                   0000002\r\nBrazil                                  0000004\r\nRan                                     0000003\r\nSolaris                                 0000001\r\nZelig                                   0000005\r\n"
-see file DVDpra.Dat "Solaris                                 0000001\r\nZelig                                   0000005\r\n"
+see file Titlepra.Dat "alien                                   0000002\r\nBrazil                                  "
++ "0000004\r\nRan                                     0000003\r\nSolaris                                 0000001\r\n"
++ "Zelig                                   0000005\r\n"
+see file DVDpra.Dat "Solaris                                 0000001\r\nZelig                                   "
++ "0000005\r\n"
 see file Laserpra.Dat "alien                                   0000002\r\n"
-see file VHSpra.Dat "Brazil                                  0000004\r\nRan                                     0000003\r\n"
+see file VHSpra.Dat "Brazil                                  0000004\r\nRan                                     "
++ "0000003\r\n"
 see file Titlepra " 5\r\n"
 see file DVDpra " 2\r\n"
 see file Laserpra " 1\r\n"

@@ -16,7 +16,8 @@ type "Mirror"
 click optnoteson
 click txtRatings
 key Tab
-see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to manually save and sort this record."
+see lblSorting "AUTO SAVE IS OFF!  When the last text box is filled in and the tab key pressed, you will have to "
++ "manually save and sort this record."
 see length Recpra.Dat 3245
 see missing Last
 see file Titlepra " 0\r\n"

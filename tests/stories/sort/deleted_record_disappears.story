@@ -19,6 +19,7 @@ beep
 beep
 beep
 beep
-see file Titlepra.Dat "Alien                                   0000001\r\nCasablanca                              0000003\r\n"
+see file Titlepra.Dat "Alien                                   0000001\r\nCasablanca                              "
++ "0000003\r\n"
 see file VHSpra.Dat "Casablanca                              0000003\r\n"
 see file VHSpra " 1\r\n"

@@ -1,5 +1,16 @@
 # What a broken copy has left behind the last record is no record to the sort.
-file Recpra.Dat "Ran                                                                                                                                                                                                                                                                      V                                                                                                                                                                                                                                                                                                                                                                                             \r\nPart of a film                                                                                                                                                                                                                                                           V                                                                                                                                                                                                                                                                                                                                                                                              "
+file Recpra.Dat "Ran                                                                                                 "
++ "                                                                                                                  "
++ "                                                   V                                                              "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                                           \r\nPart of a "
++ "film                                                                                                              "
++ "                                                                                                                  "
++ "                           V                                                                                      "
++ "                                                                                                                  "
++ "                                                                                                                  "
++ "                                                                    "
 start
 click mnuSort
 beep

@@ -13,8 +13,10 @@ beep
 beep
 beep
 beep
-see file Titlepra.Dat "000000 and more                         0000005\r\n10                                      0000006\r\n"
-see file DVDpra.Dat "'Round Midnight                         0000001\r\n(500) Days                              0000002\r\n00000                                   0000007\r\n"
+see file Titlepra.Dat "000000 and more                         0000005\r\n10                                      "
++ "0000006\r\n"
+see file DVDpra.Dat "'Round Midnight                         0000001\r\n(500) Days                              "
++ "0000002\r\n00000                                   0000007\r\n"
 see key Laserpra.Dat 1 "\"Quoted\"" 3
 see file VHSpra " 3\r\n"
 see key VHSpra.Dat 1 "000000" 4

@@ -14,9 +14,13 @@ beep
 beep
 beep
 box question "Reelora Prima" "You have not saved your work.  To save it now hit Yes." Yes
-see file Titlepra.Dat "alien                                   0000002\r\nBrazil                                  0000004\r\nRan                                     0000003\r\nSolaris                                 0000001\r\nZelig                                   0000005\r\n"
-see file DVDpra.Dat "Solaris                                 0000001\r\nZelig                                   0000005\r\n"
+see file Titlepra.Dat "alien                                   0000002\r\nBrazil                                  "
++ "0000004\r\nRan                                     0000003\r\nSolaris                                 0000001\r\n"
++ "Zelig                                   0000005\r\n"
+see file DVDpra.Dat "Solaris                                 0000001\r\nZelig                                   "
++ "0000005\r\n"
 see file Laserpra.Dat "alien                                   0000002\r\n"
-see file VHSpra.Dat "Brazil                                  0000004\r\nRan                                     0000003\r\n"
+see file VHSpra.Dat "Brazil                                  0000004\r\nRan                                     "
++ "0000003\r\n"
 see film 1 Title "Solaris 2"
 see state EditMode 0

@@ -12,9 +12,13 @@ beep
 beep
 beep
 beep
-see file Titlepra.Dat "alien                                   0000002\r\nBrazil                                  0000004\r\nRan                                     0000003\r\nSolaris                                 0000001\r\nZelig                                   0000005\r\n"
-see file DVDpra.Dat "Solaris                                 0000001\r\nZelig                                   0000005\r\n"
+see file Titlepra.Dat "alien                                   0000002\r\nBrazil                                  "
++ "0000004\r\nRan                                     0000003\r\nSolaris                                 0000001\r\n"
++ "Zelig                                   0000005\r\n"
+see file DVDpra.Dat "Solaris                                 0000001\r\nZelig                                   "
++ "0000005\r\n"
 see file Laserpra.Dat "alien                                   0000002\r\n"
-see file VHSpra.Dat "Brazil                                  0000004\r\nRan                                     0000003\r\n"
+see file VHSpra.Dat "Brazil                                  0000004\r\nRan                                     "
++ "0000003\r\n"
 see file Titlepra " 0\r\n"
 see state CurrentRecNo 1

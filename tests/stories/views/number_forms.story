@@ -6,7 +6,9 @@ row  laser L      Laserpra mnuByLaser
 row  vhs   V      VHSpra   mnuByVHS
 
 films 1 9 Title="Film #" Format="{FORMAT}"
-file {FILE}.Dat "A                                             7\r\nB                                       0000007\r\nC                                       2.5    \r\nD                                           3.5\r\nE                                       6x     \r\n"
+file {FILE}.Dat "A                                             7\r\nB                                       "
++ "0000007\r\nC                                       2.5    \r\nD                                           3.5\r\n"
++ "E                                       6x     \r\n"
 count {FILE} 5
 start
 click {MENU}

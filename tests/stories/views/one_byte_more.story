@@ -7,7 +7,8 @@ row  vhs   V      VHS
 
 film 1 Title="Alien" Format="{FORMAT}"
 film 2 Title="Brazil" Format="{FORMAT}"
-file {KIND}pra.Dat "Alien                                   0000001\r\nBrazil                                  0000002\r\nX"
+file {KIND}pra.Dat "Alien                                   0000001\r\nBrazil                                  "
++ "0000002\r\nX"
 count {KIND}pra 2
 start
 see length {KIND}pra.Dat 99

@@ -7,8 +7,10 @@ count Titlepra 0
 click cmdNext
 see txtTitle "Film 02"
 click mnuAllTitles
-box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can viewed!" OK
+box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can "
++ "viewed!" OK
 see state TitleCount "0"
 see cmdNext.Visible yes
 click mnuByTitle
-box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can viewed!" OK
+box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can "
++ "viewed!" OK

@@ -4,7 +4,8 @@ start
 click cmdEdit
 see state EditMode 1
 click mnuByTitle
-box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can viewed!" OK
+box warning "Reelora Prima Print Program" "Records have not been sorted.  Records must be sorted before records can "
++ "viewed!" OK
 
 see state EditMode 0
 see state ViewKind ""
