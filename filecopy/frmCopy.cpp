@@ -88,7 +88,7 @@ void frmCopy::Drive1_Change() {
   bool done = false;
   try {
     std::optional<filecopy::FileFacts> target = TargetFacts();
-    done = target ? AskToReplace(source, *target) : AskToCopy();
+    done = target ? AskToReplace(source, *target) : AskToCopy(source);
   } catch (const runtime::Failure&) {
     ReportNoDisk();
   }
@@ -103,10 +103,11 @@ void frmCopy::ReadDrive() {
 
 bool frmCopy::OnFloppy() const { return DriveWord == "A:" || DriveWord == "B:"; }
 
+char frmCopy::DriveLetter() const { return static_cast<char>(DriveWord[0] - 'A' + 'a'); }
+
 // Throws PathError if there is no disk in the drive.
 std::unique_ptr<runtime::Disk> frmCopy::DriveDisk() {
-  auto letter = static_cast<char>(DriveWord[0] - 'A' + 'a');
-  std::optional<std::string> folder = RecordScreen.Desk.DriveFolder(letter);
+  std::optional<std::string> folder = RecordScreen.Desk.DriveFolder(DriveLetter());
   if (!folder) throw runtime::Failure{runtime::PathError, TargetPath};
   return DiskIn(*folder);
 }
@@ -123,12 +124,13 @@ std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
   }
 }
 
-void frmCopy::CopyToDrive() {
+void frmCopy::CopyToDrive(std::int64_t bytes) {
   if (DriveWord == OwnDrive) return;
   filecopy::Copied copied =
       filecopy::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
   if (copied == filecopy::Copied::Unconfirmed)
     RecordScreen.Desk.MessageBox(forms::Icon::Warning, BoxTitle, UnconfirmedText);
+  RecordScreen.Desk.Copied(SourceName, DriveLetter(), bytes);
 }
 
 void frmCopy::ReportNoDisk() {

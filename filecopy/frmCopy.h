@@ -67,12 +67,14 @@ struct frmCopy : forms::Window {
  private:
   void ReadDrive();
   bool OnFloppy() const;
+  char DriveLetter() const;
   runtime::Disk& HardDisk() const { return RecordScreen.Files.Disk(); }
   std::unique_ptr<runtime::Disk> DriveDisk();
   std::optional<filecopy::FileFacts> TargetFacts();
   bool AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target);
-  bool AskToCopy();
-  void CopyToDrive();
+  bool AskToCopy(const filecopy::FileFacts& source);
+  // Bytes: the size of the source.
+  void CopyToDrive(std::int64_t bytes);
   void ReportNoDisk();
   void OpenMasterAgain();
   void ReturnToRecordScreen();

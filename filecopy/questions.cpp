@@ -20,7 +20,7 @@ bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::Fi
               " or quit click " + Quoted("No") + ".\r\n\r\n";
   question += "    WITH CURRENT FILE ON " + Quoted("HARD DISK") + "\r\n\r\n" + Sentence(SourceName, source);
   if (RecordScreen.Ask(question) == forms::Answer::Yes) {
-    CopyToDrive();
+    CopyToDrive(source.Size);
   } else {
     SkipChange = 1;
   }
@@ -28,11 +28,11 @@ bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::Fi
 }
 
 // Whether to close the window: only after Yes.
-bool frmCopy::AskToCopy() {
+bool frmCopy::AskToCopy(const filecopy::FileFacts& source) {
   bool yes = RecordScreen.Ask("Do you want to copy " + SourceName + " to Drive " + LetterWord + " hit Yes, or No ") ==
              forms::Answer::Yes;
   if (yes) {
-    CopyToDrive();
+    CopyToDrive(source.Size);
   } else {
     SkipChange = 1;
   }

@@ -115,6 +115,7 @@ std::string_view Search::ReadAhead() {
 bool Search::SkipNonMatches(const FilmFilter& filter, std::int64_t last) {
   std::int64_t first = window_.ScanRecNo;
   while (window_.ScanRecNo <= last) {
+    window_.Desk.Progress("Searching the films", static_cast<double>(window_.ScanRecNo) / static_cast<double>(last));
     std::int64_t films = filter.CountNonMatches(ReadAhead(), last + 1 - window_.ScanRecNo);
     if (films == 0) break;
     window_.ScanRecNo += films;

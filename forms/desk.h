@@ -47,6 +47,17 @@ class Desk {
   // What has changed is painted: at most once a display frame, or at once.
   virtual void Repaint() = 0;
   virtual void RepaintNow() = 0;
+  // How far long work is, from 0 to 1; may be called often.
+  virtual void Progress(std::string_view work, double done) {
+    static_cast<void>(work);
+    static_cast<void>(done);
+  }
+  // A file has been copied to the disk in a drive.
+  virtual void Copied(std::string_view file, char drive, std::int64_t bytes) {
+    static_cast<void>(file);
+    static_cast<void>(drive);
+    static_cast<void>(bytes);
+  }
   // A handler ends the program: no event is delivered any more.
   void End() { ended_ = true; }
   bool Ended() const { return ended_; }

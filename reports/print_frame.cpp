@@ -54,6 +54,8 @@ void PrintFrame::TakeKey() {
   Page.TakeScanRecNo();
   Page.KeyRecNoText = runtime::Fixed(Page.KeyRecord, store::KeyLength).substr(store::KeyTitleWidth);
   Page.KeyFilePos += 1;
+  if (keys_ == 0) keys_ = Keys();
+  Page.Desk.Progress("Preparing the report", static_cast<double>(Page.KeyFilePos) / keys_);
 }
 
 bool PrintFrame::NextFilm(std::string_view key_file) {

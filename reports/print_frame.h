@@ -65,6 +65,9 @@ class PrintFrame {
   runtime::Printer& Paper;
   // The report's own count, not the lines printed. It decides how many films fit on a page.
   runtime::Int16 LineCount;
+
+ private:
+  double keys_ = 0;  // Keys() when the first was taken
 };
 
 }  // namespace reports

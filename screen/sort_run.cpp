@@ -1,5 +1,7 @@
 // The sort run: four passes of the sort operation over the master file, each of which makes one key file and one count
 // file anew, with its label and its beep.
+#include <iterator>
+
 #include "forms/desk.h"
 #include "screen/frmPage1.h"
 #include "sort/operation.h"
@@ -64,7 +66,12 @@ void frmPage1::MakePasses() {
   std::int32_t Numrec = 0;
   std::int32_t Retcode = 0;
   sort::Sorter sorter(Files.Disk());
-  for (const screen::SortPass& pass : Passes) MakePass(pass, sorter, Numrec, Retcode);
+  double before = 0;  // passes done
+  for (const screen::SortPass& pass : Passes) {
+    sorter.Progress = [&](double read) { Desk.Progress(pass.Doing, (before + read) / std::size(Passes)); };
+    MakePass(pass, sorter, Numrec, Retcode);
+    before += 1;
+  }
   lblNumrec.SetCaption(runtime::NumberText(Numrec));
   Desk.Beep();
   ReadCounts();

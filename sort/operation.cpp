@@ -53,7 +53,7 @@ std::int64_t RoomFor(const Layout& layout, std::int64_t records, const Limits& l
 class Operation {
  public:
   Operation(Disk& disk, std::string_view input, std::string_view output, const Limits& limits, Workers& workers,
-            std::optional<Table>& last)
+            std::optional<Table>& last, const sort::Progress& progress)
       : disk_(disk),
         input_(input),
         output_(output),
@@ -61,7 +61,8 @@ class Operation {
         runs_(runtime::InSafetyFolder(output_ + ".runs" + std::string(runtime::AsideEnding))),
         limits_(limits),
         workers_(workers),
-        last_(last) {}
+        last_(last),
+        progress_(progress) {}
 
   // Replaces the output, without the folder syncs. Unless done, the output is unchanged and no temporary file is left.
   Result Run(std::string_view statement);
@@ -77,6 +78,7 @@ class Operation {
   const Limits& limits_;
   Workers& workers_;
   std::optional<Table>& last_;
+  const sort::Progress& progress_;
 };
 
 std::int64_t Operation::WriteThroughRuns(Table& table, const IncludeFilter& include, const OpenFile& input,
@@ -85,7 +87,7 @@ std::int64_t Operation::WriteThroughRuns(Table& table, const IncludeFilter& incl
   for (;;) {
     runs.Add(table.WriteEntries(runs.File(), runs.Count()));
     if (table.AtEnd()) break;
-    table.Load(input, include);
+    table.Load(input, include, progress_);
     table.Sort();
   }
   runs.Merge(output, limits_.MemoryBytes, workers);
@@ -106,9 +108,9 @@ Result Operation::BuildAside(std::string_view statement) {
   OpenFile aside = OpenEmpty(disk_, aside_);
   Workers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
   std::optional<Table> table = std::exchange(last_, std::nullopt);
-  if (!table || !table->Suits(layout, records) || !table->Reload(input, include)) {
+  if (!table || !table->Suits(layout, records) || !table->Reload(input, include, progress_)) {
     table.emplace(layout, records, RoomFor(layout, records, limits_), workers);
-    table->Load(input, include);
+    table->Load(input, include, progress_);
     table->Sort();
   }
   const std::int64_t written =
@@ -135,7 +137,7 @@ Result Operation::Run(std::string_view statement) {
 }  // namespace
 
 Result Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement) {
-  const Result result = Operation(disk_, input, output, limits_, workers_, last_).Run(statement);
+  const Result result = Operation(disk_, input, output, limits_, workers_, last_, Progress).Run(statement);
   if (result.Status == Status::Done) runtime::SyncFolders(disk_, output);
   return result;
 }

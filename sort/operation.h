@@ -47,6 +47,9 @@ class Sorter {
   // file is in place and a sync of its folder fails, that Failure is thrown.
   Result Sort(std::string_view input, std::string_view output, std::string_view statement);
 
+  // Gets the part of the input that a sort has read; called from the thread of Sort.
+  sort::Progress Progress;
+
  private:
   runtime::Disk& disk_;
   Limits limits_;

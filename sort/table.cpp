@@ -8,6 +8,14 @@
 #include "sort/blocks.h"
 
 namespace sort {
+namespace {
+
+// Worker 0 is the caller's thread; the other half goes about as fast.
+const Progress* ProgressOf(int worker, const Progress& progress) {
+  return worker == 0 && progress ? &progress : nullptr;
+}
+
+}  // namespace
 
 Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, Workers* workers)
     : layout_(layout),
@@ -35,13 +43,14 @@ std::span<Item> Table::Loaded(int worker) {
   return {items_.get() + part.Begin, part.Loaded};
 }
 
-void Table::Load(const runtime::OpenFile& input, const IncludeFilter& include) {
-  RunHalves(workers_, [&](int worker) { LoadPart(input, include, worker); });
+void Table::Load(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress) {
+  RunHalves(workers_, [&](int worker) { LoadPart(input, include, ProgressOf(worker, progress), worker); });
 }
 
-void Table::LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker) {
+void Table::LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress,
+                     int worker) {
   Part& part = parts_.at(worker);
-  BlockReader reader(input, layout_.RecordLength(), part.Next, part.End - part.Next, Block(worker));
+  BlockReader reader(input, layout_.RecordLength(), part.Next, part.End - part.Next, Block(worker), progress);
   const std::size_t length = layout_.EntryLength();
   std::size_t place = part.Begin;
   const std::size_t end = part.Begin + part.Room;
@@ -66,16 +75,18 @@ bool Table::Suits(const Layout& layout, std::int64_t records) const {
   return holds_all_ && records_ == records && layout_ == layout;
 }
 
-bool Table::Reload(const runtime::OpenFile& input, const IncludeFilter& include) {
+bool Table::Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress) {
   std::array<bool, 2> same{};
-  RunHalves(workers_, [&](int worker) { same.at(worker) = ReloadPart(input, include, worker); });
+  RunHalves(workers_,
+            [&](int worker) { same.at(worker) = ReloadPart(input, include, ProgressOf(worker, progress), worker); });
   return same[0] && same[1];
 }
 
-bool Table::ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker) {
+bool Table::ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress,
+                       int worker) {
   const Part& part = parts_.at(worker);
   const auto count = static_cast<std::int64_t>(part.Loaded);
-  BlockReader reader(input, layout_.RecordLength(), part.End - count, count, Block(worker));
+  BlockReader reader(input, layout_.RecordLength(), part.End - count, count, Block(worker), progress);
   const char* entry = entries_.get() + part.Begin * layout_.EntryLength();
   for (std::size_t place = part.Begin; const char* record = reader.Next(); ++place) {
     if (!layout_.IsEntryOf(record, entry)) return false;

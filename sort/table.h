@@ -11,6 +11,7 @@
 #include <span>
 
 #include "runtime/whole_io.h"
+#include "sort/blocks.h"
 #include "sort/include.h"
 #include "sort/items.h"
 #include "sort/layout.h"
@@ -31,14 +32,14 @@ class Table {
   bool HoldsAll() const { return holds_all_; }
   bool AtEnd() const { return parts_[0].Next == parts_[0].End && parts_[1].Next == parts_[1].End; }
   // Replaces the present records by the next ones of the input; without room for all, only included ones are loaded.
-  void Load(const runtime::OpenFile& input, const IncludeFilter& include);
+  void Load(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
   // Call once after each load.
   void Sort();
 
   // Whether a sort with that layout and record count could take over this table.
   bool Suits(const Layout& layout, std::int64_t records) const;
   // Rereads all records and applies the new test; false if one has changed.
-  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include);
+  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
 
   // Write the included records in order and return their count: as the output's first records, or as entries from
   // entry `first` on.
@@ -56,8 +57,8 @@ class Table {
 
   std::span<char> Block(int worker);
   std::span<Item> Loaded(int worker);
-  void LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker);
-  bool ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker);
+  void LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress, int worker);
+  bool ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress, int worker);
   std::uint64_t MiddleWindow();
   std::size_t CountBelow(std::uint64_t window);
   void SortHalves();

@@ -91,6 +91,7 @@ TEST_F(CopyWindow, OnTheOwnDriveTheNameStandsAloneAndNothingIsWritten) {
   ASSERT_EQ(Desk.Boxes.size(), 1u);
   EXPECT_NE(Desk.Boxes[0].find("ON DRIVE \"C:\"\r\n\r\nRECPRA.DAT was"), std::string::npos) << Desk.Boxes[0];
   EXPECT_EQ(Hard.Content(), before);
+  EXPECT_EQ(Desk.Copies, std::vector<std::string>());
 }
 
 TEST_F(CopyWindow, ADriveWithoutItsColonIsTheSameDrive) {
@@ -103,6 +104,7 @@ TEST_F(CopyWindow, ADriveWithoutItsColonIsTheSameDrive) {
   EXPECT_EQ(Running.Copy.LetterWord, "A");
   EXPECT_EQ(Running.Copy.TargetPath, "A:\\Recpra.Dat");
   EXPECT_TRUE(Floppy.Content().contains("Recpra.Dat"));
+  EXPECT_EQ(Desk.Copies, std::vector<std::string>{"Recpra.Dat a 1298"});
 }
 
 TEST_F(CopyWindow, AFullDiskLeavesTheOldFileAndAnotherTry) {
@@ -113,6 +115,7 @@ TEST_F(CopyWindow, AFullDiskLeavesTheOldFileAndAnotherTry) {
   Pick(Running.Copy.Drive1, "a:");
   ASSERT_EQ(Desk.Boxes.size(), 2u);
   EXPECT_EQ(Desk.Boxes[1], NoDisk);
+  EXPECT_EQ(Desk.Copies, std::vector<std::string>());
   EXPECT_TRUE(Running.Copy.lblCopy7.Visible());
   EXPECT_TRUE(Running.Copy.Visible());
   EXPECT_EQ(below.Content().at("Recpra.Dat"), "old");

@@ -21,6 +21,7 @@ class AnsweringDesk final : public QuietDesk {
 
   std::vector<std::string> Boxes;
   std::vector<std::uint32_t> ColourStarts;
+  std::vector<std::string> Copies;  // file, drive and bytes of each
 
   std::optional<std::uint32_t> ColourDialog(std::uint32_t start) override {
     ColourStarts.push_back(start);
@@ -32,6 +33,9 @@ class AnsweringDesk final : public QuietDesk {
     return letters;
   }
   std::optional<std::string> DriveFolder(char letter) override { return Drives[letter]; }
+  void Copied(std::string_view file, char drive, std::int64_t bytes) override {
+    Copies.push_back(std::string(file) + " " + drive + " " + std::to_string(bytes));
+  }
 
  private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {

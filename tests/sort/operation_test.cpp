@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
+#include <thread>
+#include <vector>
 
 #include "store/film_record.h"
 #include "tests/sort/calls.h"
@@ -193,6 +196,31 @@ TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
   EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, {1, 100}).Status, Status::Done);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Solaris", "0000001"));
   EXPECT_EQ(Leftovers(disk), "");
+}
+
+TEST(SortOperation, TellsHowMuchOfTheInputItHasRead) {
+  std::string master;
+  for (int film = 0; film < 2000; ++film) master += Film(std::to_string(film));
+  for (std::int64_t two_workers_from : {std::int64_t{1}, MaxRecords}) {
+    kit::MemoryDisk memory(FolderWith(master));
+    SharedDisk disk(memory);
+    Limits limits;
+    limits.TwoWorkersFrom = two_workers_from;
+    Sorter sorter(disk, limits);
+    std::vector<double> parts;
+    sorter.Progress = [&, caller = std::this_thread::get_id()](double part) {
+      EXPECT_EQ(std::this_thread::get_id(), caller);
+      parts.push_back(part);
+    };
+    for (std::size_t pass : {0U, 1U}) {
+      parts.clear();
+      EXPECT_EQ(SortWith(sorter, "Titlepra.Dat", StatementOfPass(pass)).Status, Status::Done);
+      ASSERT_GE(parts.size(), 2U);
+      EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+      EXPECT_GT(parts.front(), 0);
+      EXPECT_EQ(parts.back(), 1);
+    }
+  }
 }
 
 }  // namespace
