@@ -1,6 +1,8 @@
 // What all views share, and which class draws which kind of control.
 #include "desktop/control_view.h"
 
+#include <utility>
+
 #include "desktop/button_view.h"
 #include "desktop/field_view.h"
 #include "desktop/label_view.h"
@@ -33,10 +35,11 @@ bool ControlView::LookChanged() {
   return true;
 }
 
-std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, bool tag) {
+std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, bool tag,
+                                      CodePageValidator::Refused refused) {
   switch (control.Kind) {
     case forms::Kind::TextBox:
-      return std::make_unique<FieldView>(static_cast<forms::TextBox&>(control), parent);
+      return std::make_unique<FieldView>(static_cast<forms::TextBox&>(control), parent, std::move(refused));
     case forms::Kind::ListBox:
       return std::make_unique<ListView>(static_cast<forms::ListBox&>(control), parent);
     case forms::Kind::Button:

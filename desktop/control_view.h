@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "desktop/code_page_validator.h"
 #include "desktop/grid.h"
 #include "forms/controls.h"
 
@@ -49,8 +50,9 @@ class ControlView {
 };
 
 // The view of a control other than a menu item. Parent: the window's surface. Tag: a label that names a field; its
-// padding is folded.
-std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, bool tag);
+// padding is folded. Refused: called with the pasted characters that a text box did not take.
+std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, bool tag,
+                                      CodePageValidator::Refused refused);
 
 QColor ToColour(forms::Colour colour);
 // Disabled text colour.

@@ -2,6 +2,7 @@
 #include "desktop/drives.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStorageInfo>
 #include <algorithm>
 #include <vector>
@@ -30,6 +31,12 @@ std::optional<std::string> DriveFolder(char letter, const std::string& folder) {
   auto number = static_cast<std::size_t>(letter - 'a');
   if (letter < 'a' || number >= std::min<std::size_t>(disks.size(), 2)) return std::nullopt;
   return disks[number];
+}
+
+QString DiskName(const std::string& folder) {
+  QString path = QFile::decodeName(folder.c_str());
+  QString label = QStorageInfo(path).name();
+  return label.isEmpty() ? QFileInfo(path).fileName() : label;
 }
 
 }  // namespace desktop

@@ -3,10 +3,9 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <utility>
 
 #include "desktop/text.h"
-#include "forms/window.h"
-#include "forms/window_stack.h"
 
 namespace desktop {
 namespace {
@@ -16,21 +15,11 @@ constexpr int TextMargin = 4;          // pixels, including room for the caret
 
 }  // namespace
 
-FieldView::FieldView(forms::TextBox& box, QWidget& parent)
-    : QLineEdit(&parent), ControlView(box), box_(box), validator_([this] { return Refuses(); }) {
+FieldView::FieldView(forms::TextBox& box, QWidget& parent, CodePageValidator::Refused refused)
+    : QLineEdit(&parent), ControlView(box), box_(box), validator_(*this, std::move(refused)) {
   setFrame(false);
   setFocusPolicy(Qt::TabFocus);
   setAccessibleName(AccessibleName(box));
-  setValidator(&validator_);
-}
-
-FieldView::~FieldView() { setValidator(nullptr); }
-
-// Text set by the form is never refused.
-bool FieldView::Refuses() const {
-  if (mirroring_) return false;
-  box_.Owner().Owner().Desk.Beep();
-  return true;
 }
 
 void FieldView::Entered() {
@@ -61,7 +50,7 @@ void FieldView::ApplyContent() {
   QString wanted_text = Shown(box_.Text());
   if (wanted_text == text()) return;
   mirroring_ = true;
-  setText(wanted_text);
+  validator_.SetText(wanted_text);
   mirroring_ = false;
   FitFont();
   // Shows the start of a long text unless it is being edited.

@@ -3,15 +3,15 @@
 
 #include <QLineEdit>
 
+#include "desktop/code_page_validator.h"
 #include "desktop/control_view.h"
-#include "desktop/text.h"
 
 namespace desktop {
 
 class FieldView final : public QLineEdit, public ControlView {
  public:
-  FieldView(forms::TextBox& box, QWidget& parent);
-  ~FieldView() override;
+  // Refused: called with the pasted characters that the box did not take.
+  FieldView(forms::TextBox& box, QWidget& parent, CodePageValidator::Refused refused);
   QWidget& Widget() override { return *this; }
   forms::TextBox& Box() const { return box_; }
   // The text is being set from the form, not by the user.
@@ -26,7 +26,6 @@ class FieldView final : public QLineEdit, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  bool Refuses() const;
   void FitFont();
   forms::TextBox& box_;
   CodePageValidator validator_;

@@ -5,8 +5,11 @@
 #include <QScreen>
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 #include "desktop/artwork.h"
+#include "desktop/notice_line.h"
+#include "desktop/notices.h"
 #include "desktop/stack_view.h"
 #include "desktop/text.h"
 #include "forms/window_stack.h"
@@ -85,7 +88,8 @@ void FormView::MirrorControls() {
 // Later controls lie over earlier ones, in whatever order they are first shown.
 void FormView::MakeView(std::size_t index) {
   Slot& slot = slots_[index];
-  slot.View = desktop::MakeView(*slot.Control, surface_, slot.Tag);
+  slot.View = desktop::MakeView(*slot.Control, surface_, slot.Tag,
+                                [this](const QString& characters) { input_.Refuse(characters); });
   auto above = std::find_if(slots_.begin() + static_cast<std::ptrdiff_t>(index) + 1, slots_.end(),
                             [](const Slot& other) { return other.View != nullptr; });
   if (above != slots_.end()) slot.View->Widget().stackUnder(&above->View->Widget());
@@ -118,23 +122,53 @@ void FormView::SyncFocus() {
   if (focusWidget() != wanted) wanted->setFocus(Qt::OtherFocusReason);
   if (focus_ == holder) return;
   focus_ = holder;
+  stack_.ClearNotice(CharacterNotice);
   if (view) view->Entered();
 }
 
 void FormView::LayOut() {
   int bar_height = 0;
-  Grid grid = Grid::Of(size(), window_.Width, window_.Height);
+  Grid grid = Grid::Of({width(), height() - notices_height_}, window_.Width, window_.Height);
   if (!menu_.Empty()) {
     menu_.Scale(grid);
     bar_height = menu_.Bar().heightForWidth(width());
     menu_.Bar().setGeometry(0, 0, width(), bar_height);
   }
-  surface_.setGeometry(0, bar_height, width(), height() - bar_height);
+  if (notices_) {
+    notices_->Scale(grid);
+    notices_height_ = notices_->HeightFor(width());
+    notices_->setGeometry(0, height() - notices_height_, width(), notices_height_);
+  }
+  surface_.setGeometry(0, bar_height, width(), height() - bar_height - notices_height_);
   grid = Grid::Of(surface_.size(), window_.Width, window_.Height);
   if (grid == grid_) return;
   grid_ = grid;
   for (Slot& slot : slots_)
     if (slot.View) slot.View->Forget();
+}
+
+void FormView::PlaceNotices(NoticeLine* line) {
+  if (std::exchange(notices_, line) != line && line) {
+    line->setParent(this);
+    line->Scale(grid_);
+  }
+  int height = line ? line->HeightFor(width()) : 0;
+  int more = height - std::exchange(notices_height_, height);
+  if (more > 0) Grow(more);
+  if (more < 0) Grow(-std::min(grown_, height > 0 ? -more : grown_));
+  LayOut();
+  if (line) line->setVisible(height > 0);
+}
+
+// Moves up if the display has no room below. Never shrinks by more than it has grown.
+void FormView::Grow(int pixels) {
+  if (isMaximized() || isFullScreen()) return;
+  QRect room = screen()->availableGeometry();
+  pixels = std::min(pixels, std::max(0, room.height() - frameGeometry().height()));
+  int above = frameGeometry().bottom() + pixels - room.bottom();
+  if (pixels > 0 && above > 0) move(x(), std::max(room.top(), y() - above));
+  grown_ += pixels;
+  resize(width(), height() + pixels);
 }
 
 QSize FormView::StartSize() const {

@@ -13,6 +13,7 @@
 
 namespace desktop {
 
+class NoticeLine;
 class StackView;
 
 class FormView final : public QWidget {
@@ -27,6 +28,9 @@ class FormView final : public QWidget {
   QWidget& Surface() { return surface_; }
   // nullptr if the control has not been shown yet.
   ControlView* ViewOf(const forms::Control& control) const;
+  // Puts the notice line below the surface; nullptr for none. The window grows by the line's height as far as the
+  // display has room, so that the form keeps its size.
+  void PlaceNotices(NoticeLine* line);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -43,6 +47,7 @@ class FormView final : public QWidget {
   void SyncFrame();
   void SyncFocus();
   void LayOut();
+  void Grow(int pixels);
   QSize StartSize() const;
 
   forms::Window& window_;
@@ -53,6 +58,9 @@ class FormView final : public QWidget {
   std::vector<Slot> slots_;
   std::vector<ControlView*> changed_;
   Grid grid_;
+  NoticeLine* notices_ = nullptr;
+  int notices_height_ = 0;
+  int grown_ = 0;  // pixels that the window gained by the notice line
   std::string title_;
   forms::Control* focus_ = nullptr;
 };

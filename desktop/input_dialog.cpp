@@ -1,31 +1,26 @@
 // Lays out the prompt, the answer line and the two buttons.
 #include "desktop/input_dialog.h"
 
-#include <QApplication>
+#include <utility>
 
 namespace desktop {
 namespace {
 
 constexpr int PromptWidth = 420;
 
-bool RefuseWithBeep() {
-  QApplication::beep();
-  return true;
-}
-
 }  // namespace
 
-InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* parent)
+InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* parent,
+                         CodePageValidator::Refused refused)
     : QDialog(parent),
-      validator_(RefuseWithBeep),
       column_(this),
       prompt_(prompt),
+      validator_(line_, std::move(refused)),
       buttons_(QDialogButtonBox::Ok | QDialogButtonBox::Cancel) {
   setWindowTitle(title);
   prompt_.setTextFormat(Qt::PlainText);
   prompt_.setWordWrap(true);
   prompt_.setMinimumWidth(PromptWidth);
-  line_.setValidator(&validator_);
   line_.setAccessibleName(prompt.simplified());
   connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -7,20 +7,21 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "desktop/text.h"
+#include "desktop/code_page_validator.h"
 
 namespace desktop {
 
 class InputDialog final : public QDialog {
  public:
-  InputDialog(const QString& title, const QString& prompt, QWidget* parent);
+  // Refused: called with the characters that the line did not take.
+  InputDialog(const QString& title, const QString& prompt, QWidget* parent, CodePageValidator::Refused refused);
   QString Answer() const { return line_.text(); }
 
  private:
-  CodePageValidator validator_;
   QVBoxLayout column_;
   QLabel prompt_;
   QLineEdit line_;
+  CodePageValidator validator_;
   QDialogButtonBox buttons_;
 };
 

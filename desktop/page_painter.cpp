@@ -84,13 +84,15 @@ void PagePainter::PaintLine(QPainter& painter, const runtime::PrintedLine& line,
                    Qt::black);
 }
 
-bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device) {
+bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device, const Progress& progress) {
   int resolution = device.logicalDpiX();
   PagePainter pages(job, device.pageLayout().paintRectPixels(resolution).size(), resolution);
   QPainter painter;
   if (!painter.begin(&device)) return false;
+  std::size_t drawn = 0;
   for (const runtime::PrintedPage& page : job.Pages) {
-    if (&page != &job.Pages.front() && !device.newPage()) return false;
+    if (progress) progress(static_cast<double>(drawn) / static_cast<double>(job.Pages.size()));
+    if (drawn++ > 0 && !device.newPage()) return false;
     pages.Paint(painter, page);
   }
   return painter.end();

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <array>
+#include <functional>
 
 #include "runtime/print_job.h"
 
@@ -50,7 +51,10 @@ class PagePainter {
   QList<QPointF> places_;
 };
 
+// Gets the part that is done, from 0 to 1.
+using Progress = std::function<void(double done)>;
+
 // Draws all pages inside the margins of the device's page layout; false if one failed.
-bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device);
+bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device, const Progress& progress = {});
 
 }  // namespace desktop

@@ -29,9 +29,10 @@ bool QueueTookJob() {
   return !last_error || last_error() <= 7;
 }
 
-void PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer) {
+PrintedTo PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer, const Progress& progress) {
   printer.setDocName(Shown(job.Title));
-  if (!PaintPages(job, printer) || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
+  if (!PaintPages(job, printer, progress) || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
+  return {{}, printer.printerName()};
 }
 
 // Creates a new file; adds " (2)" and so on to the name if it is taken.
@@ -44,46 +45,45 @@ void OpenNew(QFile& file, const QString& folder, const QString& name) {
   }
 }
 
-void PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& size, QPageLayout::Orientation turned) {
+PrintedTo PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& size,
+                        QPageLayout::Orientation turned, const Progress& progress) {
   QPdfWriter writer(&file);
   writer.setTitle(Shown(job.Title));
   writer.setCreator(QStringLiteral("Reelora Prima"));
   writer.setPageLayout(
       QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
-  bool drawn = PaintPages(job, writer);
-  if (drawn && file.flush() && file.error() == QFileDevice::NoError) return;
+  bool drawn = PaintPages(job, writer, progress);
+  if (drawn && file.flush() && file.error() == QFileDevice::NoError) return {file.fileName(), {}};
   // Not file.remove(), which fails if the file cannot be closed.
   QFile::remove(file.fileName());
   Fail();
 }
 
-void PrintIntoDocuments(const runtime::PrintJob& job, std::chrono::local_seconds now) {
+PrintedTo PrintIntoDocuments(const runtime::PrintJob& job, std::chrono::local_seconds now, const Progress& progress) {
   QString folder = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath("Reelora Prima");
   if (!QDir().mkpath(folder)) Fail();
   QString stamp = Shown(runtime::StampText(now)).replace(':', '-');
   QFile file;
   OpenNew(file, folder, Shown(job.Title) + ' ' + stamp);
   bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-  PrintIntoFile(job, file, QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait);
+  return PrintIntoFile(job, file, QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+                       progress);
 }
 
-void PrintIntoChosenFile(const runtime::PrintJob& job, const QPrinter& printer) {
+PrintedTo PrintIntoChosenFile(const runtime::PrintJob& job, const QPrinter& printer, const Progress& progress) {
   QFileInfo chosen(printer.outputFileName());
   QFile file;
   OpenNew(file, chosen.path(), chosen.completeBaseName());
-  PrintIntoFile(job, file, printer.pageLayout().pageSize(), printer.pageLayout().orientation());
+  return PrintIntoFile(job, file, printer.pageLayout().pageSize(), printer.pageLayout().orientation(), progress);
 }
 
 }  // namespace
 
-void PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chrono::local_seconds now) {
-  if (!printer.outputFileName().isEmpty()) {
-    PrintIntoChosenFile(job, printer);
-  } else if (printer.outputFormat() == QPrinter::PdfFormat) {
-    PrintIntoDocuments(job, now);
-  } else {
-    PrintOnQueue(job, printer);
-  }
+PrintedTo PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chrono::local_seconds now,
+                       const Progress& progress) {
+  if (!printer.outputFileName().isEmpty()) return PrintIntoChosenFile(job, printer, progress);
+  if (printer.outputFormat() == QPrinter::PdfFormat) return PrintIntoDocuments(job, now, progress);
+  return PrintOnQueue(job, printer, progress);
 }
 
 }  // namespace desktop

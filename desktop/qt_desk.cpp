@@ -4,13 +4,17 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDateTime>
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QUrl>
 #include <utility>
 
 #include "desktop/control_view.h"
 #include "desktop/drives.h"
 #include "desktop/input_dialog.h"
+#include "desktop/notices.h"
 #include "desktop/paper.h"
 #include "desktop/stack_view.h"
 #include "desktop/text.h"
@@ -41,6 +45,7 @@ QtDesk::QtDesk(std::string folder) : folder_(std::move(folder)) {}
 
 QWidget* QtDesk::FrontWindow() {
   if (!view_) return nullptr;
+  view_->EndProgress();
   view_->Sync();
   return view_->Front();
 }
@@ -60,7 +65,10 @@ forms::Answer QtDesk::AskMessageBox(forms::Icon icon, std::string_view title, st
 }
 
 std::string QtDesk::InputBox(std::string_view title, std::string_view prompt) {
-  InputDialog dialog(TitleOf(title), Shown(prompt).remove('\r'), FrontWindow());
+  InputDialog dialog(TitleOf(title), Shown(prompt).remove('\r'), FrontWindow(), [this](const QString& characters) {
+    Beep();
+    if (view_) view_->Notices().Show(NotStoredText(characters), {}, CharacterNotice);
+  });
   return dialog.exec() == QDialog::Accepted ? Stored(dialog.Answer()) : std::string();
 }
 
@@ -79,7 +87,22 @@ QPrinter& QtDesk::Printer() {
 
 void QtDesk::PrinterDialog() { QPrintDialog(&Printer(), FrontWindow()).exec(); }
 
-void QtDesk::Print(const runtime::PrintJob& job) { PrintOnPaper(job, Printer(), Now()); }
+void QtDesk::Print(const runtime::PrintJob& job) {
+  PrintedTo printed =
+      PrintOnPaper(job, Printer(), Now(), [this](double done) { Progress("Printing the report", done); });
+  if (view_) ShowPrinted(printed);
+}
+
+void QtDesk::ShowPrinted(const PrintedTo& printed) {
+  NoticeLine& notices = view_->Notices();
+  if (printed.File.isEmpty()) {
+    notices.Show(SentText(printed.Queue), {}, ReportNotice);
+    return;
+  }
+  auto opens = [](const QString& path) { return [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }; };
+  QString folder = QFileInfo(printed.File).absolutePath();
+  notices.Show(SavedText(printed.File), {{"Open", opens(printed.File)}, {"Show folder", opens(folder)}}, ReportNotice);
+}
 
 void QtDesk::Help(int topic) {
   if (!help_) help_ = std::make_unique<HelpViewer>(folder_);
@@ -102,6 +125,17 @@ void QtDesk::Repaint() {
 void QtDesk::RepaintNow() {
   if (view_) view_->Paint();
   painted_ = std::chrono::steady_clock::now();
+}
+
+void QtDesk::Progress(std::string_view work, double done) {
+  if (view_) view_->Progress(work, done);
+}
+
+void QtDesk::Copied(std::string_view file, char drive, std::int64_t bytes) {
+  if (!view_) return;
+  std::optional<std::string> folder = DriveFolder(drive);
+  QString disk = folder ? DiskName(*folder) : QString();
+  view_->Notices().Show(CopiedText(Shown(file), disk, drive, bytes), {}, CopyNotice);
 }
 
 // Not quit(): that would ask the windows first, and they leave the answer to the form.

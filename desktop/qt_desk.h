@@ -7,6 +7,7 @@
 #include <string>
 
 #include "desktop/help_viewer.h"
+#include "desktop/paper.h"
 #include "forms/desk.h"
 
 namespace desktop {
@@ -31,6 +32,8 @@ class QtDesk final : public forms::Desk {
   std::optional<std::string> DriveFolder(char letter) override;
   void Repaint() override;
   void RepaintNow() override;
+  void Progress(std::string_view work, double done) override;
+  void Copied(std::string_view file, char drive, std::int64_t bytes) override;
   void Closed() override;
   void FailureReport(std::string_view failure, std::string_view file) override;
 
@@ -41,6 +44,7 @@ class QtDesk final : public forms::Desk {
  private:
   QWidget* FrontWindow();
   QPrinter& Printer();
+  void ShowPrinted(const PrintedTo& printed);
 
   std::string folder_;
   StackView* view_ = nullptr;

@@ -4,9 +4,16 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "desktop/text.h"
 #include "forms/window.h"
 
 namespace desktop {
+namespace {
+
+constexpr std::chrono::milliseconds LongWork(500);
+constexpr std::chrono::milliseconds ProgressInterval(100);
+
+}  // namespace
 
 StackView::StackView(forms::WindowStack& windows, Delivery deliver) : windows_(windows), deliver_(std::move(deliver)) {}
 
@@ -14,6 +21,7 @@ void StackView::Deliver(const std::function<void()>& event) {
   if (delivering_) return;
   delivering_ = true;
   deliver_(event);
+  EndProgress();
   delivering_ = false;
   Sync();
 }
@@ -28,6 +36,7 @@ void StackView::Sync() {
     }
     if (view) (*view)->Sync();
   }
+  PlaceNotices();
   const forms::Window* front = windows_.Front();
   if (std::exchange(front_, front) == front || !front) return;
   FormView& view = *ViewOf(*front);
@@ -48,6 +57,46 @@ FormView* StackView::ViewOf(const forms::Window& window) const {
 FormView* StackView::Front() const {
   const forms::Window* front = windows_.Front();
   return front ? ViewOf(*front) : nullptr;
+}
+
+NoticeLine& StackView::Notices() {
+  // While an event runs, the Sync after it places the line: the window in front may still change.
+  if (!notices_)
+    notices_ = std::make_unique<NoticeLine>([this] {
+      if (!delivering_) PlaceNotices();
+    });
+  return *notices_;
+}
+
+void StackView::ClearNotice(const QString& key) {
+  if (notices_) notices_->Clear(key);
+}
+
+void StackView::PlaceNotices() {
+  if (!notices_) return;
+  FormView* wanted = nullptr;
+  if (!notices_->Empty()) wanted = noticed_ && noticed_->Window().Visible() ? noticed_ : Front();
+  if (noticed_ && noticed_ != wanted) noticed_->PlaceNotices(nullptr);
+  noticed_ = wanted;
+  if (wanted) {
+    wanted->PlaceNotices(notices_.get());
+  } else {
+    notices_->hide();
+  }
+}
+
+void StackView::Progress(std::string_view work, double done) {
+  auto now = std::chrono::steady_clock::now();
+  if (!work_since_) work_since_ = now;
+  if (now - *work_since_ < LongWork || now - progress_shown_ < ProgressInterval) return;
+  progress_shown_ = now;
+  Notices().Progress(Shown(work), done);
+  Paint();
+}
+
+void StackView::EndProgress() {
+  work_since_.reset();
+  if (notices_) notices_->EndProgress();
 }
 
 }  // namespace desktop

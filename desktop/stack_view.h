@@ -1,11 +1,15 @@
 // All drawn windows of the program, and the one path on which the user's events reach the forms.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string_view>
 #include <unordered_map>
 
 #include "desktop/form_view.h"
+#include "desktop/notice_line.h"
 #include "forms/window_stack.h"
 
 namespace desktop {
@@ -28,12 +32,27 @@ class StackView {
   // The drawn front window; nullptr if none is visible.
   FormView* Front() const;
 
+  // The line of notices below the front window. It stays with its window until that is hidden.
+  NoticeLine& Notices();
+  void ClearNotice(const QString& key);
+  // How far long work of the running event is, from 0 to 1. Shown once the work has taken half a second since the first
+  // call, until the event is over.
+  void Progress(std::string_view work, double done);
+  void EndProgress();
+
  private:
+  void PlaceNotices();
+
   forms::WindowStack& windows_;
   Delivery deliver_;
   bool delivering_ = false;
   const forms::Window* front_ = nullptr;
   std::unordered_map<const forms::Window*, std::unique_ptr<FormView>> views_;
+  FormView* noticed_ = nullptr;  // the window with the line
+  // After the views: it goes before the window that it lies in.
+  std::unique_ptr<NoticeLine> notices_;
+  std::optional<std::chrono::steady_clock::time_point> work_since_;
+  std::chrono::steady_clock::time_point progress_shown_;
 };
 
 }  // namespace desktop

@@ -1,7 +1,7 @@
 // Converts character by character.
 #include "desktop/text.h"
 
-#include <utility>
+#include <optional>
 
 #include "runtime/code_page.h"
 
@@ -9,10 +9,11 @@ namespace desktop {
 namespace {
 
 // A box has one line: no tabs or line breaks.
-std::optional<char> Taken(QChar character) {
-  if (character.category() == QChar::Other_Control) return std::nullopt;
-  return runtime::FromUnicode(character.unicode());
+bool IsTaken(QChar character) {
+  return character.category() != QChar::Other_Control && runtime::FromUnicode(character.unicode());
 }
+
+QString Composed(const QString& text) { return text.normalized(QString::NormalizationForm_C); }
 
 }  // namespace
 
@@ -25,28 +26,21 @@ QString Shown(std::string_view text) {
 
 std::string Stored(const QString& text) {
   std::string stored;
-  for (QChar character : text.normalized(QString::NormalizationForm_C))
-    if (std::optional<char> taken = Taken(character)) stored += *taken;
+  for (QChar character : text)
+    if (std::optional<char> byte = runtime::FromUnicode(character.unicode())) stored += *byte;
   return stored;
 }
 
-bool Storable(const QString& text) {
-  QString composed = text.normalized(QString::NormalizationForm_C);
-  return Stored(composed).size() == static_cast<std::size_t>(composed.size());
+QString Typed(const QString& text) {
+  QString typed = Composed(text);
+  return typed.removeIf([](QChar character) { return !IsTaken(character); });
+}
+
+QString NotTyped(const QString& text) {
+  QString left_out = Composed(text);
+  return left_out.removeIf(IsTaken);
 }
 
 QString Spoken(std::string_view caption) { return Shown(caption).remove('&').simplified(); }
-
-CodePageValidator::CodePageValidator(std::function<bool()> refuses, QObject* parent)
-    : QValidator(parent), refuses_(std::move(refuses)) {}
-
-QValidator::State CodePageValidator::validate(QString& text, int& caret) const {
-  if (!Storable(text) && !refuses_()) return Acceptable;
-  QString taken = Shown(Stored(text));
-  if (taken == text) return Acceptable;
-  caret = static_cast<int>(Stored(text.left(caret)).size());
-  text = taken;
-  return Acceptable;
-}
 
 }  // namespace desktop

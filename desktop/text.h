@@ -2,30 +2,20 @@
 #pragma once
 
 #include <QString>
-#include <QValidator>
-#include <functional>
 #include <string>
 #include <string_view>
 
 namespace desktop {
 
 QString Shown(std::string_view text);
-// Leaves out control characters and characters that the code page lacks.
+// The inverse, all bytes included; leaves out characters that the code page lacks.
 std::string Stored(const QString& text);
-// Whether Stored would leave nothing out.
-bool Storable(const QString& text);
+// What a box takes of a typed or pasted text, accents joined to their letters: no control characters and nothing that
+// the code page lacks.
+QString Typed(const QString& text);
+// What Typed leaves out.
+QString NotTyped(const QString& text);
 // A caption as read aloud: blanks folded and trimmed, no hot key mark.
 QString Spoken(std::string_view caption);
-
-// Removes from a typed or pasted text what the code page lacks. Calls refuses each time; if it returns false, the text
-// stays as it is.
-class CodePageValidator final : public QValidator {
- public:
-  explicit CodePageValidator(std::function<bool()> refuses, QObject* parent = nullptr);
-  State validate(QString& text, int& caret) const override;
-
- private:
-  std::function<bool()> refuses_;
-};
 
 }  // namespace desktop

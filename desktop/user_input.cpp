@@ -10,6 +10,7 @@
 #include "desktop/field_view.h"
 #include "desktop/form_view.h"
 #include "desktop/list_view.h"
+#include "desktop/notices.h"
 #include "desktop/stack_view.h"
 #include "desktop/text.h"
 
@@ -50,7 +51,9 @@ void UserInput::Watch(ControlView& view) {
 void UserInput::WatchSignals(ControlView& view) {
   if (FieldView* field = AsField(&view)) {
     connect(field, &QLineEdit::textChanged, this, [this, field](const QString& text) {
-      if (!field->Mirroring()) Deliver(*field, [&] { Window().UserEdit(field->Box(), Stored(text)); });
+      if (field->Mirroring()) return;
+      stack_.ClearNotice(CharacterNotice);
+      Deliver(*field, [&] { Window().UserEdit(field->Box(), Stored(text)); });
     });
   } else if (auto* list = dynamic_cast<ListView*>(&view)) {
     connect(list, &QListWidget::currentRowChanged, this, [this, list](int row) {

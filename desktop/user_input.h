@@ -27,6 +27,8 @@ class UserInput final : public QObject {
   // The window itself or its surface.
   void Watch(QWidget& bare);
   bool eventFilter(QObject* watched, QEvent* event) override;
+  // Beeps and names the characters that a text box did not take.
+  void Refuse(const QString& characters);
 
  private:
   forms::Window& Window() const;

@@ -5,6 +5,7 @@
 
 #include "desktop/field_view.h"
 #include "desktop/form_view.h"
+#include "desktop/notices.h"
 #include "desktop/stack_view.h"
 #include "desktop/text.h"
 #include "desktop/user_input.h"
@@ -99,13 +100,18 @@ bool UserInput::KeyInField(FieldView& field, QKeyEvent& key) {
 
 // Whether the box takes the characters: the code page has them, and KeyPress leaves the focus in the box.
 bool UserInput::AskKeyPress(FieldView& field, const QString& characters) {
-  if (!Storable(characters)) {
-    Window().Owner().Desk.Beep();
+  if (QString refused = NotTyped(characters); !refused.isEmpty()) {
+    Refuse(refused);
     return false;
   }
   bool taken = false;
   stack_.Deliver([&] { taken = Window().UserKeyPress(field.Box()); });
   return taken;
+}
+
+void UserInput::Refuse(const QString& characters) {
+  Window().Owner().Desk.Beep();
+  stack_.Notices().Show(NotStoredText(characters), {}, CharacterNotice);
 }
 
 // Committed text is typed text; preedit text is not.

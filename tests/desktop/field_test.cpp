@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 
+#include "desktop/text.h"
 #include "tests/desktop/small_window.h"
 
 namespace desktop {
@@ -67,8 +68,55 @@ TEST_F(Field, ATypedCharacterThatTheCodePageLacksBeeps) {
 TEST_F(Field, OfAPastedTextOnlyWhatTheCodePageHasIsTaken) {
   QApplication::clipboard()->setText(QString::fromUtf8("Amélie ж 2"));
   FieldOf(Form.Title).paste();
+  QApplication::processEvents();
   EXPECT_EQ(Form.Title.Text(), "Am\xe9lie  2");
   EXPECT_EQ(Desk.Beeps, 1);
+  EXPECT_EQ(View.Notices().Text(), QString::fromUtf8("ж cannot be stored"));
+}
+
+TEST_F(Field, APasteThatIsTakenInPartCanBeUndone) {
+  Type("abc");
+  FieldView& field = FieldOf(Form.Title);
+  QApplication::clipboard()->setText(QString::fromUtf8("Człowiek"));
+  field.setSelection(1, 1);
+  field.paste();
+  QApplication::processEvents();
+  EXPECT_EQ(Form.Title.Text(), "aCzowiekc");
+  EXPECT_EQ(field.cursorPosition(), 8);
+  field.undo();
+  EXPECT_EQ(Form.Title.Text(), "abc");
+  field.undo();
+  EXPECT_EQ(Form.Title.Text(), "");
+  field.redo();
+  field.redo();
+  EXPECT_EQ(Form.Title.Text(), "aCzowiekc");
+}
+
+TEST_F(Field, APasteOfWhichNothingIsTakenLeavesTextAndSelection) {
+  Type("abc");
+  FieldView& field = FieldOf(Form.Title);
+  QApplication::clipboard()->setText(QString::fromUtf8("ж"));
+  field.setSelection(1, 1);
+  field.paste();
+  QApplication::processEvents();
+  EXPECT_EQ(Form.Title.Text(), "abc");
+  EXPECT_EQ(field.selectedText(), "b");
+  field.undo();
+  EXPECT_EQ(Form.Title.Text(), "");
+}
+
+TEST_F(Field, BytesOfARecordStayInAFieldThatIsTypedInto) {
+  Form.Title.SetText("Fran\x90ois\x01");
+  View.Sync();
+  Key(Qt::Key_End);
+  Type("!");
+  EXPECT_EQ(Form.Title.Text(), "Fran\x90ois\x01!");
+  Key(Qt::Key_Backspace);
+  Key(Qt::Key_Backspace);
+  FieldOf(Form.Title).undo();
+  EXPECT_EQ(FieldOf(Form.Title).text(), Shown(Form.Title.Text()));
+  EXPECT_TRUE(Form.Title.Text().starts_with("Fran\x90ois"));
+  EXPECT_EQ(Desk.Beeps, 0);
 }
 
 TEST_F(Field, WhatTheFormShowsIsNeverRefused) {

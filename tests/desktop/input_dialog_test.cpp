@@ -12,18 +12,21 @@ namespace desktop {
 namespace {
 
 TEST(InputDialog, GivesTheAnswerAsItIsTyped) {
-  InputDialog dialog("Search", "Title to search:", nullptr);
+  QString refused;
+  InputDialog dialog("Search", "Title to search:", nullptr, [&](const QString& characters) { refused = characters; });
   QTimer::singleShot(0, [&] {
     QApplication::clipboard()->setText(QString::fromUtf8(" Amélie ж "));
     dialog.findChild<QLineEdit*>()->paste();
+    QApplication::processEvents();
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
   });
   EXPECT_EQ(dialog.exec(), QDialog::Accepted);
   EXPECT_EQ(dialog.Answer(), QString::fromUtf8(" Amélie  "));
+  EXPECT_EQ(refused, QString::fromUtf8("ж"));
 }
 
 TEST(InputDialog, CanBeCancelled) {
-  InputDialog dialog("Search", "Title to search:", nullptr);
+  InputDialog dialog("Search", "Title to search:", nullptr, [](const QString&) {});
   QTimer::singleShot(0, [&] { dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click(); });
   EXPECT_EQ(dialog.exec(), QDialog::Rejected);
 }
