@@ -19,6 +19,8 @@ Program::Program(forms::Desk& desk, runtime::Disk& disk)
   Opening.frmInfo = &Info;
   Opening.frmQuickStart = &QuickStart;
   RecordScreen.frmQuickStart = &QuickStart;
+  for (forms::Window* window : {static_cast<forms::Window*>(&Opener), static_cast<forms::Window*>(&Info)})
+    window->HiddenBehind = &RecordScreen;
   RecordScreen.OpenCopyWindow = [this] { Copy.Open(); };
   runtime::RemoveLeftovers(disk);
 }

@@ -20,6 +20,7 @@ FieldView::FieldView(forms::TextBox& box, QWidget& parent, CodePageValidator::Re
   setFrame(false);
   setFocusPolicy(Qt::TabFocus);
   setAccessibleName(AccessibleName(box));
+  setReadOnly(!box.TakesTyping);
 }
 
 void FieldView::Entered() {

@@ -49,6 +49,7 @@ FormView::FormView(forms::Window& window, StackView& all)
   for (forms::Control* control : window.Controls())
     if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr});
   surface_.setAutoFillBackground(true);
+  if (window.Modal) setWindowModality(Qt::ApplicationModal);
   input_.Watch(*this);
   input_.Watch(surface_);
   menu_.Bar().setVisible(!menu_.Empty());
@@ -60,7 +61,7 @@ FormView::FormView(forms::Window& window, StackView& all)
 }
 
 void FormView::Sync() {
-  if (!window_.Visible()) {
+  if (!window_.InSight()) {
     hide();
     return;
   }
@@ -178,7 +179,7 @@ QSize FormView::StartSize() const {
 }
 
 void FormView::resizeEvent(QResizeEvent*) {
-  if (!window_.Visible() || !isVisible()) return;
+  if (!window_.InSight() || !isVisible()) return;
   LayOut();
   MirrorControls();
   for (ControlView* view : changed_) view->Withdraw();

@@ -31,7 +31,7 @@ void StackView::Sync() {
     std::unique_ptr<FormView>* view = nullptr;
     if (auto found = views_.find(window); found != views_.end()) {
       view = &found->second;
-    } else if (window->Visible()) {
+    } else if (window->InSight()) {
       view = &views_.emplace(window, std::make_unique<FormView>(*window, *this)).first->second;
     }
     if (view) (*view)->Sync();

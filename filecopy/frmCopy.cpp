@@ -22,6 +22,7 @@ frmCopy::frmCopy(forms::WindowStack& windows, frmPage1& record_screen)
     : Window(windows, "frmCopy", "Copy Files", 7200, 4800),
       RecordScreen(record_screen),
       DiskIn([](const std::string& folder) { return std::make_unique<runtime::RealDisk>(folder); }) {
+  Modal = true;  // the master file is closed, and the record screen cannot work without it
   Load = [this] { frmCopy_Load(); };
   Unload = [this] { frmCopy_Unload(); };
   WIRE(Dir1, Change);
@@ -33,12 +34,15 @@ frmCopy::frmCopy(forms::WindowStack& windows, frmPage1& record_screen)
   WIRE(Drive1, Change);
 }
 
-// A closed window starts afresh; a hidden one keeps its state.
+// A closed window starts afresh; a hidden one keeps its files and labels, but no drive is chosen and no attempt failed.
 void frmCopy::Open() {
   Show();
   if (closed_) frmCopy_Load();
+  lblCopy7.Hide();
   File1.Refresh();
+  Drive1.Empty();
   Drive1.Refresh(RecordScreen.Desk.DriveLetters());
+  File1.SetFocus();
 }
 
 void frmCopy::frmCopy_Load() {
@@ -125,6 +129,7 @@ std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
 }
 
 void frmCopy::CopyToDrive(std::int64_t bytes) {
+  lblCopy7.Hide();
   if (DriveWord == OwnDrive) return;
   filecopy::Copied copied =
       filecopy::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));

@@ -17,7 +17,11 @@ void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
   Touch();
-  if (!visible) owner_->PassFocusOn(*this);
+  if (visible) {
+    owner_->PassFocusOnIfCovered();
+  } else {
+    owner_->PassFocusOn(*this);
+  }
 }
 
 void Control::SetEnabled(bool enabled) {

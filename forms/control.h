@@ -26,6 +26,11 @@ enum class Align { Left, Centre };
 // In twips of the window's grid.
 struct Place {
   int Left = 0, Top = 0, Width = 0, Height = 0;
+
+  constexpr bool Contains(const Place& other) const {
+    return other.Left >= Left && other.Top >= Top && other.Left + other.Width <= Left + Width &&
+           other.Top + other.Height <= Top + Height;
+  }
 };
 
 // How a control is drawn; FontSize in points of the unscaled grid.

@@ -24,6 +24,8 @@ class TextBox : public Control {
   void SetAlignment(Align align);
   // The label that names the box; nullptr for none.
   const Label* Tag = nullptr;
+  // False: the text is the program's alone.
+  bool TakesTyping = true;
 
  private:
   std::string text_;

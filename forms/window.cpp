@@ -21,9 +21,23 @@ void Window::Show() {
   if (Control* first = NextStop(NoTab, 1)) MoveFocus(*first);
 }
 
+bool Window::InSight() const {
+  return visible_ && !(HiddenBehind && HiddenBehind->visible_ && windows_->InFrontOf(*HiddenBehind, *this));
+}
+
+// Whether another shown button lies over the whole of this one.
+bool Window::Covered(const Control& control) const {
+  if (control.Kind != Kind::Button) return false;
+  auto over = std::find(controls_.begin(), controls_.end(), &control);
+  return std::any_of(over + 1, controls_.end(), [&](const Control* other) {
+    return other->Kind == Kind::Button && other->Visible() && other->Place.Contains(control.Place);
+  });
+}
+
 // Of a pair of option buttons only the selected one is a stop.
 bool Window::IsStop(const Control& control) const {
   if (!control.CanHoldFocus() || !control.Visible() || !control.Enabled() || control.Ids.Tab == NoTab) return false;
+  if (Covered(control)) return false;
   return control.Kind != Kind::OptionButton || static_cast<const OptionButton&>(control).Value();
 }
 
@@ -60,7 +74,7 @@ void Window::GiveFocus(Control& control) {
 }
 
 void Window::PassFocusOn(Control& control) {
-  if (focus_ != &control) return;
+  if (focus_ != &control || steps_as_one_ > 0) return;
   if (Control* next = NextStop(control.Ids.Tab, 1)) {
     MoveFocus(*next);
   } else {
@@ -68,6 +82,18 @@ void Window::PassFocusOn(Control& control) {
     focus_ = nullptr;
     Run(control.LostFocus);
   }
+}
+
+void Window::PassFocusOnIfCovered() {
+  if (focus_ && Covered(*focus_)) PassFocusOn(*focus_);
+}
+
+void Window::PassFocusOnAfter(const Handler& step) {
+  ++steps_as_one_;
+  step();
+  --steps_as_one_;
+  if (focus_ && (!focus_->Visible() || !focus_->Enabled())) PassFocusOn(*focus_);
+  PassFocusOnIfCovered();
 }
 
 // Moves the focus as a click or a hot key does; false where the doing ends there.
@@ -85,8 +111,7 @@ Control* Window::ByHotKey(char letter) const {
   for (Control* control : controls_) {
     bool option = control->Kind == Kind::OptionButton;
     if (control->Kind != Kind::Button && !option && control->Kind != Kind::CheckBox) continue;
-    if (!control->Visible() || !control->Enabled() || HotKey(static_cast<Captioned*>(control)->Caption()) != letter)
-      continue;
+    if (!Reachable(*control) || HotKey(static_cast<Captioned*>(control)->Caption()) != letter) continue;
     if (option && static_cast<OptionButton*>(control)->Value()) continue;
     if (control->Ids.Tab > from && (!nearest || control->Ids.Tab < nearest->Ids.Tab)) nearest = control;
     if (!first || control->Ids.Tab < first->Ids.Tab) first = control;

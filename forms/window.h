@@ -30,6 +30,10 @@ class Window {
   Button* CancelButton = nullptr;
   // The help topic that was set last; 0 for none.
   int HelpContext = 0;
+  // While a modal window is visible the others take no input.
+  bool Modal = false;
+  // The window that hides this one while it is visible and in front of it; nullptr for none.
+  const Window* HiddenBehind = nullptr;
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption) { caption_ = caption; }
@@ -41,12 +45,17 @@ class Window {
   // the first tab stop gets the focus.
   void Show();
   void Hide() { visible_ = false; }
+  // Visible, and not hidden behind another window.
+  bool InSight() const;
 
   Control* Focus() const { return focus_; }
+  // Runs a step that shows and hides many controls as one: the focus is passed on once, at its end, if the step has
+  // left the holder hidden or disabled.
+  void PassFocusOnAfter(const Handler& step);
   const std::vector<Control*>& Controls() const { return controls_; }
   WindowStack& Owner() const { return *windows_; }
 
-  // The user's doings. Where a control is hidden or disabled, or the window is not visible, nothing happens.
+  // What the user does. Nothing happens if the control is hidden, disabled or covered, or the window takes no input.
   void UserClick(Control& control);
   // A click, and then the second one.
   void UserDblClick(Control& control);
@@ -74,7 +83,11 @@ class Window {
   friend class Control;
   void Enlist(Control& control) { controls_.push_back(&control); }
   void MoveFocus(Control& target);
+  bool TakesInput() const;
+  bool Reachable(const Control& control) const;
+  bool Covered(const Control& control) const;
   void PassFocusOn(Control& control);
+  void PassFocusOnIfCovered();
   void GiveFocus(Control& control);
   bool FocusByUser(Control& control);
   Control* NextStop(int tab, int step) const;
@@ -91,6 +104,7 @@ class Window {
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
   unsigned focus_moves_ = 0;
+  int steps_as_one_ = 0;
 };
 
 }  // namespace forms

@@ -7,10 +7,6 @@
 namespace forms {
 namespace {
 
-bool Reachable(const Window& window, const Control& control) {
-  return window.Visible() && control.Visible() && control.Enabled();
-}
-
 // Pressed twice by a double click.
 bool IsPressed(const Control& control) {
   return control.Kind == Kind::Button || control.Kind == Kind::OptionButton || control.Kind == Kind::CheckBox;
@@ -30,8 +26,14 @@ void PressControl(Control& control) {
 
 }  // namespace
 
+bool Window::TakesInput() const { return InSight() && !windows_->BlockedByModal(*this); }
+
+bool Window::Reachable(const Control& control) const {
+  return TakesInput() && control.Visible() && control.Enabled() && !Covered(control);
+}
+
 void Window::UserClick(Control& control) {
-  if (!Reachable(*this, control) || !FocusByUser(control)) return;
+  if (!Reachable(control) || !FocusByUser(control)) return;
   PressControl(control);
   Run(control.MouseUp);
 }
@@ -44,28 +46,28 @@ void Window::UserDblClick(Control& control) {
 void Window::UserSecondClick(Control& control) {
   if (IsPressed(control)) {
     UserClick(control);
-  } else if (Reachable(*this, control)) {
+  } else if (Reachable(control)) {
     Run(control.DblClick);
   }
 }
 
 void Window::UserRightClick(Control& control) {
-  if (control.Kind == Kind::TextBox && Reachable(*this, control)) FocusByUser(control);
+  if (control.Kind == Kind::TextBox && Reachable(control)) FocusByUser(control);
 }
 
 void Window::UserMove(Control* control) {
-  if (!visible_ || (control && !control->Visible())) return;
+  if (!TakesInput() || (control && (!control->Visible() || Covered(*control)))) return;
   Run(control ? control->MouseMove : MouseMove);
 }
 
 void Window::UserPick(ListBox& list, int index) {
-  if (!Reachable(*this, list) || !FocusByUser(list) || index < 0) return;
+  if (!Reachable(list) || !FocusByUser(list) || index < 0) return;
   list.Select(index);
   Run(list.MouseDown);
 }
 
 void Window::UserKey(Key key) {
-  if (!visible_) return;
+  if (!TakesInput()) return;
   int tab = focus_ ? focus_->Ids.Tab : NoTab;
   switch (key) {
     case Key::Tab:
@@ -73,8 +75,11 @@ void Window::UserKey(Key key) {
       if (Control* next = NextStop(tab, key == Key::Tab ? 1 : -1)) MoveFocus(*next);
       return;
     case Key::Esc:
-      if (CancelButton && CancelButton->Visible() && CancelButton->Enabled()) Run(CancelButton->Click);
-      return;
+      if (CancelButton && CancelButton->Visible() && CancelButton->Enabled()) {
+        Run(CancelButton->Click);
+        return;
+      }
+      break;
     case Key::F1:
       windows_->Desk.Help(HelpContext);
       return;
@@ -116,7 +121,7 @@ void Window::KeyInList(ListBox& list, Key key) {
 }
 
 MenuItem* Window::UserAlt(char letter) {
-  if (!visible_) return nullptr;
+  if (!TakesInput()) return nullptr;
   if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
   if (Control* control = ByHotKey(letter)) {
     if (control->Kind == Kind::OptionButton || FocusByUser(*control)) PressControl(*control);
@@ -133,7 +138,7 @@ MenuItem* Window::UserAlt(char letter) {
 }
 
 void Window::UserType(char character) {
-  if (!visible_ || !focus_) return;
+  if (!TakesInput() || !focus_) return;
   if (focus_->Kind == Kind::TextBox) {
     auto& box = static_cast<TextBox&>(*focus_);
     if (UserKeyPress(box)) UserEdit(box, box.Text() + character);
@@ -145,17 +150,17 @@ void Window::UserType(char character) {
 }
 
 bool Window::UserKeyPress(TextBox& box) {
-  if (!Reachable(*this, box) || focus_ != &box) return false;
+  if (!Reachable(box) || focus_ != &box || !box.TakesTyping) return false;
   Run(box.KeyPress);
   return focus_ == &box;
 }
 
 void Window::UserEdit(TextBox& box, std::string_view text) {
-  if (Reachable(*this, box) && focus_ == &box) box.SetText(text);
+  if (Reachable(box) && focus_ == &box && box.TakesTyping) box.SetText(text);
 }
 
 void Window::UserClose() {
-  if (!visible_) return;
+  if (!TakesInput()) return;
   Run(Unload);
   Hide();
 }

@@ -17,8 +17,11 @@ class WindowStack {
   void Enlist(Window& window) { windows_.insert(windows_.begin(), &window); }
   void BringToFront(Window& window);
   const std::vector<Window*>& All() const { return windows_; }
-  // The visible window in front; nullptr when none is visible.
+  // The window in front of all that are in sight; nullptr if none is.
   Window* Front() const;
+  bool InFrontOf(const Window& one, const Window& other) const;
+  // Whether another window is modal and visible.
+  bool BlockedByModal(const Window& window) const;
 
  private:
   std::vector<Window*> windows_;

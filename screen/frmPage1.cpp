@@ -10,6 +10,8 @@ frmPage1::frmPage1(forms::WindowStack& windows, runtime::Files& files)
       Files(files),
       Desk(windows.Desk) {
   CancelButton = &cmdPrevious;
+  txtAutoSave.TakesTyping = false;
+  txtAutoSort.TakesTyping = false;
   for (const auto& pair : screen::PageOne) (this->*pair.Box).Tag = &(this->*pair.Tag);
   for (const auto& pair : screen::PageTwo) (this->*pair.Box).Tag = &(this->*pair.Tag);
 #define WIRE_WINDOW_HANDLER(Event) Event = [this] { frmPage1_##Event(); };

@@ -64,6 +64,8 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   void ShowTrimmed(store::FilmField field);
   std::string_view TrimField(store::FilmField field);
   void ClearRecord();
+  void ShowPage1();
+  void ShowPage2();
   void SetPageVisible(std::span<const screen::PagePair> pairs, bool visible);
   void ApplyStoredColours();
 
@@ -79,6 +81,7 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   // Opens a key file as number 2; what a sort run left open there is closed first, anything else stops with
   // "File already open".
   void OpenKeyFile(std::string_view name);
+  // Makes it the open key file, unless it is that already.
   void ReopenKeyFile(std::string_view name);
   void StepOn();
   void StepBack();
@@ -123,6 +126,8 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   forms::Colour DialogColour = forms::Black;
   // A sort run has left its last key file open as number 2.
   bool KeyFileLeftBySort = false;
+  // The key file that the twenty-row list was opened on; "" before the first list.
+  std::string_view ListKeyFile;
   // What was typed last into Find By File No.
   std::string FileNoAnswer;
 };

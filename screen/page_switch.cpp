@@ -1,8 +1,17 @@
 // The switch between page 1 and page 2: it shows and hides, and neither reads nor writes the record.
+// It turns the page as one step, so that the fields which go one by one do not hand the focus to each other.
 #include "screen/frmPage1.h"
 #include "screen/record_boxes.h"
 
 void frmPage1::optNotesoff_Click() {
+  PassFocusOnAfter([this] { ShowPage1(); });
+}
+
+void frmPage1::optnoteson_Click() {
+  PassFocusOnAfter([this] { ShowPage2(); });
+}
+
+void frmPage1::ShowPage1() {
   PageFlag = 0;
   lblPage.SetCaption("PAGE 1");
   txtGenre.Show();
@@ -19,7 +28,7 @@ void frmPage1::optNotesoff_Click() {
   lblSave.Hide();
 }
 
-void frmPage1::optnoteson_Click() {
+void frmPage1::ShowPage2() {
   PageFlag = 1;
   lblPage.SetCaption("PAGE 2");
   SetPageVisible(screen::PageOne, false);

@@ -55,8 +55,8 @@ void CheckControl(const forms::Control& control, const desktop::FormView& form) 
 void CheckDrawn(const forms::WindowStack& windows, const desktop::StackView& view) {
   for (const forms::Window* window : windows.All()) {
     desktop::FormView* form = view.ViewOf(*window);
-    See(window->Visible() == (form && form->isVisible()), window->Name, "visibility");
-    if (!window->Visible()) continue;
+    See(window->InSight() == (form && form->isVisible()), window->Name, "visibility");
+    if (!window->InSight()) continue;
     See(form->windowTitle() == Shown(window->Caption()), window->Name, "title: " + form->windowTitle().toStdString());
     for (const forms::Control* control : window->Controls()) CheckControl(*control, *form);
     QWidget* holder = window->Focus() ? &form->ViewOf(*window->Focus())->Widget() : static_cast<QWidget*>(form);

@@ -1,5 +1,5 @@
-# Shift Tab out of the aspect and mode lists of a new laser goes back to their boxes, which open them again; Esc does
-# nothing.
+# Shift Tab out of the aspect and mode lists of a new laser goes back to their boxes, which open them again; Esc is a
+# typed key there like any other.
 film 1 Title="Alien" Format="V"
 film 2 Title="Brazil" Format="V"
 start
@@ -27,7 +27,4 @@ see focus List5
 see List5.Items "CLV" "CAV"
 see txtCLV1 "CLV"
 key Esc
-see focus List5
-see List5.Visible yes
-key Space
 see focus List6

@@ -1,5 +1,5 @@
-# At the end of a list its Next goes and hands the focus to its Back, which stays; at the top Back goes, and the
-# focus passes through the rows to the title.
+# At the end of a list the focus leaves its buttons for the Back that lies over them; at the top it passes to the
+# title.
 films 1 25 Title="Film ##"
 sorted
 start
@@ -7,7 +7,7 @@ click mnuAllTitles
 click cmdNext20
 beep
 box none "" "End of file!" OK
-see focus cmdPrev20
+see focus cmdPrevious
 click mnuAllTitles
 click cmdPrev20
 beep
