@@ -1,6 +1,7 @@
 // Find By Genre: the films of one genre, one at a time, in title order. The film with the highest number ends the walk
 // unseen.
 #include "browse/key_walk.h"
+#include "runtime/checked_int.h"
 #include "store/film_codes.h"
 
 namespace {
@@ -43,7 +44,7 @@ bool frmPage1::OpenGenreView(bool& has_key) {
   lblHead.SetCaption("Viewing Files For " + GenreWords.Value() + " Alphabetically");
   OpenKeyFile("Titlepra.Dat");
   KeyFilePos = 1;
-  has_key = CountKeys() >= 1;
+  has_key = runtime::RoundToInt32(static_cast<double>(Files.Length(KeyFileNo)) / browse::KeyLength) >= 1;
   return true;
 }
 

@@ -54,7 +54,10 @@ bool frmPage1::TakeScanRecNoOrStop() {
   return false;
 }
 
-// A search or a report may have closed the key file of a view that goes on.
+// A search or a report may have closed the key file of a view that goes on; a list and a view may take it from each
+// other.
 void frmPage1::ReopenKeyFile(std::string_view name) {
-  if (!Files.IsOpen(KeyFileNo)) OpenKeyFile(name);
+  if (Files.IsOpen(KeyFileNo, name) && !KeyFileLeftBySort) return;
+  Files.Close(KeyFileNo);
+  OpenKeyFile(name);
 }

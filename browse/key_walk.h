@@ -8,7 +8,4 @@ namespace browse {
 inline constexpr int KeyLength = 49;
 inline constexpr int KeyTitleWidth = 40;
 
-// The key file of the twenty-row list of that kind; otherwise where no list is of that kind.
-std::string_view ListKeyFile(std::string_view kind, std::string_view otherwise);
-
 }  // namespace browse

@@ -11,7 +11,7 @@ void frmPage1::cmdPrev20_Click() {
   HelpContext = cmdPrevious.Ids.HelpId;
   if (ListShown == 1) {
     cmdNext20.Show();
-    ReopenKeyFile(browse::ListKeyFile(ViewKind, "Titlepra.Dat"));
+    ReopenKeyFile(ListKeyFile);
   }
   KeyFilePos -= 1;
   if (PageMode == 4) {

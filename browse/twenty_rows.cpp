@@ -51,7 +51,7 @@ class ListPage {
     window_.ListState = 2;
     if (window_.PageMode == 4) {
       window_.RowCursor = 0;
-      window_.ReopenKeyFile(browse::ListKeyFile(window_.ViewKind, list_.KeyFile));
+      window_.ReopenKeyFile(window_.ListKeyFile);
     } else if (!Open()) {
       return;
     }
@@ -104,6 +104,7 @@ class ListPage {
     }
     window_.RecordFound = 0;
     window_.KeyFilePos = 1;
+    window_.ListKeyFile = list_.KeyFile;
     window_.OpenKeyFile(list_.KeyFile);
     return true;
   }
@@ -187,13 +188,6 @@ class ListPage {
 };
 
 }  // namespace
-
-std::string_view browse::ListKeyFile(std::string_view kind, std::string_view otherwise) {
-  for (const TwentyRowList* list : {&AllTitles, &AllDVD, &AllLaser, &AllVHS, &AllGenre}) {
-    if (list->Kind == kind) return list->KeyFile;
-  }
-  return otherwise;
-}
 
 void frmPage1::mnuAllTitles_Click() { ListPage(*this, AllTitles).Run(); }
 void frmPage1::mnualldvd_Click() { ListPage(*this, AllDVD).Run(); }

@@ -67,6 +67,10 @@ bool Files::IsOpen(int number) const {
   return number >= 1 && number <= static_cast<int>(files_.size()) && files_[number - 1] != nullptr;
 }
 
+bool Files::IsOpen(int number, std::string_view name) const {
+  return IsOpen(number) && files_[number - 1]->Name == name;
+}
+
 void Files::OpenRandom(int number, std::string_view name, int record_length, BeforeOverwrite before) {
   auto& slot = Free(number, name);
   auto file = std::make_unique<NumberedFile>();

@@ -32,6 +32,7 @@ class Files {
   // Does nothing if the number is not open.
   void Close(int number);
   bool IsOpen(int number) const;
+  bool IsOpen(int number, std::string_view name) const;
 
   // Reads record N (from 1, otherwise "Bad record number") into target, which has the record length. A record cut off
   // by the end of the file is padded with blanks; past the end target is unchanged and false is returned.
