@@ -67,7 +67,7 @@ bool Search::AskText() {
   screen::Text& query = window_.*search_.Query;
   std::string answer = window_.Desk.InputBox(search_.BoxTitle, search_.Prompt);
   if (SearchesStars()) window_.StarTyped = answer;
-  query = answer;
+  if (!SearchesStars() || !answer.empty()) query = answer;
   if (answer.empty()) {
     window_.cmdReset_Click();
     return false;

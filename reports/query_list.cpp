@@ -72,19 +72,20 @@ bool QueryReport::Matches() {
   screen::Text& query = Page.*list_.Query;
   query = runtime::Upper(query);
   bool found = false;
-  for (const SearchedField& searched : list_.Fields) {
-    std::string field = runtime::Upper(runtime::Trim(Page.CurrentFilm.Get(searched.Field)));
-    Page.*searched.Hit = static_cast<std::int64_t>(runtime::Position(field, query));
-    found = found || Page.*searched.Hit >= 1;
+  for (std::size_t at = 0; at < list_.Fields.size(); ++at) {
+    std::string field = runtime::Upper(runtime::Trim(Page.CurrentFilm.Get(list_.Fields[at].Field)));
+    hits_.at(at) = static_cast<std::int64_t>(runtime::Position(field, query));
+    found = found || hits_.at(at) >= 1;
   }
+  Page.MatchPos = hits_.front();
   return found;
 }
 
 void QueryReport::PrintMatch() {
   Page.ShowRecord();
   Page.FirstRecordAdjust += 1;
-  for (const SearchedField& searched : list_.Fields) {
-    if (Page.*searched.Hit >= 1) name_ = runtime::Trim((Page.*searched.Box).Text());
+  for (std::size_t at = 0; at < list_.Fields.size(); ++at) {
+    if (hits_.at(at) >= 1) name_ = runtime::Trim((Page.*list_.Fields[at].Box).Text());
   }
   if (!list_.WaitCaption.empty()) Page.lblHead.SetCaption(list_.WaitCaption);
   SetUpFont();
@@ -101,12 +102,12 @@ void QueryReport::PrintTitle() {
   FeedLines(list_.FeedsBeforeTitle);
   PrintHeading(list_.TitleTab, list_.Title);
   FeedLines(list_.FeedsAfterTitle);
+  LineCount += list_.LinesOfTitle;
 }
 
 // The lines above the first film.
 void QueryReport::PrintTop() {
   if (list_.TitleTime == TitleAt::FirstMatch) PrintTitle();
-  LineCount += list_.LinesOfTop;
   double spare = list_.HeadingWidth - static_cast<double>(name_.size());
   int column = runtime::RoundToInt16(spare / 2) + list_.HeadingShift;
   Paper.Print({runtime::Tab{column}, list_.HeadingLead, name_, list_.HeadingTail});

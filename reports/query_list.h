@@ -2,6 +2,8 @@
 // asked for.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,10 +13,9 @@
 
 namespace reports {
 
-// A searched field. Hit: position of the text in it, from 1, 0 if absent. Box: shows the name for the heading.
+// A searched field. Box: shows the name for the heading.
 struct SearchedField {
   store::FilmField Field;
-  screen::Number16 screen::RunState::*Hit;
   forms::TextBox screen::PageControls::*Box;
 };
 
@@ -35,7 +36,7 @@ struct QueryList {
   int TitleTab;
   std::string_view Title;
   int FeedsAfterTitle;
-  int LinesOfTop;  // added to LineCount before the heading
+  int LinesOfTitle;  // added to LineCount when the title is printed
 
   int HeadingWidth;  // the heading's column is (HeadingWidth - length of the name) / 2 + HeadingShift
   int HeadingShift;
@@ -77,6 +78,8 @@ class QueryReport : PrintFrame {
   void PrintEnd();
 
   const QueryList& list_;
+  // Position of the query in each field of the current film, from 1; 0 if absent.
+  std::array<std::int64_t, 6> hits_{};
   std::string name_;  // from the last match
 };
 

@@ -10,18 +10,18 @@ namespace {
 
 // clang-format off
 constexpr SearchedField DirectorFields[] = {
-  { FilmField::Director, &RunState::MatchPos, &PageControls::txtDirector },
+  { FilmField::Director, &PageControls::txtDirector },
 };
 constexpr SearchedField StarFields[] = {
-  { FilmField::Star1, &RunState::MatchPos, &PageControls::txtStar1 },
-  { FilmField::Star2, &RunState::StarHit2, &PageControls::txtStar2 },
-  { FilmField::Star3, &RunState::StarHit3, &PageControls::txtStar3 },
-  { FilmField::Star4, &RunState::StarHit4, &PageControls::txtStar4 },
-  { FilmField::Star5, &RunState::StarHit5, &PageControls::txtStar5 },
-  { FilmField::Star6, &RunState::StarHit6, &PageControls::txtStar6 },
+  { FilmField::Star1, &PageControls::txtStar1 },
+  { FilmField::Star2, &PageControls::txtStar2 },
+  { FilmField::Star3, &PageControls::txtStar3 },
+  { FilmField::Star4, &PageControls::txtStar4 },
+  { FilmField::Star5, &PageControls::txtStar5 },
+  { FilmField::Star6, &PageControls::txtStar6 },
 };
 constexpr SearchedField GenreFields[] = {
-  { FilmField::Genre, &RunState::MatchPos, &PageControls::txtGenreList },
+  { FilmField::Genre, &PageControls::txtGenreList },
 };
 // clang-format on
 
@@ -45,7 +45,7 @@ constexpr QueryList DirectorList = {
   .Prompt = "Enter Director's Last Name. To Print List: ",
   .Query = &RunState::DirectorQuery, .Fields = DirectorFields, .QueryNames = {}, .WaitCaption = "",
   .TitleTime = TitleAt::FirstMatch, .FeedsBeforeTitle = 0, .TitleTab = 9, .Title = "Reelora Prima Directors List   ", .FeedsAfterTitle = 0,
-  .LinesOfTop = 9,
+  .LinesOfTitle = 9,
   .HeadingWidth = 61, .HeadingShift = 3, .HeadingLead = "Films Directed by ", .HeadingTail = "", .LinesOfHeading = 2,
   .FootRule = true, .NextTitleTab = 15,
   .NotFoundLead = "No films directed by ", .NotFoundName = QueryInCapitals, .NotFoundTail = " found!",
@@ -56,7 +56,7 @@ constexpr QueryList StarList = {
   .Prompt = "Enter Star's Last Name. To Print List: ",
   .Query = &RunState::StarQuery, .Fields = StarFields, .QueryNames = {}, .WaitCaption = "Please Wait Print Spooler is loading Files",
   .TitleTime = TitleAt::Start, .FeedsBeforeTitle = 2, .TitleTab = 9, .Title = "Reelora Prima Stars List   ", .FeedsAfterTitle = 2,
-  .LinesOfTop = 10,
+  .LinesOfTitle = 10,
   .HeadingWidth = 61, .HeadingShift = 3, .HeadingLead = "Films starring ", .HeadingTail = "", .LinesOfHeading = 1,
   .FootRule = false, .NextTitleTab = 0,
   .NotFoundLead = "No films Staring ", .NotFoundName = QueryInCapitals, .NotFoundTail = " found!",
@@ -69,7 +69,7 @@ constexpr QueryList GenreList = {
             " See Genre List for more Abbrs.",
   .Query = &RunState::GenreFilter, .Fields = GenreFields, .QueryNames = store::Genres, .WaitCaption = "",
   .TitleTime = TitleAt::Start, .FeedsBeforeTitle = 2, .TitleTab = 8, .Title = "Reelora Prima Genre List   ", .FeedsAfterTitle = 1,
-  .LinesOfTop = 7,
+  .LinesOfTitle = 7,
   .HeadingWidth = 62, .HeadingShift = 0, .HeadingLead = "A list of ", .HeadingTail = " Films", .LinesOfHeading = 6,
   .FootRule = true, .NextTitleTab = 0,
   .NotFoundLead = "No  ", .NotFoundName = NameOfGenre, .NotFoundTail = " genre found!",

@@ -47,7 +47,6 @@ void frmPage1::StoreFormatLetter() {
 }
 
 void frmPage1::txtLetter_Change() {
-  HelpContext = txtLetter.Ids.TopicId;
   if (EditMode == 1 && List4.ListIndex() >= 0) txtLetter.SetText(List4.Selected());
   if (auto letter = store::CodeOf(store::Aspects, txtLetter.Text())) CurrentFilm.Set(FilmField::Letter, *letter);
   if (EditMode != 0) return;

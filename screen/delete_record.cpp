@@ -8,7 +8,6 @@ using store::FilmField;
 void frmPage1::cmdDelete_Click() {
   HelpContext = cmdDelete.Ids.HelpId;
   if (ListState == 1 || ListState == 2) return;
-  List4.Empty();  // a new film can leave it full, and the aspect would follow it
   cmdEdit_Click();
   if (Ask("Are you sure you want to DELETE this record? This file will be removed permanently!!") !=
       forms::Answer::Yes) {
@@ -18,6 +17,7 @@ void frmPage1::cmdDelete_Click() {
     ShowRecord();
     return;
   }
+  List4.Empty();  // a new film can leave it full, and the aspect would follow it
   BlankFilm();
   ScanRecNo = CurrentRecNo;
   store::WriteRecord(Files, static_cast<int>(MasterFileNo), CurrentRecNo, store::FilmRecord());

@@ -7,6 +7,7 @@ using store::FilmField;
 void frmPage1::cmdNew_Click() {
   HelpContext = cmdNew.Ids.HelpId;
   if (SearchState > 0) return;
+  List4.Empty();  // an aspect left in it would come back into the blanked box
   lblSave.Hide();
   FileNoAnswer.clear();
   txtRating.SetText("");

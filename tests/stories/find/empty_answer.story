@@ -1,7 +1,6 @@
 # An empty answer to a search resets the screen without a word and drops the stored text.
 each SEARCH   FIELD           FILM1  FILM2         FILM3          FILM4  MENU
 row  director Director        Nobody "Anna Karina" "Banana Split" karina mnuFindDirector
-row  star     Star1           Nobody "Anna Karina" "Banana Split" karina mnuFindStar
 row  producer Producer        Nobody "Anna Karina" "Banana Split" karina mnuProducer
 row  cinema   Cinematographer Nobody "Anna Karina" "Banana Split" karina mnuCinema
 row  writer   Written         Nobody "Anna Karina" "Banana Split" karina mnuWriter
@@ -15,7 +14,6 @@ row  sound    Sound           Nobody "Anna Karina" "Banana Split" karina mnuSoun
 
 each SEARCH   TITLE                           PROMPT                                      ANSWER STATE
 row  director "Search For Director"           "Enter Director. To Search: "               karin  DirectorQuery
-row  star     "Search For Star"               "Enter Star To Search: "                    karin  StarQuery
 row  producer "Search For Producer"           "Enter Producer To Search: "                karin  ProducerQuery
 row  cinema   "Search For Cinematographer"    "Enter Cinematographer To Search: "         karin  CinemaQuery
 row  writer   "Search For Writer"             "Enter Writer To Search: "                  karin  WriterQuery
