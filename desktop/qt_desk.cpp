@@ -14,6 +14,7 @@
 #include "desktop/control_view.h"
 #include "desktop/drives.h"
 #include "desktop/input_dialog.h"
+#include "desktop/message_box.h"
 #include "desktop/notices.h"
 #include "desktop/paper.h"
 #include "desktop/stack_view.h"
@@ -26,18 +27,6 @@ constexpr std::string_view OwnTitle = "Reelora Prima";
 constexpr std::chrono::milliseconds DisplayFrame(16);
 
 QString TitleOf(std::string_view title) { return Shown(title.empty() ? OwnTitle : title); }
-
-QMessageBox::Icon IconOf(forms::Icon icon) {
-  switch (icon) {
-    case forms::Icon::Warning:
-      return QMessageBox::Warning;
-    case forms::Icon::Question:
-      return QMessageBox::Question;
-    case forms::Icon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
 
 }  // namespace
 
@@ -52,16 +41,7 @@ QWidget* QtDesk::FrontWindow() {
 
 forms::Answer QtDesk::AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
                                     forms::Buttons buttons) {
-  QMessageBox box(FrontWindow());
-  box.setWindowTitle(TitleOf(title));
-  box.setIcon(IconOf(icon));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(Shown(text).remove('\r'));
-  bool ok = buttons == forms::Buttons::Ok;
-  box.setStandardButtons(ok ? QMessageBox::Ok : QMessageBox::Yes | QMessageBox::No);
-  int pressed = box.exec();
-  if (ok) return forms::Answer::Ok;
-  return pressed == QMessageBox::Yes ? forms::Answer::Yes : forms::Answer::No;
+  return desktop::MessageBox(icon, TitleOf(title), Shown(text).remove('\r'), buttons, FrontWindow()).Ask();
 }
 
 std::string QtDesk::InputBox(std::string_view title, std::string_view prompt) {
