@@ -18,8 +18,5 @@ click cmdNext
 see txtTitle "Stalker"
 click mnuCopy
 pick Drive1 "a:"
-see frmCopy.Visible yes
-pick File1 "Recpra.Dat"
-pick Drive1 "a:"
 box question "Reelora Prima" ANY No
 see frmCopy.Visible no
