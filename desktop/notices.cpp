@@ -26,6 +26,10 @@ QString SavedText(const QString& path) { return QStringLiteral("Saved as %1").ar
 
 QString SentText(const QString& queue) { return QStringLiteral("Sent to the printer %1").arg(queue); }
 
+QString NothingPrintedText() {
+  return QStringLiteral("Nothing was printed: this report has none of the pages chosen in Setup Printer");
+}
+
 QString CopiedText(const QString& file, const QString& disk, char drive, std::int64_t bytes) {
   QString where = disk.isEmpty() ? QStringLiteral("drive %1").arg(QLatin1Char(drive))
                                  : QStringLiteral("the disk %1 in drive %2").arg(disk, QChar(QLatin1Char(drive)));

@@ -12,6 +12,8 @@ inline const QString CharacterNotice = QStringLiteral("characters");
 
 QString SavedText(const QString& path);
 QString SentText(const QString& queue);
+// A report has none of the pages that the user chose.
+QString NothingPrintedText();
 // Disk: its name, "" for none; drive: its letter.
 QString CopiedText(const QString& file, const QString& disk, char drive, std::int64_t bytes);
 // Names the characters that were not taken, each once; at least one.

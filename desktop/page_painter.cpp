@@ -1,4 +1,4 @@
-// Finds the grid that fits the paper and draws the characters on it.
+// Finds the grid that fits the paper, deals the pages out to sheets and draws the characters.
 #include "desktop/page_painter.h"
 
 #include <QGlyphRun>
@@ -16,6 +16,8 @@ constexpr double CellPart = 0.6;
 constexpr double AscentPart = 0.8333;
 constexpr double DescentPart = 0.3;
 constexpr double LinePart = AscentPart + DescentPart;
+// Keeps a line that fits exactly from being lost to rounding.
+constexpr double Rounding = 1e-6;
 
 }  // namespace
 
@@ -23,7 +25,7 @@ PaperGrid FitGrid(const runtime::PrintJob& job, QSizeF area, double resolution) 
   std::size_t columns = Columns;
   std::size_t lines = 1;
   for (const runtime::PrintedPage& page : job.Pages) {
-    lines = std::max(lines, page.Lines.size());
+    if (page.Lines.size() <= LongestPage) lines = std::max(lines, page.Lines.size());
     for (const runtime::PrintedLine& line : page.Lines) columns = std::max(columns, line.From - 1 + line.Text.size());
   }
   double steps = static_cast<double>(lines - 1);
@@ -31,7 +33,36 @@ PaperGrid FitGrid(const runtime::PrintJob& job, QSizeF area, double resolution) 
   size = std::min({size, area.width() / (CellPart * static_cast<double>(columns)), area.height() / (steps + LinePart)});
   double pitch = LinePart * size;
   if (steps > 0) pitch = std::min(pitch, (area.height() - LinePart * size) / steps);
-  return {size, CellPart * size, AscentPart * size, pitch};
+  double further = std::max(0.0, (area.height() - LinePart * size) / pitch + Rounding);
+  return {size, CellPart * size, AscentPart * size, pitch, 1 + static_cast<std::size_t>(further)};
+}
+
+std::vector<Sheet> SheetsOf(const runtime::PrintJob& job, std::size_t lines) {
+  std::vector<Sheet> sheets;
+  for (const runtime::PrintedPage& page : job.Pages) {
+    Sheet rest(page.Lines);
+    while (page.Lines.size() > LongestPage && rest.size() > lines) {
+      sheets.push_back(rest.first(lines));
+      rest = rest.subspan(lines);
+    }
+    sheets.push_back(rest);
+  }
+  if (sheets.empty()) sheets.emplace_back();
+  return sheets;
+}
+
+std::vector<Sheet> Chosen(const std::vector<Sheet>& sheets, const SheetChoice& choice) {
+  std::vector<Sheet> once;
+  for (std::size_t at = 0; at < sheets.size(); ++at) {
+    if (choice.Pages.isEmpty() || choice.Pages.contains(static_cast<int>(at) + 1)) once.push_back(sheets[at]);
+  }
+  if (choice.LastFirst) std::reverse(once.begin(), once.end());
+  if (once.empty()) return once;
+  auto copies = static_cast<std::size_t>(std::max(choice.Copies, 1));
+  std::vector<Sheet> all;
+  for (std::size_t at = 0; at < once.size() * copies; ++at)
+    all.push_back(choice.Collated ? once[at % once.size()] : once[at / copies]);
+  return all;
 }
 
 PagePainter::PagePainter(const runtime::PrintJob& job, QSizeF area, double resolution)
@@ -55,9 +86,9 @@ PagePainter::Typeface PagePainter::MakeTypeface(const runtime::PrintJob& job, QF
   return face;
 }
 
-void PagePainter::Paint(QPainter& painter, const runtime::PrintedPage& page) {
+void PagePainter::Paint(QPainter& painter, Sheet sheet) {
   double base_line = grid_.Ascent;
-  for (const runtime::PrintedLine& line : page.Lines) {
+  for (const runtime::PrintedLine& line : sheet) {
     if (!line.Text.empty()) PaintLine(painter, line, base_line);
     base_line += grid_.Pitch;
   }
@@ -84,18 +115,20 @@ void PagePainter::PaintLine(QPainter& painter, const runtime::PrintedLine& line,
                    Qt::black);
 }
 
-bool PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device, const Progress& progress) {
+Painted PaintPages(const runtime::PrintJob& job, QPagedPaintDevice& device, const SheetChoice& choice,
+                   const Progress& progress) {
   int resolution = device.logicalDpiX();
   PagePainter pages(job, device.pageLayout().paintRectPixels(resolution).size(), resolution);
+  std::vector<Sheet> sheets = Chosen(SheetsOf(job, pages.LinesOnSheet()), choice);
+  if (sheets.empty()) return Painted::Nothing;
   QPainter painter;
-  if (!painter.begin(&device)) return false;
-  std::size_t drawn = 0;
-  for (const runtime::PrintedPage& page : job.Pages) {
-    if (progress) progress(static_cast<double>(drawn) / static_cast<double>(job.Pages.size()));
-    if (drawn++ > 0 && !device.newPage()) return false;
-    pages.Paint(painter, page);
+  if (!painter.begin(&device)) return Painted::Failed;
+  for (std::size_t at = 0; at < sheets.size(); ++at) {
+    if (progress) progress(static_cast<double>(at) / static_cast<double>(sheets.size()));
+    if (at > 0 && !device.newPage()) return Painted::Failed;
+    pages.Paint(painter, sheets[at]);
   }
-  return painter.end();
+  return painter.end() ? Painted::Done : Painted::Failed;
 }
 
 }  // namespace desktop

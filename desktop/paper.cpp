@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLibrary>
-#include <QLocale>
 #include <QPdfWriter>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 #include "desktop/page_painter.h"
@@ -17,9 +17,6 @@
 namespace desktop {
 namespace {
 
-// Most printers reach this far, so the PDF can be printed later with nothing cut off.
-constexpr double PdfMargin = 0.25;  // inches
-
 [[noreturn]] void Fail() { throw runtime::Failure{runtime::PrinterError, ""}; }
 
 // Qt does not report refused jobs; cupsLastError does. Statuses up to 7 are successes.
@@ -29,61 +26,88 @@ bool QueueTookJob() {
   return !last_error || last_error() <= 7;
 }
 
+// A range of the queue's own leaves printRange() at all pages; the queue picks those pages itself.
+QPageRanges PagesOf(const QPrinter& printer) {
+  return printer.printRange() == QPrinter::PageRange ? printer.pageRanges() : QPageRanges();
+}
+
+// The queue makes the copies.
 PrintedTo PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer, const Progress& progress) {
   printer.setDocName(Shown(job.Title));
-  if (!PaintPages(job, printer, progress) || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
+  Painted painted = PaintPages(job, printer, {.Pages = PagesOf(printer)}, progress);
+  if (painted == Painted::Nothing) return {};
+  if (painted == Painted::Failed || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
   return {{}, printer.printerName()};
 }
 
-// Creates a new file; adds " (2)" and so on to the name if it is taken.
-void OpenNew(QFile& file, const QString& folder, const QString& name) {
+Painted PrintIntoFile(const runtime::PrintJob& job, QFileDevice& file, const QPrinter& printer,
+                      const Progress& progress) {
+  QPdfWriter writer(&file);
+  writer.setTitle(Shown(job.Title));
+  writer.setCreator(QStringLiteral("Reelora Prima"));
+  writer.setPageLayout(printer.pageLayout());
+  Painted painted = PaintPages(job, writer,
+                               {.Pages = PagesOf(printer),
+                                .Copies = printer.copyCount(),
+                                .Collated = printer.collateCopies(),
+                                .LastFirst = printer.pageOrder() == QPrinter::LastPageFirst},
+                               progress);
+  bool written = file.flush() && file.error() == QFileDevice::NoError;
+  return painted == Painted::Done && !written ? Painted::Failed : painted;
+}
+
+// Adds " (2)" and so on to the name if it is taken.
+void OpenNew(QFile& file, const QFileInfo& wanted) {
+  QString suffix = wanted.suffix().isEmpty() ? QString() : '.' + wanted.suffix();
   for (int number = 1;; ++number) {
-    QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
-    file.setFileName(QDir(folder).filePath(name + suffix + QStringLiteral(".pdf")));
+    QString count = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
+    file.setFileName(QDir(wanted.path()).filePath(wanted.completeBaseName() + count + suffix));
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return;
     if (!file.exists()) Fail();
   }
 }
 
-PrintedTo PrintIntoFile(const runtime::PrintJob& job, QFile& file, const QPageSize& size,
-                        QPageLayout::Orientation turned, const Progress& progress) {
-  QPdfWriter writer(&file);
-  writer.setTitle(Shown(job.Title));
-  writer.setCreator(QStringLiteral("Reelora Prima"));
-  writer.setPageLayout(
-      QPageLayout(size, turned, QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin), QPageLayout::Inch));
-  bool drawn = PaintPages(job, writer, progress);
-  if (drawn && file.flush() && file.error() == QFileDevice::NoError) return {file.fileName(), {}};
+PrintedTo PrintIntoNewFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& wanted,
+                           const Progress& progress) {
+  QFile file;
+  OpenNew(file, QFileInfo(wanted));
+  Painted painted = PrintIntoFile(job, file, printer, progress);
+  if (painted == Painted::Done) return {file.fileName(), {}};
   // Not file.remove(), which fails if the file cannot be closed.
   QFile::remove(file.fileName());
-  Fail();
+  if (painted == Painted::Failed) Fail();
+  return {};
 }
 
-PrintedTo PrintIntoDocuments(const runtime::PrintJob& job, std::chrono::local_seconds now, const Progress& progress) {
+PrintedTo PrintOverFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& path,
+                        const Progress& progress) {
+  QSaveFile file(path);
+  // Where the folder takes no new file, the old one is written in place.
+  file.setDirectWriteFallback(true);
+  if (!file.open(QIODevice::WriteOnly)) Fail();
+  Painted painted = PrintIntoFile(job, file, printer, progress);
+  if (painted == Painted::Nothing) return {};
+  if (painted == Painted::Failed || !file.commit()) Fail();
+  return {path, {}};
+}
+
+PrintedTo PrintIntoDocuments(const runtime::PrintJob& job, const QPrinter& printer, std::chrono::local_seconds now,
+                             const Progress& progress) {
   QString folder = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath("Reelora Prima");
   if (!QDir().mkpath(folder)) Fail();
   QString stamp = Shown(runtime::StampText(now)).replace(':', '-');
-  QFile file;
-  OpenNew(file, folder, Shown(job.Title) + ' ' + stamp);
-  bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-  return PrintIntoFile(job, file, QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
-                       progress);
-}
-
-PrintedTo PrintIntoChosenFile(const runtime::PrintJob& job, const QPrinter& printer, const Progress& progress) {
-  QFileInfo chosen(printer.outputFileName());
-  QFile file;
-  OpenNew(file, chosen.path(), chosen.completeBaseName());
-  return PrintIntoFile(job, file, printer.pageLayout().pageSize(), printer.pageLayout().orientation(), progress);
+  return PrintIntoNewFile(job, printer, QDir(folder).filePath(Shown(job.Title) + ' ' + stamp + ".pdf"), progress);
 }
 
 }  // namespace
 
 PrintedTo PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chrono::local_seconds now,
-                       const Progress& progress) {
-  if (!printer.outputFileName().isEmpty()) return PrintIntoChosenFile(job, printer, progress);
-  if (printer.outputFormat() == QPrinter::PdfFormat) return PrintIntoDocuments(job, now, progress);
-  return PrintOnQueue(job, printer, progress);
+                       OldFile old_file, const Progress& progress) {
+  if (printer.outputFormat() != QPrinter::PdfFormat) return PrintOnQueue(job, printer, progress);
+  QString chosen = printer.outputFileName();
+  if (chosen.isEmpty()) return PrintIntoDocuments(job, printer, now, progress);
+  if (old_file == OldFile::Replace) return PrintOverFile(job, printer, chosen, progress);
+  return PrintIntoNewFile(job, printer, chosen, progress);
 }
 
 }  // namespace desktop

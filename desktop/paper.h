@@ -1,4 +1,4 @@
-// Prints a report on the printer of the run, or as a PDF file if none is set up.
+// Prints a report on a printer, or as a PDF file if there is none.
 #pragma once
 
 #include <QPrinter>
@@ -9,17 +9,21 @@
 
 namespace desktop {
 
-// Where a job went: the path of the file, or "" and the name of the printer's queue.
+// What to do if the chosen PDF file exists: take a free name like it, or replace the file, as the user agreed to.
+enum class OldFile { Keep, Replace };
+
+// Where a report went: the path of its PDF file, or the name of its queue. Both are empty if the report has none of
+// the pages that the user chose, and nothing was printed.
 struct PrintedTo {
   QString File;
   QString Queue;
 };
 
-// Prints the job on that printer. If the machine has none, writes a new PDF file in the folder "Reelora Prima" of the
-// user's documents, named after the job's title and the time; if the user chose a PDF file in the printer dialog, a new
-// file of that name. Never overwrites a file. Progress gets the part of the pages that is drawn, from 0 to 1. Throws
-// the failure "Printer error".
+// Prints the job on that printer with its paper, pages and copies. If it is none of the machine's, writes a new PDF
+// file: the one that the user chose in the printer dialog, or one named after the job's title and the time in the
+// folder "Reelora Prima" of the user's documents. A file that is replaced stays as it was until the new one is
+// complete. Progress gets the part of the sheets that is drawn, from 0 to 1. Throws the failure "Printer error".
 PrintedTo PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chrono::local_seconds now,
-                       const Progress& progress = {});
+                       OldFile old_file = OldFile::Keep, const Progress& progress = {});
 
 }  // namespace desktop

@@ -23,7 +23,8 @@ bool SavePagePicture(const runtime::PrintJob& job, std::size_t page, const std::
   QRect area = sheet.paintRectPixels(Resolution);
   QPainter painter(&image);
   painter.translate(area.topLeft());
-  PagePainter(job, area.size(), Resolution).Paint(painter, job.Pages.at(page));
+  PagePainter pages(job, area.size(), Resolution);
+  pages.Paint(painter, SheetsOf(job, pages.LinesOnSheet()).at(page));
   painter.end();
   return image.save(QFile::decodeName(path.c_str()), "PNG");
 }

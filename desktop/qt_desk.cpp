@@ -7,7 +7,6 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPrintDialog>
 #include <QUrl>
 #include <utility>
 
@@ -16,7 +15,6 @@
 #include "desktop/input_dialog.h"
 #include "desktop/message_box.h"
 #include "desktop/notices.h"
-#include "desktop/paper.h"
 #include "desktop/stack_view.h"
 #include "desktop/text.h"
 
@@ -60,23 +58,17 @@ std::optional<std::uint32_t> QtDesk::ColourDialog(std::uint32_t start) {
   return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
 }
 
-QPrinter& QtDesk::Printer() {
-  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  return *printer_;
-}
-
-void QtDesk::PrinterDialog() { QPrintDialog(&Printer(), FrontWindow()).exec(); }
+void QtDesk::PrinterDialog() { printer_.SetUp(FrontWindow()); }
 
 void QtDesk::Print(const runtime::PrintJob& job) {
-  PrintedTo printed =
-      PrintOnPaper(job, Printer(), Now(), [this](double done) { Progress("Printing the report", done); });
+  PrintedTo printed = printer_.Print(job, Now(), [this](double done) { Progress("Printing the report", done); });
   if (view_) ShowPrinted(printed);
 }
 
 void QtDesk::ShowPrinted(const PrintedTo& printed) {
   NoticeLine& notices = view_->Notices();
   if (printed.File.isEmpty()) {
-    notices.Show(SentText(printed.Queue), {}, ReportNotice);
+    notices.Show(printed.Queue.isEmpty() ? NothingPrintedText() : SentText(printed.Queue), {}, ReportNotice);
     return;
   }
   auto opens = [](const QString& path) { return [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }; };

@@ -1,13 +1,12 @@
 // The desk of the desktop program: boxes, dialogs, printer, help viewer, clock and drives of this machine.
 #pragma once
 
-#include <QPrinter>
 #include <chrono>
 #include <memory>
 #include <string>
 
 #include "desktop/help_viewer.h"
-#include "desktop/paper.h"
+#include "desktop/run_printer.h"
 #include "forms/desk.h"
 
 namespace desktop {
@@ -43,12 +42,11 @@ class QtDesk final : public forms::Desk {
 
  private:
   QWidget* FrontWindow();
-  QPrinter& Printer();
   void ShowPrinted(const PrintedTo& printed);
 
   std::string folder_;
   StackView* view_ = nullptr;
-  std::unique_ptr<QPrinter> printer_;
+  RunPrinter printer_;
   std::unique_ptr<HelpViewer> help_;
   std::chrono::steady_clock::time_point painted_;
 };

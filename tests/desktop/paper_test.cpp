@@ -51,9 +51,10 @@ TEST(FitGrid, MovesTheLinesTogetherBeforeTheSizeGoesDown) {
 }
 
 TEST(FitGrid, GoesDownByAsLittleAsThePageNeeds) {
-  PaperGrid grid = FitGrid(JobOf(1, 67, 80), Letter, Inch);
+  const QSizeF low(Letter.width(), 7 * Inch);
+  PaperGrid grid = FitGrid(JobOf(1, 60, 80), low, Inch);
   EXPECT_LT(grid.Size, 12);
-  EXPECT_NEAR(Reach(grid, 67), Letter.height(), 0.1);
+  EXPECT_NEAR(Reach(grid, 60), low.height(), 0.1);
   EXPECT_NEAR(grid.Pitch, grid.Size, 0.01);
 }
 
@@ -68,8 +69,76 @@ TEST(FitGrid, IsTheSameForNarrowJobsAsForEightyColumns) {
 
 TEST(FitGrid, IsTheSameOnAllPages) {
   runtime::PrintJob job = JobOf(1, 10, 80);
-  job.Pages.push_back(JobOf(1, 70, 89).Pages.front());
-  EXPECT_EQ(FitGrid(job, Letter, Inch).Size, FitGrid(JobOf(1, 70, 89), Letter, Inch).Size);
+  job.Pages.push_back(JobOf(1, 60, 89).Pages.front());
+  EXPECT_EQ(FitGrid(job, Letter, Inch).Size, FitGrid(JobOf(1, 60, 89), Letter, Inch).Size);
+}
+
+TEST(FitGrid, ALongerPageLeavesTheOthersTheirSize) {
+  runtime::PrintJob job = JobOf(2, 60, 80);
+  PaperGrid alone = FitGrid(job, Letter, Inch);
+  job.Pages.push_back(JobOf(1, 400, 80).Pages.front());
+  PaperGrid grid = FitGrid(job, Letter, Inch);
+  EXPECT_EQ(grid.Size, alone.Size);
+  EXPECT_EQ(grid.Pitch, alone.Pitch);
+  EXPECT_EQ(grid.Lines, 60u);
+}
+
+TEST(FitGrid, AllTheLinesOfASheetFit) {
+  for (int lines : {1, 40, 55, 60, 62}) {
+    PaperGrid grid = FitGrid(JobOf(1, lines, 80), Letter, Inch);
+    EXPECT_GE(grid.Lines, static_cast<std::size_t>(lines));
+    EXPECT_LE(Reach(grid, static_cast<int>(grid.Lines)), Letter.height() + 0.01) << lines;
+  }
+}
+
+std::string FirstLine(const Sheet& sheet) { return sheet.front().Text.substr(0, sheet.front().Text.find("  ")); }
+
+TEST(SheetsOf, ALongerPageGoesOnFurtherSheets) {
+  runtime::PrintJob job = JobOf(1, 60, 80);
+  job.Pages.push_back(JobOf(1, 130, 80).Pages.front());
+  std::vector<Sheet> sheets = SheetsOf(job, 60);
+  ASSERT_EQ(sheets.size(), 4u);
+  EXPECT_EQ(sheets[1].size(), 60u);
+  EXPECT_EQ(sheets[3].size(), 10u);
+  EXPECT_EQ(FirstLine(sheets[2]), "page 1 line 61");
+  EXPECT_EQ(FirstLine(sheets[3]), "page 1 line 121");
+}
+
+TEST(SheetsOf, NoSheetOfALongerPageHoldsMoreThanFits) {
+  for (std::size_t lines : {46u, 55u, 62u}) {
+    for (int page = static_cast<int>(LongestPage) + 1; page < 300; ++page) {
+      std::size_t dealt = 0;
+      runtime::PrintJob job = JobOf(1, page, 80);
+      for (const Sheet& sheet : SheetsOf(job, lines)) {
+        EXPECT_LE(sheet.size(), lines);
+        EXPECT_GE(sheet.size(), 1u);
+        dealt += sheet.size();
+      }
+      EXPECT_EQ(dealt, static_cast<std::size_t>(page));
+    }
+  }
+}
+
+TEST(SheetsOf, AnEmptyJobIsOneEmptySheet) {
+  ASSERT_EQ(SheetsOf({}, 60).size(), 1u);
+  EXPECT_TRUE(SheetsOf({}, 60)[0].empty());
+}
+
+// "1 2 3" for the sheets of a job of three pages in the order of printing.
+std::string Order(const SheetChoice& choice) {
+  runtime::PrintJob job = JobOf(3, 1, 20);
+  std::string order;
+  for (const Sheet& sheet : Chosen(SheetsOf(job, 60), choice)) order += sheet.front().Text.substr(5, 1);
+  return order;
+}
+
+TEST(Chosen, RangeCopiesAndOrderAreAsTheUserSaid) {
+  EXPECT_EQ(Order({}), "123");
+  EXPECT_EQ(Order({.Pages = QPageRanges::fromString("2-9")}), "23");
+  EXPECT_EQ(Order({.Pages = QPageRanges::fromString("4-9")}), "");
+  EXPECT_EQ(Order({.Copies = 2}), "123123");
+  EXPECT_EQ(Order({.Copies = 2, .Collated = false}), "112233");
+  EXPECT_EQ(Order({.Pages = QPageRanges::fromString("1,3"), .Copies = 2, .LastFirst = true}), "3131");
 }
 
 // A home folder of its own, on a machine without a printer.
@@ -88,6 +157,38 @@ class PaperTest : public testing::Test {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/Reelora Prima");
   }
   QStringList Files() const { return Folder().entryList(QDir::Files, QDir::Name); }
+  // Of the only file in the folder.
+  QByteArray Bytes() const { return BytesOf(Folder().entryInfoList(QDir::Files).at(0).filePath()); }
+  static QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  // Fails every write past the first few thousand bytes while it lives.
+  class SmallDisk {
+   public:
+    SmallDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+      getrlimit(RLIMIT_FSIZE, &old_);
+      rlimit small{4096, old_.rlim_max};
+      setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk() {
+      setrlimit(RLIMIT_FSIZE, &old_);
+      std::signal(SIGXFSZ, handler_);
+    }
+
+   private:
+    rlimit old_{};
+    void (*handler_)(int);
+  };
+  bool FailsOnASmallDisk(OldFile old_file) {
+    SmallDisk disk;
+    try {
+      PrintOnPaper(JobOf(30, 60, 80), printer, Noon, old_file);
+    } catch (const runtime::Failure& failure) {
+      return failure.Name == runtime::PrinterError;
+    }
+    return false;
+  }
   static QString Text(const QString& path) {
     QProcess reader;
     reader.start("pdftotext", {"-layout", path, "-"});
@@ -154,21 +255,64 @@ TEST_F(PaperTest, AFolderThatCannotBeMadeIsAPrinterError) {
 }
 
 TEST_F(PaperTest, APageThatCannotBeWrittenLeavesNoFile) {
-  rlimit old{};
-  getrlimit(RLIMIT_FSIZE, &old);
-  rlimit small{4096, old.rlim_max};
-  auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &small);
-  bool failed = false;
-  try {
-    PrintOnPaper(JobOf(30, 60, 80), printer, Noon);
-  } catch (const runtime::Failure& failure) {
-    failed = failure.Name == runtime::PrinterError;
-  }
-  setrlimit(RLIMIT_FSIZE, &old);
-  std::signal(SIGXFSZ, handler);
-  EXPECT_TRUE(failed);
+  EXPECT_TRUE(FailsOnASmallDisk(OldFile::Keep));
   EXPECT_EQ(Files(), QStringList());
+}
+
+TEST_F(PaperTest, AFileThatTheUserAgreedToReplaceIsReplaced) {
+  QString path = home.filePath("mine.pdf");
+  printer.setOutputFileName(path);
+  PrintOnPaper(JobOf(1, 5, 40), printer, Noon);
+  PrintedTo printed = PrintOnPaper(JobOf(3, 5, 40), printer, Noon, OldFile::Replace);
+  EXPECT_EQ(printed.File, path);
+  EXPECT_TRUE(BytesOf(path).contains("/Count 3"));
+  EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), QStringList("mine.pdf"));
+}
+
+TEST_F(PaperTest, AReplacementThatFailsLeavesTheOldFile) {
+  QString path = home.filePath("mine.pdf");
+  printer.setOutputFileName(path);
+  PrintOnPaper(JobOf(1, 5, 40), printer, Noon);
+  QByteArray old = BytesOf(path);
+  EXPECT_TRUE(FailsOnASmallDisk(OldFile::Replace));
+  EXPECT_EQ(BytesOf(path), old);
+  EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), QStringList("mine.pdf"));
+}
+
+TEST_F(PaperTest, AFileWithoutASuffixKeepsItsName) {
+  printer.setOutputFileName(home.filePath("my films"));
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  EXPECT_EQ(PrintOnPaper(JobOf(1, 5, 40), printer, Noon).File, home.filePath("my films"));
+  EXPECT_EQ(PrintOnPaper(JobOf(1, 5, 40), printer, Noon).File, home.filePath("my films (2)"));
+}
+
+TEST_F(PaperTest, TheFileHasThePaperAndTheCopiesOfThePrinter) {
+  printer.setPageSize(QPageSize(QPageSize::A5));
+  printer.setPageOrientation(QPageLayout::Landscape);
+  printer.setCopyCount(3);
+  PrintOnPaper(JobOf(2, 5, 40), printer, Noon);
+  EXPECT_TRUE(Bytes().contains("/Count 6"));
+  EXPECT_TRUE(Bytes().contains("/MediaBox [0 0 595")) << Bytes().mid(Bytes().indexOf("/MediaBox"), 40).toStdString();
+}
+
+TEST_F(PaperTest, OnlyTheChosenPagesArePrinted) {
+  printer.setPrintRange(QPrinter::PageRange);
+  printer.setFromTo(2, 3);
+  PrintOnPaper(JobOf(5, 5, 40), printer, Noon);
+  EXPECT_TRUE(Bytes().contains("/Count 2"));
+}
+
+TEST_F(PaperTest, AReportWithoutTheChosenPagesIsNotPrinted) {
+  printer.setPrintRange(QPrinter::PageRange);
+  printer.setFromTo(7, 9);
+  PrintedTo printed = PrintOnPaper(JobOf(5, 5, 40), printer, Noon);
+  EXPECT_EQ(printed.File + printed.Queue, QString());
+  EXPECT_EQ(Files(), QStringList());
+}
+
+TEST_F(PaperTest, ALongerPageIsPrintedOnSeveralSheets) {
+  PrintOnPaper(JobOf(1, 150, 80), printer, Noon);
+  EXPECT_TRUE(Bytes().contains("/Count 3"));
 }
 
 }  // namespace
