@@ -5,7 +5,10 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/help_page.h"
@@ -15,12 +18,22 @@ namespace {
 
 constexpr QRect StartPlace(256, 256, 512, 512);
 constexpr int PageMargin = 12;
+// In points.
+constexpr int SmallestScale = -4;
+constexpr int LargestScale = 24;
 
 QString HelpFile() {
   return QString::fromUtf8(help::HelpFileName.data(), static_cast<qsizetype>(help::HelpFileName.size()));
 }
 
 }  // namespace
+
+QRect PlaceOn(const QRect& screen, QRect place) {
+  place.setSize(place.size().boundedTo(screen.size()));
+  place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() + 1 - place.width()));
+  place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() + 1 - place.height()));
+  return place;
+}
 
 HelpViewer::HelpViewer(std::string folder)
     : folder_(std::move(folder)),
@@ -30,8 +43,17 @@ HelpViewer::HelpViewer(std::string folder)
       search_line_(this),
       page_(this) {
   setWindowTitle(QStringLiteral("Reelora Prima Help"));
-  QRect place = StartPlace & screen()->availableGeometry();
-  setGeometry(place.isEmpty() ? screen()->availableGeometry() : place);
+  setGeometry(StartPlace);
+  LayOut();
+  SetUpKeys();
+  connect(&contents_, &QPushButton::clicked, this, [this] { ShowContents(); });
+  connect(&back_, &QPushButton::clicked, this, [this] { GoBack(); });
+  connect(&search_, &QPushButton::clicked, this, [this] { Search(search_line_.text()); });
+  connect(&search_line_, &QLineEdit::returnPressed, this, [this] { Search(search_line_.text()); });
+  connect(&page_, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { GoTo(TopicOf(url.toString())); });
+}
+
+void HelpViewer::LayOut() {
   auto* row = new QHBoxLayout;
   row->addWidget(&contents_);
   row->addWidget(&back_);
@@ -44,12 +66,22 @@ HelpViewer::HelpViewer(std::string folder)
   search_line_.setAccessibleName(QStringLiteral("Words to search for"));
   page_.setAccessibleName(QStringLiteral("Help text"));
   page_.setOpenLinks(false);
+  page_.setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   page_.document()->setDocumentMargin(PageMargin);
-  connect(&contents_, &QPushButton::clicked, this, [this] { ShowContents(); });
-  connect(&back_, &QPushButton::clicked, this, [this] { GoBack(); });
-  connect(&search_, &QPushButton::clicked, this, [this] { Search(search_line_.text()); });
-  connect(&search_line_, &QLineEdit::returnPressed, this, [this] { Search(search_line_.text()); });
-  connect(&page_, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { GoTo(TopicOf(url.toString())); });
+}
+
+void HelpViewer::SetUpKeys() {
+  // The underlined letter leads to the line: without words in it the button has nothing to do.
+  search_.setShortcut({});
+  auto key = [this](const QKeySequence& keys, auto doing) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, doing);
+  };
+  for (const char* keys : {"Ctrl+F", "Alt+S"}) key(QKeySequence(keys), [this] { GoToSearchLine(); });
+  key(QKeySequence("Alt+Left"), [this] { GoBack(); });
+  // The plus without Shift is on the key of the equals sign.
+  for (const char* keys : {"Ctrl++", "Ctrl+="}) key(QKeySequence(keys), [this] { Scale(1); });
+  key(QKeySequence("Ctrl+-"), [this] { Scale(-1); });
+  key(QKeySequence("Ctrl+0"), [this] { Scale(-scale_); });
 }
 
 bool HelpViewer::ReadFile() {
@@ -63,6 +95,7 @@ void HelpViewer::Open(int topic) {
   file_found_ = ReadFile();
   GoTo(topic);
   page_.setFocus();
+  FitOnScreen();
   show();
   raise();
   activateWindow();
@@ -72,6 +105,24 @@ void HelpViewer::ShowContents() { GoTo(0); }
 
 void HelpViewer::Search(const QString& words) {
   if (!words.simplified().isEmpty()) GoTo(words.simplified());
+}
+
+void HelpViewer::GoToSearchLine() {
+  search_line_.setFocus(Qt::ShortcutFocusReason);
+  search_line_.selectAll();
+}
+
+void HelpViewer::Scale(int steps) {
+  int scale = std::clamp(scale_ + steps, SmallestScale, LargestScale);
+  page_.zoomIn(scale - std::exchange(scale_, scale));
+}
+
+// The title bar counts too; before the window has one, the style tells about how high it will be.
+void HelpViewer::FitOnScreen() {
+  QMargins frame(geometry().left() - frameGeometry().left(), geometry().top() - frameGeometry().top(),
+                 frameGeometry().right() - geometry().right(), frameGeometry().bottom() - geometry().bottom());
+  if (frame.isNull()) frame.setTop(style()->pixelMetric(QStyle::PM_TitleBarHeight));
+  setGeometry(PlaceOn(screen()->availableGeometry().marginsRemoved(frame), geometry()));
 }
 
 void HelpViewer::GoTo(Place place) {

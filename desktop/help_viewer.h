@@ -1,8 +1,9 @@
-// The help window: one page at a time, with contents, back and search.
+// The help window: one page at a time, with contents, back and search. Everything in it can be reached by key.
 #pragma once
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRect>
 #include <QTextBrowser>
 #include <QWidget>
 #include <string>
@@ -13,17 +14,23 @@
 
 namespace desktop {
 
+// The place moved onto the screen, and made smaller only where the screen is.
+QRect PlaceOn(const QRect& screen, QRect place);
+
 class HelpViewer final : public QWidget {
  public:
   // The folder of the help file.
   explicit HelpViewer(std::string folder);
   // Reads the file again and shows that topic; the contents for 0 or an unknown number. If the file is missing, the
-  // window says so.
+  // window says so. A window that no longer fits on its screen is moved onto it.
   void Open(int topic);
   // The same as clicking Contents, Back and Search.
   void ShowContents();
   void GoBack();
   void Search(const QString& words);
+  void GoToSearchLine();
+  // Makes the text that many steps larger, or smaller below 0; within limits.
+  void Scale(int steps);
 
   QTextBrowser& Page() { return page_; }
   QLineEdit& SearchLine() { return search_line_; }
@@ -38,11 +45,15 @@ class HelpViewer final : public QWidget {
   void Show(const Place& place);
   QString PageOf(const Place& place) const;
   bool ReadFile();
+  void LayOut();
+  void SetUpKeys();
+  void FitOnScreen();
 
   std::string folder_;
   help::HelpFile file_;
   bool file_found_ = false;
   std::vector<Place> visited_;  // the current one last
+  int scale_ = 0;               // steps from the usual size of the text
   QPushButton contents_, back_, search_;
   QLineEdit search_line_;
   QTextBrowser page_;

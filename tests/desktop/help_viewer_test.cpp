@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QTest>
 
 #include "desktop/help_page.h"
 #include "tests/kit/fresh_folder.h"
@@ -24,10 +24,12 @@ struct Viewer : testing::Test {
   Viewer() { Write(Text); }
   void Write(std::string_view text) { story::WriteBytes(Folder.Path() / "Reelora4.HLP", text); }
   QString Shown() { return Window.Page().toPlainText(); }
-  void Press(QWidget& widget, int key) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &press);
+  // As the user does: hot keys come before the widget.
+  void Press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
+    QTest::keyClick(&widget, key, modifiers);
   }
+  double TextSize() { return Window.Page().font().pointSizeF(); }
 
   kit::FreshFolder Folder;
   HelpViewer Window{Folder.Path().string()};
@@ -76,6 +78,85 @@ TEST_F(Viewer, SearchFindsTheTopicsThatHoldAllWords) {
   EXPECT_TRUE(Shown().contains("There is none."));
   Window.Search("   ");
   EXPECT_TRUE(Shown().contains("There is none."));
+}
+
+TEST_F(Viewer, CtrlFAndAltSLeadToTheSearchLine) {
+  Window.Open(220);
+  Window.Search("film");
+  for (auto [key, modifier] : {std::pair(Qt::Key_F, Qt::ControlModifier), std::pair(Qt::Key_S, Qt::AltModifier)}) {
+    Window.SearchLine().setText("title");
+    Window.Page().setFocus();
+    Press(Window.Page(), key, modifier);
+    EXPECT_TRUE(Window.SearchLine().hasFocus());
+    EXPECT_EQ(Window.SearchLine().selectedText(), "title");
+    EXPECT_TRUE(Shown().contains("film")) << "it only leads there";
+  }
+}
+
+TEST_F(Viewer, AltLeftGoesBackFromTheTextAndFromTheSearchLine) {
+  Window.Open(220);
+  Window.ShowContents();
+  Window.Search("titles");
+  Press(Window.Page(), Qt::Key_Left, Qt::AltModifier);
+  EXPECT_TRUE(Shown().startsWith("Contents"));
+  Window.SearchLine().setFocus();
+  Press(Window.SearchLine(), Qt::Key_Left, Qt::AltModifier);
+  EXPECT_TRUE(Shown().contains("Writes"));
+}
+
+TEST_F(Viewer, CtrlPlusMinusAnd0ScaleTheTextWithinLimits) {
+  Window.Open(220);
+  double usual = TextSize();
+  Press(Window.Page(), Qt::Key_Plus, Qt::ControlModifier);
+  Press(Window.Page(), Qt::Key_Equal, Qt::ControlModifier);
+  EXPECT_EQ(TextSize(), usual + 2);
+  Window.ShowContents();
+  EXPECT_EQ(TextSize(), usual + 2);
+  Press(Window.Page(), Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(TextSize(), usual);
+  Press(Window.Page(), Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(TextSize(), usual - 1);
+  Window.Scale(-1000);
+  EXPECT_GE(TextSize(), 5);
+  Window.Scale(1000);
+  EXPECT_LE(TextSize(), 40);
+  Press(Window.Page(), Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(TextSize(), usual);
+}
+
+TEST_F(Viewer, TheTextIsWalkedAndSelectedByKey) {
+  Window.Open(220);
+  Press(Window.Page(), Qt::Key_Home, Qt::ControlModifier);
+  Press(Window.Page(), Qt::Key_Down);
+  Press(Window.Page(), Qt::Key_Down);
+  Press(Window.Page(), Qt::Key_End, Qt::ShiftModifier);
+  EXPECT_EQ(Window.Page().textCursor().selectedText(), "Writes <the film>. See sorting.");
+}
+
+TEST_F(Viewer, ALinkIsReachedAndFollowedByKey) {
+  Window.Open(220);
+  Press(Window.Page(), Qt::Key_Tab);
+  EXPECT_EQ(Window.Page().textCursor().selectedText(), "sorting");
+  Press(Window.Page(), Qt::Key_Return);
+  EXPECT_TRUE(Shown().contains("Puts the titles"));
+}
+
+TEST_F(Viewer, AWindowOutsideTheScreenComesBackOntoIt) {
+  Window.Open(220);
+  Window.close();
+  Window.setGeometry(20000, -9000, 30000, 400);
+  Window.Open(220);
+  EXPECT_TRUE(Window.screen()->availableGeometry().contains(Window.geometry()));
+  EXPECT_EQ(Window.height(), 400);
+}
+
+TEST(PlaceOn, MovesBeforeItMakesSmaller) {
+  const QRect screen(100, 50, 800, 600);
+  EXPECT_EQ(PlaceOn(screen, {256, 60, 512, 512}), QRect(256, 60, 512, 512));
+  EXPECT_EQ(PlaceOn(screen, {600, 256, 512, 512}), QRect(388, 138, 512, 512));
+  EXPECT_EQ(PlaceOn(screen, {0, 0, 512, 512}), QRect(100, 50, 512, 512));
+  EXPECT_EQ(PlaceOn(screen, {256, 256, 5000, 512}), QRect(100, 138, 800, 512));
+  EXPECT_EQ(PlaceOn(QRect(0, 0, 320, 240), {256, 256, 512, 512}), QRect(0, 0, 320, 240));
 }
 
 TEST_F(Viewer, AMissingFileIsNamedAndTheNextOpeningFindsItAgain) {
