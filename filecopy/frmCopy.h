@@ -13,6 +13,8 @@
 namespace filecopy {
 
 inline constexpr std::string_view Pattern = "*.dat";
+// The help topic of the window.
+inline constexpr int CopyTopic = 603;
 
 // clang-format off
 inline constexpr forms::Look HeadingLook = { .Fore = forms::Yellow, .Back = forms::Blue, .Transparent = true, .FontSize = 16, .Bold = true };
@@ -35,8 +37,8 @@ struct frmCopy : forms::Window {
   filecopy::FolderList Dir2   { *this, "Dir2", filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk() };
   filecopy::FileList   File2  { *this, "File2", {}, filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk(), filecopy::Pattern.substr(1) };
   filecopy::FolderList Dir1   { *this, "Dir1", filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk() };
-  filecopy::FileList   File1  { *this, "File1", {0, 0, 0}, filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk(), filecopy::Pattern.substr(1) };
-  filecopy::DriveList  Drive1 { *this, "Drive1", {1, 0, 0}, filecopy::PickerLook, {3900, 3300, 3000, 1200} };
+  filecopy::FileList   File1  { *this, "File1", {0, filecopy::CopyTopic, 0}, filecopy::PickerLook, {300, 1500, 3300, 3000}, RecordScreen.Files.Disk(), filecopy::Pattern.substr(1) };
+  filecopy::DriveList  Drive1 { *this, "Drive1", {1, filecopy::CopyTopic, 0}, filecopy::PickerLook, {3900, 3300, 3000, 1200} };
 
   forms::Label lblCopy  { *this, "lblCopy",  "Copy Data to Floppy",                                 {}, filecopy::HeadingLook, { 300,  210, 6600, 480} };
   forms::Label lblCopy2 { *this, "lblCopy2", "Copy recpra.dat",                                     {}, filecopy::StepLook,    { 300,  780, 3300, 300} };
