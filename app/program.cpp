@@ -2,9 +2,16 @@
 #include "app/program.h"
 
 #include <algorithm>
+#include <new>
 
 #include "forms/window.h"
 #include "runtime/whole_io.h"
+
+namespace {
+
+constexpr std::size_t ReserveBytes = std::size_t{4} << 20;
+
+}  // namespace
 
 Program::Program(forms::Desk& desk, runtime::Disk& disk)
     : Windows(desk),
@@ -14,7 +21,8 @@ Program::Program(forms::Desk& desk, runtime::Disk& disk)
       Opener(Windows, Opening),
       Info(Windows, Opening),
       QuickStart(Windows, Opening),
-      Copy(Windows, RecordScreen) {
+      Copy(Windows, RecordScreen),
+      reserve_(std::make_unique_for_overwrite<char[]>(ReserveBytes)) {
   Opening.frmOpener = &Opener;
   Opening.frmInfo = &Info;
   Opening.frmQuickStart = &QuickStart;
@@ -38,12 +46,24 @@ void Program::Deliver(const std::function<void()>& event) {
   try {
     event();
   } catch (const runtime::Failure& failure) {
-    ended_ = true;
-    stopped_ = failure;
-    Windows.Desk.FailureReport(failure.Name, failure.File);
+    Stop(failure);
+    return;
+  } catch (const std::bad_alloc&) {
+    RunOutOfMemory();
     return;
   }
   if (!Windows.Desk.Ended() && Windows.Front()) return;
   ended_ = true;
   Windows.Desk.Closed();
+}
+
+void Program::RunOutOfMemory() {
+  reserve_.reset();
+  Stop({runtime::OutOfMemory, ""});
+}
+
+void Program::Stop(const runtime::Failure& failure) {
+  ended_ = true;
+  stopped_ = failure;
+  Windows.Desk.FailureReport(failure);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "filecopy/frmCopy.h"
@@ -31,15 +32,21 @@ class Program {
   void StartOpener();
   // Shows the record screen directly.
   void StartRecordScreen();
-  // Runs one event of the user. A failure that no handler catches stops the program with the failure report. The
-  // program also ends when no window is visible. After the end, events are ignored.
+  // Runs one event of the user. A failure that no handler catches, or running out of memory, stops the program with the
+  // failure report. The program also ends when no window is visible. After the end, events are ignored.
   void Deliver(const std::function<void()>& event);
+  // Stops the program; memory ran out in an event or outside of all.
+  void RunOutOfMemory();
 
   bool Ended() const { return ended_; }
   // The failure that stopped the program, if any.
   const std::optional<runtime::Failure>& Stopped() const { return stopped_; }
 
  private:
+  void Stop(const runtime::Failure& failure);
+
   bool ended_ = false;
   std::optional<runtime::Failure> stopped_;
+  // Given up when memory runs out, so that the report can be shown.
+  std::unique_ptr<char[]> reserve_;
 };

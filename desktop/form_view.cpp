@@ -179,7 +179,7 @@ QSize FormView::StartSize() const {
 }
 
 void FormView::resizeEvent(QResizeEvent*) {
-  if (!window_.InSight() || !isVisible()) return;
+  if (!window_.InSight() || !isVisible() || stack_.Stopped()) return;
   LayOut();
   MirrorControls();
   for (ControlView* view : changed_) view->Withdraw();

@@ -12,6 +12,7 @@
 
 #include "desktop/control_view.h"
 #include "desktop/drives.h"
+#include "desktop/failure_box.h"
 #include "desktop/input_dialog.h"
 #include "desktop/message_box.h"
 #include "desktop/notices.h"
@@ -113,12 +114,11 @@ void QtDesk::Copied(std::string_view file, char drive, std::int64_t bytes) {
 // Not quit(): that would ask the windows first, and they leave the answer to the form.
 void QtDesk::Closed() { QApplication::exit(0); }
 
-void QtDesk::FailureReport(std::string_view failure, std::string_view file) {
-  QString text = Shown(failure);
-  if (!file.empty()) text += QStringLiteral("\n\n%1").arg(Shown(file));
-  QMessageBox box(QMessageBox::Critical, Shown(OwnTitle), text, QMessageBox::Ok, FrontWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
+// What a handler has changed before it failed is not drawn: the form may already say that the work is saved.
+void QtDesk::FailureReport(const runtime::Failure& failure) {
+  if (view_) view_->StopDrawing();
+  FailureBox box(failure, QString::fromStdString(folder_), view_ ? view_->Front() : nullptr);
+  start_again_ = box.Ask() == FailureBox::Choice::StartAgain;
   QApplication::exit(1);
 }
 

@@ -34,7 +34,10 @@ class QtDesk final : public forms::Desk {
   void Progress(std::string_view work, double done) override;
   void Copied(std::string_view file, char drive, std::int64_t bytes) override;
   void Closed() override;
-  void FailureReport(std::string_view failure, std::string_view file) override;
+  void FailureReport(const runtime::Failure& failure) override;
+
+  // The user chose "Start again" in the failure report.
+  bool StartAgain() const { return start_again_; }
 
  protected:
   forms::Answer AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
@@ -49,6 +52,7 @@ class QtDesk final : public forms::Desk {
   RunPrinter printer_;
   std::unique_ptr<HelpViewer> help_;
   std::chrono::steady_clock::time_point painted_;
+  bool start_again_ = false;
 };
 
 }  // namespace desktop

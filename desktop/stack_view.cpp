@@ -1,7 +1,7 @@
 // Draws the windows in stacking order.
 #include "desktop/stack_view.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <utility>
 
 #include "desktop/text.h"
@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds ProgressInterval(100);
 StackView::StackView(forms::WindowStack& windows, Delivery deliver) : windows_(windows), deliver_(std::move(deliver)) {}
 
 void StackView::Deliver(const std::function<void()>& event) {
-  if (delivering_) return;
+  if (delivering_ || stopped_) return;
   delivering_ = true;
   deliver_(event);
   EndProgress();
@@ -27,6 +27,7 @@ void StackView::Deliver(const std::function<void()>& event) {
 }
 
 void StackView::Sync() {
+  if (stopped_) return;
   for (forms::Window* window : windows_.All()) {
     std::unique_ptr<FormView>* view = nullptr;
     if (auto found = views_.find(window); found != views_.end()) {
@@ -42,6 +43,16 @@ void StackView::Sync() {
   FormView& view = *ViewOf(*front);
   view.raise();
   view.activateWindow();
+}
+
+void StackView::BringToFront() {
+  QWidget* box = QApplication::activeModalWidget();
+  for (QWidget* window : {static_cast<QWidget*>(Front()), box}) {
+    if (!window) continue;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
+  }
 }
 
 void StackView::Paint() {
@@ -73,7 +84,7 @@ void StackView::ClearNotice(const QString& key) {
 }
 
 void StackView::PlaceNotices() {
-  if (!notices_) return;
+  if (!notices_ || stopped_) return;
   FormView* wanted = nullptr;
   if (!notices_->Empty()) wanted = noticed_ && noticed_->Window().Visible() ? noticed_ : Front();
   if (noticed_ && noticed_ != wanted) noticed_->PlaceNotices(nullptr);

@@ -24,6 +24,13 @@ class StackView {
   void Deliver(const std::function<void()>& event);
   // Updates all drawn windows; a window is first drawn when it becomes visible.
   void Sync();
+  // From now on the windows stay as they are drawn, and no event is delivered.
+  void StopDrawing() { stopped_ = true; }
+  bool Stopped() const { return stopped_; }
+  // An event runs.
+  bool Delivering() const { return delivering_; }
+  // Brings the front window before those of other programs, and a box that is open over it.
+  void BringToFront();
   // Updates and paints before it returns; input is held back meanwhile.
   void Paint();
 
@@ -46,6 +53,7 @@ class StackView {
   forms::WindowStack& windows_;
   Delivery deliver_;
   bool delivering_ = false;
+  bool stopped_ = false;
   const forms::Window* front_ = nullptr;
   std::unordered_map<const forms::Window*, std::unique_ptr<FormView>> views_;
   FormView* noticed_ = nullptr;  // the window with the line

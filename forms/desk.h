@@ -8,8 +8,9 @@
 #include <string_view>
 
 namespace runtime {
+struct Failure;
 struct PrintJob;
-}
+}  // namespace runtime
 
 namespace forms {
 
@@ -63,8 +64,8 @@ class Desk {
   bool Ended() const { return ended_; }
   // The program has ended by its own doing.
   virtual void Closed() = 0;
-  // The program stops: a box that names the failure and the file concerned, "" for none.
-  virtual void FailureReport(std::string_view failure, std::string_view file) = 0;
+  // The program stops: a box that names the failure and the file concerned, if any.
+  virtual void FailureReport(const runtime::Failure& failure) = 0;
 
  protected:
   virtual Answer AskMessageBox(Icon icon, std::string_view title, std::string_view text, Buttons buttons) = 0;

@@ -12,6 +12,8 @@ std::string_view NameOfSystemError(int system_error) {
     case ENOSPC:
     case EDQUOT:
       return DiskFull;
+    case ENOMEM:
+      return OutOfMemory;
     case EACCES:
     case EPERM:
     case EROFS:

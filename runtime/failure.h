@@ -18,11 +18,16 @@ inline constexpr std::string_view DiskFull = "Disk full";
 inline constexpr std::string_view DeviceError = "Device I/O error";
 inline constexpr std::string_view PathError = "Path/File access error";
 inline constexpr std::string_view PrinterError = "Printer error";
+inline constexpr std::string_view OutOfMemory = "Out of memory";
 
-// Name: one of the names above. File: the file concerned, or "".
+// Name: one of the names above. File: the file concerned, or "". SystemError: the operating system's number for the
+// cause, 0 if it gave none. Reason: the cause in words, in UTF-8, if something other than the operating system named
+// it.
 struct Failure {
   std::string_view Name;
   std::string File;
+  int SystemError = 0;
+  std::string Reason = {};
 };
 
 // The name of an error number of the operating system.

@@ -6,7 +6,8 @@ namespace runtime {
 std::string InSafetyFolder(std::string_view name) { return std::string(SafetyFolder) + "/" + std::string(name); }
 
 std::int64_t Checked(std::int64_t result, std::string_view file) {
-  if (result < 0) throw Failure{NameOfSystemError(static_cast<int>(-result)), std::string(file)};
+  auto error = static_cast<int>(-result);
+  if (result < 0) throw Failure{NameOfSystemError(error), std::string(file), error};
   return result;
 }
 

@@ -36,8 +36,8 @@ class LoggingDesk final : public forms::Desk {
   void Repaint() override {}
   void RepaintNow() override {}
   void Closed() override { Log += "closed|"; }
-  void FailureReport(std::string_view failure, std::string_view file) override {
-    Log.append(failure).append(" ").append(file) += "|";
+  void FailureReport(const runtime::Failure& failure) override {
+    Log.append(failure.Name).append(" ").append(failure.File) += "|";
   }
 
  protected:

@@ -27,7 +27,7 @@ class CountingDesk final : public forms::Desk {
   void Repaint() override {}
   void RepaintNow() override {}
   void Closed() override {}
-  void FailureReport(std::string_view, std::string_view) override {}
+  void FailureReport(const runtime::Failure&) override {}
 
  protected:
   forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {

@@ -3,6 +3,7 @@
 
 #include "forms/desk.h"
 #include "runtime/clock.h"
+#include "runtime/failure.h"
 
 namespace kit {
 
@@ -26,9 +27,9 @@ class QuietDesk : public forms::Desk {
   void Repaint() override {}
   void RepaintNow() override {}
   void Closed() override {}
-  void FailureReport(std::string_view failure, std::string_view file) override {
-    Reported = failure;
-    ReportedFile = file;
+  void FailureReport(const runtime::Failure& failure) override {
+    Reported = failure.Name;
+    ReportedFile = failure.File;
   }
 
  protected:

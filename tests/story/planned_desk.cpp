@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "runtime/clock.h"
+#include "runtime/failure.h"
 
 namespace story {
 namespace {
@@ -137,8 +138,8 @@ std::optional<std::string> PlannedDesk::DriveFolder(char letter) {
 
 void PlannedDesk::Closed() { Take(Event("end")); }
 
-void PlannedDesk::FailureReport(std::string_view failure, std::string_view file) {
-  Take(Event("stop", {Text(failure)}), file.empty() ? "" : " for " + std::string(file));
+void PlannedDesk::FailureReport(const runtime::Failure& failure) {
+  Take(Event("stop", {Text(failure.Name)}), failure.File.empty() ? "" : " for " + failure.File);
 }
 
 }  // namespace story

@@ -36,7 +36,7 @@ class PlannedDesk final : public forms::Desk {
   void Repaint() override {}
   void RepaintNow() override {}
   void Closed() override;
-  void FailureReport(std::string_view failure, std::string_view file) override;
+  void FailureReport(const runtime::Failure& failure) override;
 
  protected:
   forms::Answer AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/failure.h"
 #include "runtime/print_job.h"
 
 namespace story {
@@ -114,7 +115,7 @@ TEST_F(PlannedDeskTest, TakesHelpPrinterDialogEndAndStop) {
 
 TEST_F(PlannedDeskTest, NamesTheFileOfAStopThatIsNotPlanned) {
   Plan({"stop \"Overflow\""});
-  desk.FailureReport("File not found", "Last");
+  desk.FailureReport({runtime::FileNotFound, "Last"});
   EXPECT_EQ(Outcome(), "11: expected stop \"Overflow\", got stop \"File not found\" for Last");
 }
 
