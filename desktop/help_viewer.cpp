@@ -62,6 +62,8 @@ void HelpViewer::LayOut() {
   auto* column = new QVBoxLayout(this);
   column->addLayout(row);
   column->addWidget(&page_, 1);
+  setTabOrder(&search_line_, &search_);
+  setTabOrder(&search_, &page_);
   search_line_.setPlaceholderText(QStringLiteral("Search for words"));
   search_line_.setAccessibleName(QStringLiteral("Words to search for"));
   page_.setAccessibleName(QStringLiteral("Help text"));
@@ -104,7 +106,9 @@ void HelpViewer::Open(int topic) {
 void HelpViewer::ShowContents() { GoTo(0); }
 
 void HelpViewer::Search(const QString& words) {
-  if (!words.simplified().isEmpty()) GoTo(words.simplified());
+  if (words.simplified().isEmpty()) return;
+  GoTo(words.simplified());
+  page_.setFocus();
 }
 
 void HelpViewer::GoToSearchLine() {

@@ -24,7 +24,7 @@ class HelpViewer final : public QWidget {
   // Reads the file again and shows that topic; the contents for 0 or an unknown number. If the file is missing, the
   // window says so. A window that no longer fits on its screen is moved onto it.
   void Open(int topic);
-  // The same as clicking Contents, Back and Search.
+  // The same as clicking Contents, Back and Search, which leads on to the topics that it finds.
   void ShowContents();
   void GoBack();
   void Search(const QString& words);

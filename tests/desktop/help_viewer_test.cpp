@@ -141,6 +141,25 @@ TEST_F(Viewer, ALinkIsReachedAndFollowedByKey) {
   EXPECT_TRUE(Shown().contains("Puts the titles"));
 }
 
+TEST_F(Viewer, ATopicIsFoundByKeyAlone) {
+  Window.Open(220);
+  Press(Window.Page(), Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(&Window.SearchLine(), "titles order");
+  Press(Window.SearchLine(), Qt::Key_Return);
+  Press(*Window.focusWidget(), Qt::Key_Tab);
+  Press(*Window.focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(Shown().contains("Puts the titles"));
+}
+
+TEST_F(Viewer, TabGoesFromTheSearchLineToItsButtonAndOnToTheText) {
+  Window.Open(220);
+  Window.GoToSearchLine();
+  Press(Window.SearchLine(), Qt::Key_Tab);
+  EXPECT_EQ(qobject_cast<QPushButton*>(Window.focusWidget())->text(), "&Search");
+  Press(*Window.focusWidget(), Qt::Key_Tab);
+  EXPECT_TRUE(Window.Page().hasFocus());
+}
+
 TEST_F(Viewer, AWindowOutsideTheScreenComesBackOntoIt) {
   Window.Open(220);
   Window.close();
