@@ -1,6 +1,7 @@
 // Lays out the viewer and moves between pages.
 #include "desktop/help_viewer.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -8,6 +9,7 @@
 #include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -98,6 +100,7 @@ void HelpViewer::Open(int topic) {
   GoTo(topic);
   page_.setFocus();
   FitOnScreen();
+  GoAboveModalWindow();
   show();
   raise();
   activateWindow();
@@ -119,6 +122,16 @@ void HelpViewer::GoToSearchLine() {
 void HelpViewer::Scale(int steps) {
   int scale = std::clamp(scale_ + steps, SmallestScale, LargestScale);
   page_.zoomIn(scale - std::exchange(scale_, scale));
+}
+
+// A modal window takes the input of all others except its own, so the help becomes one of its own.
+void HelpViewer::GoAboveModalWindow() {
+  winId();
+  const QWidget* modal = QApplication::activeModalWidget();
+  QWindow* owner = modal ? modal->window()->windowHandle() : nullptr;
+  if (windowHandle()->transientParent() == owner) return;
+  hide();
+  windowHandle()->setTransientParent(owner);
 }
 
 // The title bar counts too; before the window has one, the style tells about how high it will be.

@@ -48,6 +48,7 @@ class HelpViewer final : public QWidget {
   void LayOut();
   void SetUpKeys();
   void FitOnScreen();
+  void GoAboveModalWindow();
 
   std::string folder_;
   help::HelpFile file_;

@@ -160,6 +160,32 @@ TEST_F(Viewer, TabGoesFromTheSearchLineToItsButtonAndOnToTheText) {
   EXPECT_TRUE(Window.Page().hasFocus());
 }
 
+// A click through the window system, which a modal window can keep away.
+void ClickContents(HelpViewer& viewer) {
+  auto* contents = viewer.findChild<QPushButton*>();
+  ASSERT_EQ(contents->text(), "&Contents");
+  QTest::mouseClick(viewer.windowHandle(), Qt::LeftButton, {}, contents->geometry().center());
+}
+
+TEST_F(Viewer, ItTakesInputOverAModalWindowAndAfterIt) {
+  Window.Open(170);
+  {
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    modal.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&modal));
+    ClickContents(Window);
+    EXPECT_FALSE(Shown().startsWith("Contents")) << "the modal window came later";
+    Window.Open(220);
+    ClickContents(Window);
+    EXPECT_TRUE(Shown().startsWith("Contents"));
+  }
+  Window.Open(220);
+  EXPECT_TRUE(Window.isVisible());
+  ClickContents(Window);
+  EXPECT_TRUE(Shown().startsWith("Contents"));
+}
+
 TEST_F(Viewer, AWindowOutsideTheScreenComesBackOntoIt) {
   Window.Open(220);
   Window.close();
