@@ -1,28 +1,28 @@
-// The four alphabetical views: one handler a view, which opens it and is each of its steps.
+// The four alphabetical views: one handler per view opens it and makes each of its steps.
 #include "browse/key_walk.h"
+#include "store/film_codes.h"
 
 namespace {
 
-// What follows when the last position is found only after the film was shown.
+// What follows if the end is noticed after showing the film.
 enum class AfterShow { PlainBox, BoxAndReset, PlainBoxAndShow };
 
-// What an empty key file brings when the view is opened: nothing of its own, or a box, with or without a reset.
-enum class WhenEmpty { GoesOn, WarnAndReset, Warn, PlainBoxAndReset };
+// How opening on an empty key file is handled: as on any other, or with a box, with or without a reset.
+enum class WhenEmpty { Continue, WarnAndReset, Warn, PlainBoxAndReset };
 
 // Everything in which the four differ; what is not named here is the same in all.
 struct AlphaView {
   std::string_view Kind;
-  bool AllFormats;  // clears EditMode first and ViewState at the end, and puts a V on the screen right before the film
-                    // is shown
-  std::string_view KeyFile;
-  std::string_view CountFile;  // read again on each step; "" for the count in memory
+  const store::KeyFile& Keys;
   screen::Text screen::RunState::*Count;
+  bool AllFormats;  // the view of all titles: it clears EditMode, takes the count from memory instead of its file,
+                    // clears ViewState at the end, and makes the V in the format box a VHS before showing a film
   std::string_view Heading;
   std::string_view NotSortedText;
   std::string_view NotSortedTitle;
   std::string_view EndText;
   std::string_view EndTitle;
-  int AfterShowDivisor;  // bytes a key in the test after showing: 49, or 47 where that test is never to fire
+  int AfterShowDivisor;  // bytes a key in the test after showing; with 47 only a damaged file can end there
   AfterShow After;
   WhenEmpty Empty;
   std::string_view EmptyText;
@@ -34,21 +34,69 @@ constexpr std::string_view CanBeViewed =
     "Records have not been sorted.  Records must be sorted before records can be viewed!";
 
 // clang-format off
-constexpr AlphaView TitleView = { "Title", true,  "Titlepra.Dat", "",         &frmPage1::TitleCount, "    Viewing All Titles Alphabetically",
-                                  CanViewed,   "Reelora Prima Print Program", "End of file!",           "ALPHA TITLE SEARCH",       49, AfterShow::PlainBox,
-                                  WhenEmpty::GoesOn, "" };
-constexpr AlphaView DVDView   = { "DVD",   false, "DVDpra.Dat",   "DVDpra",   &frmPage1::DVDCount,   "Viewing All DVD Titles Alphabetically",
-                                  CanViewed,   "Reelora Prima",               "End of file!",           "ALPHA DVD TITLE SEARCH",   47, AfterShow::BoxAndReset,
-                                  WhenEmpty::WarnAndReset, "There are No DVD Discs in Library or Files need to Be Sorted" };
-constexpr AlphaView LaserView = { "Laser", false, "Laserpra.Dat", "Laserpra", &frmPage1::LaserCount, "Viewing All Laser Disc Titles Alphabetically",
-                                  CanBeViewed, "Reelora Prima",               "End of file!",           "ALPHA LASER TITLE SEARCH", 47, AfterShow::BoxAndReset,
-                                  WhenEmpty::Warn, "There are No Laser Discs in Library or Files need to Be Sorted" };
-constexpr AlphaView VHSView   = { "VHS",   false, "VHSpra.Dat",   "VHSpra",   &frmPage1::VHSCount,   "  Viewing All VHS Titles Alphabetically",
-                                  CanBeViewed, "Reelora Prima",               "          End of file!", "ALPHA VHS TITLE SEARCH",   47, AfterShow::PlainBoxAndShow,
-                                  WhenEmpty::PlainBoxAndReset, "There are No VHS Tapes in Library or Files need to Be Sorted" };
+constexpr AlphaView TitleView = {
+  .Kind             = screen::TitleView,
+  .Keys             = store::TitleKeys,
+  .Count            = &frmPage1::TitleCount,
+  .AllFormats       = true,
+  .Heading          = "    Viewing All Titles Alphabetically",
+  .NotSortedText    = CanViewed,
+  .NotSortedTitle   = "Reelora Prima Print Program",
+  .EndText          = "End of file!",
+  .EndTitle         = "ALPHA TITLE SEARCH",
+  .AfterShowDivisor = store::KeyLength,
+  .After            = AfterShow::PlainBox,
+  .Empty            = WhenEmpty::Continue,
+  .EmptyText        = "",
+};
+constexpr AlphaView DVDView = {
+  .Kind             = screen::DVDView,
+  .Keys             = store::DVDKeys,
+  .Count            = &frmPage1::DVDCount,
+  .AllFormats       = false,
+  .Heading          = "Viewing All DVD Titles Alphabetically",
+  .NotSortedText    = CanViewed,
+  .NotSortedTitle   = "Reelora Prima",
+  .EndText          = "End of file!",
+  .EndTitle         = "ALPHA DVD TITLE SEARCH",
+  .AfterShowDivisor = 47,
+  .After            = AfterShow::BoxAndReset,
+  .Empty            = WhenEmpty::WarnAndReset,
+  .EmptyText        = "There are No DVD Discs in Library or Files need to Be Sorted",
+};
+constexpr AlphaView LaserView = {
+  .Kind             = screen::LaserView,
+  .Keys             = store::LaserKeys,
+  .Count            = &frmPage1::LaserCount,
+  .AllFormats       = false,
+  .Heading          = "Viewing All Laser Disc Titles Alphabetically",
+  .NotSortedText    = CanBeViewed,
+  .NotSortedTitle   = "Reelora Prima",
+  .EndText          = "End of file!",
+  .EndTitle         = "ALPHA LASER TITLE SEARCH",
+  .AfterShowDivisor = 47,
+  .After            = AfterShow::BoxAndReset,
+  .Empty            = WhenEmpty::Warn,
+  .EmptyText        = "There are No Laser Discs in Library or Files need to Be Sorted",
+};
+constexpr AlphaView VHSView = {
+  .Kind             = screen::VHSView,
+  .Keys             = store::VHSKeys,
+  .Count            = &frmPage1::VHSCount,
+  .AllFormats       = false,
+  .Heading          = "  Viewing All VHS Titles Alphabetically",
+  .NotSortedText    = CanBeViewed,
+  .NotSortedTitle   = "Reelora Prima",
+  .EndText          = "          End of file!",
+  .EndTitle         = "ALPHA VHS TITLE SEARCH",
+  .AfterShowDivisor = 47,
+  .After            = AfterShow::PlainBoxAndShow,
+  .Empty            = WhenEmpty::PlainBoxAndReset,
+  .EmptyText        = "There are No VHS Tapes in Library or Files need to Be Sorted",
+};
 // clang-format on
 
-// One step of a view: the film of the key at KeyFilePos, the view being opened first if need be.
+// One step of a view: it opens the view if need be and shows the film of the key at KeyFilePos.
 class ViewStep {
  public:
   ViewStep(frmPage1& window, const AlphaView& view) : window_(window), view_(view) {}
@@ -77,29 +125,29 @@ class ViewStep {
 
   bool NotSorted() {
     auto& count = window_.*view_.Count;
-    if (!view_.CountFile.empty()) count = window_.ReadOneItem(CountFileNo, view_.CountFile);
+    if (!view_.AllFormats) count = window_.ReadOneItem(CountFileNo, view_.Keys.CountFile);
     if (count != "0") return false;
     Warn(view_.NotSortedTitle, view_.NotSortedText);
     window_.cmdReset_Click();
     return true;
   }
 
-  // False where the view is over before it began. Without a key the step goes on with the record number that there is.
+  // False if the view was not opened. Without a key the step continues with ScanRecNo.
   bool Open(bool& has_key) {
     if (window_.KeyFilePos == 0) {
-      window_.OpenKeyFile(view_.KeyFile);
-      if (view_.Empty != WhenEmpty::GoesOn && window_.Files.Length(KeyFileNo) == 0) {
-        SayEmpty();
+      window_.OpenKeyFile(view_.Keys.Name);
+      if (view_.Empty != WhenEmpty::Continue && window_.Files.Length(KeyFileNo) == 0) {
+        ReportEmpty();
         return false;
       }
     }
-    window_.ReopenKeyFile(view_.KeyFile);
+    window_.ReopenKeyFile(view_.Keys.Name);
     has_key = window_.CountKeys() >= 1;
     window_.KeyFilePos = 1;
     return true;
   }
 
-  void SayEmpty() {
+  void ReportEmpty() {
     if (view_.Empty == WhenEmpty::PlainBoxAndReset) {
       window_.Desk.MessageBox(forms::Icon::None, "", view_.EmptyText);
       window_.EditMode = 0;
@@ -117,9 +165,9 @@ class ViewStep {
 
   // False at the end of the view.
   bool TakeKey() {
-    window_.ReopenKeyFile(view_.KeyFile);
+    window_.ReopenKeyFile(view_.Keys.Name);
     window_.ReadKeyPastBlank();
-    if (window_.PastLastKey(browse::KeyLength)) {
+    if (window_.PastLastKey(store::KeyLength)) {
       window_.Desk.Beep();
       if (view_.AllFormats) window_.ViewState = 0;
       Warn(view_.EndTitle, view_.EndText);
@@ -138,12 +186,13 @@ class ViewStep {
     window_.RecordFound = 0;
     window_.ReadRecord(window_.ScanRecNo);
     window_.CurrentRecNo = window_.ScanRecNo;
-    if (view_.AllFormats && window_.txtFormat.Text() == "V") window_.txtFormat.SetText("VHS");
+    bool letter_in_box = window_.txtFormat.Text() == store::FormatVHS;
+    if (view_.AllFormats && letter_in_box) window_.txtFormat.SetText(store::VHSWord);
     window_.ShowRecord();
     if (TestAfterShow()) window_.Show();
   }
 
-  // False where the view has been reset.
+  // False if the view has been reset.
   bool TestAfterShow() {
     bool past = window_.PastLastKey(view_.AfterShowDivisor);
     if (past) window_.Desk.Beep();

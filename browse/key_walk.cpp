@@ -1,5 +1,5 @@
-// What all walks along a key file share: reading the key at KeyFilePos, the end of the keys, and the number that a key
-// leads to.
+// What all walks along a key file share: reading the key at KeyFilePos, the end of the keys, and the record number in a
+// key.
 #include "browse/key_walk.h"
 
 #include <utility>
@@ -7,17 +7,17 @@
 #include "runtime/checked_int.h"
 
 void frmPage1::ReadKey() {
-  std::string key = runtime::Fixed(KeyRecord, browse::KeyLength);
+  std::string key = runtime::Fixed(KeyRecord, store::KeyLength);
   if (Files.Get(KeyFileNo, KeyFilePos, key.data())) KeyRecord = key;
 }
 
-// Before the first key of a run has been read there is nothing that could be blank.
+// No key read yet: not blank.
 bool frmPage1::KeyIsBlank() const {
-  std::string_view title = std::string_view(KeyRecord).substr(0, browse::KeyTitleWidth);
+  std::string_view title = std::string_view(KeyRecord).substr(0, store::KeyTitleWidth);
   return !title.empty() && title.find_first_not_of(' ') == std::string_view::npos;
 }
 
-// One blank key is passed over, a second one in a row is taken as it stands.
+// Skips one blank key; a second one in a row is taken as it is.
 void frmPage1::ReadKeyPastBlank() {
   ReadKey();
   if (!KeyIsBlank()) return;
@@ -25,28 +25,28 @@ void frmPage1::ReadKeyPastBlank() {
   ReadKey();
 }
 
-// Without rounding: a file with a part of a key at its end has no end.
+// Without rounding, so never true if the file ends in a partial key.
 bool frmPage1::PastLastKey(int key_length) {
   return static_cast<double>(Files.Length(KeyFileNo)) / key_length + 1 == static_cast<double>(KeyFilePos);
 }
 
 std::int16_t frmPage1::CountKeys() {
-  return runtime::RoundToInt16(static_cast<double>(Files.Length(KeyFileNo)) / browse::KeyLength);
+  return runtime::RoundToInt16(static_cast<double>(Files.Length(KeyFileNo)) / store::KeyLength);
 }
 
-// EditMode is left with the position of "49" in the key: a habit of every reader of keys.
+// Kept on purpose: reading a key leaves the position of "49" in EditMode.
 void frmPage1::TakeScanRecNo() {
   EditMode = static_cast<std::int64_t>(runtime::Position(KeyRecord, "49"));
   ScanRecNo = runtime::RoundToInt32(
-      runtime::NumericValue(runtime::Fixed(KeyRecord, browse::KeyLength).substr(browse::KeyTitleWidth)));
+      runtime::NumericValue(runtime::Fixed(KeyRecord, store::KeyLength).substr(store::KeyTitleWidth)));
 }
 
 void frmPage1::OpenKeyFile(std::string_view name) {
   if (std::exchange(KeyFileLeftBySort, false)) Files.Close(KeyFileNo);
-  Files.OpenRandom(KeyFileNo, name, browse::KeyLength);
+  Files.OpenRandom(KeyFileNo, name, store::KeyLength);
 }
 
-// A key without a number leads nowhere: the focus goes to the title, and the walk is over.
+// A key without a number ends the walk, with the focus on the title.
 bool frmPage1::TakeScanRecNoOrStop() {
   TakeScanRecNo();
   if (ScanRecNo != 0) return true;
@@ -54,8 +54,7 @@ bool frmPage1::TakeScanRecNoOrStop() {
   return false;
 }
 
-// A search or a report may have closed the key file of a view that goes on; a list and a view may take it from each
-// other.
+// A search or a report may have closed the key file of the open view; a list and a view may take it from each other.
 void frmPage1::ReopenKeyFile(std::string_view name) {
   if (Files.IsOpen(KeyFileNo, name) && !KeyFileLeftBySort) return;
   Files.Close(KeyFileNo);

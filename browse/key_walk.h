@@ -1,11 +1,10 @@
-// The key files as the views walk them: 40 characters of title, 7 of record number, a line end.
+// What the views and lists of browse/ share besides the steps along a key file, which frmPage1 declares.
 #pragma once
 
 #include "screen/frmPage1.h"
+#include "store/key_file.h"
 
 namespace browse {
 
-inline constexpr int KeyLength = 49;
-inline constexpr int KeyTitleWidth = 40;
 
 }  // namespace browse

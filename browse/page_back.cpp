@@ -1,9 +1,36 @@
-// Twenty rows back. The page on the screen holds the rows next to KeyFilePos, so that the first click on a list counts
-// its way past them; the later ones write from the first match on.
+// Twenty rows back. KeyFilePos is at the end of the page on the screen, so the first Back of a list counts past its
+// rows; the later ones write from the first match on.
 #include "browse/key_walk.h"
 #include "store/film_codes.h"
 
 using store::FilmField;
+
+namespace {
+
+// A blank key moves the position back once more without reading; only at the top is key 1 read in its place.
+void ReadKeyBackward(frmPage1& window) {
+  window.KeyFilePos -= 1;
+  window.ReadKey();
+  if (!window.KeyIsBlank()) return;
+  window.KeyFilePos -= 1;
+  if (window.KeyFilePos != 0) return;
+  window.KeyFilePos = 1;
+  window.ReadKey();
+}
+
+void LeaveListAtTop(frmPage1& window) {
+  window.Desk.Beep();
+  if (window.KeyFilePos == 0) window.KeyFilePos = 1;
+  window.Desk.MessageBox(forms::Icon::Warning, "", "Top of file encountered!");
+  window.Files.Close(KeyFileNo);
+  window.KeyFilePos = 0;
+  window.ListShown = 0;
+  window.cmdPrev20.Hide();
+  for (forms::Button* button : {&window.cmdPrevious, &window.cmdReset, &window.cmdNext}) button->Show();
+  window.cmdReset_Click();
+}
+
+}  // namespace
 
 void frmPage1::cmdPrev20_GotFocus() { HelpContext = cmdPrevious.Ids.HelpId; }
 
@@ -14,17 +41,17 @@ void frmPage1::cmdPrev20_Click() {
     ReopenKeyFile(ListKeyFile);
   }
   KeyFilePos -= 1;
-  if (PageMode == 4) {
+  if (PageMode == screen::ListContinues) {
     KeyFilePos += 1;
-    RowCursor = 19;
+    RowCursor = screen::ListRows - 1;
   }
   for (;;) {
     MatchPos = 0;
     if (KeyFilePos == 1) {
-      ReachTopOfList();
+      LeaveListAtTop(*this);
       return;
     }
-    ReadKeyBackward();
+    ReadKeyBackward(*this);
     if (!TakeScanRecNoOrStop()) return;
     ReadRecord(ScanRecNo);
     ShowRecord();
@@ -33,9 +60,9 @@ void frmPage1::cmdPrev20_Click() {
       RecordFound = 1;
       BackCount += 1;
     }
-    if (BackCount < 20 || (BackCount > 20 && MatchPos == 0)) continue;
-    bool first_of_all = BackCount == 20;
-    if (first_of_all && MatchPos == 1) BackCount = 21;
+    if (BackCount < screen::ListRows || (BackCount > screen::ListRows && MatchPos == 0)) continue;
+    bool first_of_all = BackCount == screen::ListRows;
+    if (first_of_all && MatchPos == 1) BackCount = screen::ListRows + 1;
     if (!first_of_all) {
       MatchPos = 0;
       ScanRecNo -= 1;
@@ -43,32 +70,9 @@ void frmPage1::cmdPrev20_Click() {
     if (auto word = store::WordOf(store::Formats, CurrentFilm.Get(FilmField::Format))) txtFormat.SetText(*word);
     WriteListRow(RowCursor);
     if (RowCursor == 0) {
-      RowCursor = 20;
+      RowCursor = screen::ListRows;
       return;
     }
     RowCursor -= 1;
   }
-}
-
-// A blank key moves the position once more but is not read over: only at the top is key 1 read in its place.
-void frmPage1::ReadKeyBackward() {
-  KeyFilePos -= 1;
-  ReadKey();
-  if (!KeyIsBlank()) return;
-  KeyFilePos -= 1;
-  if (KeyFilePos != 0) return;
-  KeyFilePos = 1;
-  ReadKey();
-}
-
-void frmPage1::ReachTopOfList() {
-  Desk.Beep();
-  if (KeyFilePos == 0) KeyFilePos = 1;
-  Desk.MessageBox(forms::Icon::Warning, "", "Top of file encountered!");
-  Files.Close(KeyFileNo);
-  KeyFilePos = 0;
-  ListShown = 0;
-  cmdPrev20.Hide();
-  for (forms::Button* button : {&cmdPrevious, &cmdReset, &cmdNext}) button->Show();
-  cmdReset_Click();
 }

@@ -1,4 +1,4 @@
-// The twenty-row lists: a page of films at a time, in key order. Every list goes on by way of View All Genre, whose
+// The twenty-row lists: a page of films at a time, in key order. Every list continues through View All Genre, whose
 // empty filter passes every film.
 #include "browse/key_walk.h"
 
@@ -6,29 +6,73 @@ using store::FilmField;
 
 namespace {
 
-// Whether a list looks at the genre of a film, and where the genre comes from: it takes every film unseen, it tests
-// with an empty filter that every film passes, or it asks.
+// What a list does with the genre of a film: ignores it, tests it with an empty filter that always passes, or asks for
+// the genre.
 enum class Filter { None, Empty, Asked };
 
 // Everything in which the five lists differ.
 struct TwentyRowList {
   std::string_view Kind;
-  std::string_view KeyFile;
-  std::string_view CountFile;
+  const store::KeyFile& Keys;
   screen::Text screen::RunState::*Count;
   std::string_view CanView;  // how the not-sorted text ends
   std::string_view NotSortedTitle;
   std::string_view Heading;
   Filter By;
-  bool GoesOnUnsorted;  // the box is shown all the same
+  bool OpensUnsorted;  // continues after the not-sorted message
 };
 
 // clang-format off
-constexpr TwentyRowList AllTitles = { "Title", "Titlepra.Dat", "Titlepra", &frmPage1::TitleCount, "can viewed!",    "Reelora Prima Print Program", "", Filter::None, false };
-constexpr TwentyRowList AllDVD    = { "DVD",   "DVDpra.Dat",   "DVDpra",   &frmPage1::DVDCount,   "can viewed!",    "Reelora Prima",               "    Viewing All DVD Titles", Filter::Empty, true };
-constexpr TwentyRowList AllLaser  = { "Laser", "Laserpra.Dat", "Laserpra", &frmPage1::LaserCount, "can be viewed!", "Reelora Prima",               "    Viewing All Titles", Filter::Empty, false };
-constexpr TwentyRowList AllVHS    = { "VHS",   "VHSpra.Dat",   "VHSpra",   &frmPage1::VHSCount,   "can be viewed!", "Reelora Prima",               "    Viewing All Titles", Filter::Empty, false };
-constexpr TwentyRowList AllGenre  = { "Genre", "Titlepra.Dat", "Titlepra", &frmPage1::TitleCount, "can viewed!",    "Reelora Prima Print Program", "    Viewing Files For Genre", Filter::Asked, false };
+constexpr TwentyRowList AllTitles = {
+  .Kind           = screen::TitleView,
+  .Keys           = store::TitleKeys,
+  .Count          = &frmPage1::TitleCount,
+  .CanView        = "can viewed!",
+  .NotSortedTitle = "Reelora Prima Print Program",
+  .Heading        = "",
+  .By             = Filter::None,
+  .OpensUnsorted  = false,
+};
+constexpr TwentyRowList AllDVD = {
+  .Kind           = screen::DVDView,
+  .Keys           = store::DVDKeys,
+  .Count          = &frmPage1::DVDCount,
+  .CanView        = "can viewed!",
+  .NotSortedTitle = "Reelora Prima",
+  .Heading        = "    Viewing All DVD Titles",
+  .By             = Filter::Empty,
+  .OpensUnsorted  = true,
+};
+constexpr TwentyRowList AllLaser = {
+  .Kind           = screen::LaserView,
+  .Keys           = store::LaserKeys,
+  .Count          = &frmPage1::LaserCount,
+  .CanView        = "can be viewed!",
+  .NotSortedTitle = "Reelora Prima",
+  .Heading        = "    Viewing All Titles",
+  .By             = Filter::Empty,
+  .OpensUnsorted  = false,
+};
+constexpr TwentyRowList AllVHS = {
+  .Kind           = screen::VHSView,
+  .Keys           = store::VHSKeys,
+  .Count          = &frmPage1::VHSCount,
+  .CanView        = "can be viewed!",
+  .NotSortedTitle = "Reelora Prima",
+  .Heading        = "    Viewing All Titles",
+  .By             = Filter::Empty,
+  .OpensUnsorted  = false,
+};
+constexpr TwentyRowList AllGenre = {
+  .Kind           = screen::GenreView,
+  .Keys           = store::TitleKeys,
+  .Count          = &frmPage1::TitleCount,
+  .CanView        = "can viewed!",
+  .NotSortedTitle = "Reelora Prima Print Program",
+  .Heading        = "    Viewing Files For Genre",
+  .By             = Filter::Asked,
+  .OpensUnsorted  = false,
+};
 
 constexpr std::string_view GenrePrompt =
     "Enter Genre To Search:  Use 2 Letter Abreviation\n\rExamples\n\rAA  Action Adventure \n\rDR  Drama\n\rCO  Comedy\n\rupper or lower case";
@@ -43,13 +87,13 @@ class ListPage {
   void Run() {
     if (TakesAll()) window_.cmdNext.Hide();
     if (list_.By != Filter::Asked) window_.GenreFilter = "";
-    window_.ViewState = 1;
-    window_.SearchState = 1;
+    window_.ViewState = screen::ViewStarted;
+    window_.SearchState = screen::TextSearch;
     window_.ListShown = 1;
     window_.ListShownAlso = 1;
     if (NotSorted()) return;
-    window_.ListState = 2;
-    if (window_.PageMode == 4) {
+    window_.ListState = screen::ListOpened;
+    if (window_.PageMode == screen::ListContinues) {
       window_.RowCursor = 0;
       window_.ReopenKeyFile(window_.ListKeyFile);
     } else if (!Open()) {
@@ -61,13 +105,13 @@ class ListPage {
  private:
   bool TakesAll() const { return list_.By == Filter::None; }
 
-  // A list that goes on after the box ends at its first key.
+  // True if the list does not open. One that opens all the same ends at its first key.
   bool NotSorted() {
-    window_.*list_.Count = window_.ReadOneItem(CountFileNo, list_.CountFile);
+    window_.*list_.Count = window_.ReadOneItem(CountFileNo, list_.Keys.CountFile);
     if (window_.*list_.Count != "0") return false;
     std::string text = "Records have not been sorted.  Records must be sorted before records ";
     window_.Desk.MessageBox(forms::Icon::Warning, list_.NotSortedTitle, text.append(list_.CanView));
-    if (list_.GoesOnUnsorted) return false;
+    if (list_.OpensUnsorted) return false;
     window_.cmdReset_Click();
     return true;
   }
@@ -104,15 +148,15 @@ class ListPage {
     }
     window_.RecordFound = 0;
     window_.KeyFilePos = 1;
-    window_.ListKeyFile = list_.KeyFile;
-    window_.OpenKeyFile(list_.KeyFile);
+    window_.ListKeyFile = list_.Keys.Name;
+    window_.OpenKeyFile(window_.ListKeyFile);
     return true;
   }
 
-  // The limit is looked at once a page; behind it the first row takes the record number that there is.
+  // The limit is checked once per page; past it the first row shows the film of ScanRecNo.
   void Fill() {
     std::int16_t limit =
-        runtime::RoundToInt16(static_cast<double>(window_.Files.Length(KeyFileNo)) / browse::KeyLength + 1);
+        runtime::RoundToInt16(static_cast<double>(window_.Files.Length(KeyFileNo)) / store::KeyLength + 1);
     bool read_key = window_.KeyFilePos <= limit;
     while (window_.RowCursor < FullPage) {
       if (read_key && !TakeKey()) return;
@@ -128,9 +172,9 @@ class ListPage {
     window_.cmdPrev20.Show();
   }
 
-  // False where the list is over.
+  // False if the list is over.
   bool TakeKey() {
-    if (window_.NavDirection == 1 && window_.KeyFilePos == 0) {
+    if (window_.NavDirection == screen::Backward && window_.KeyFilePos == 0) {
       window_.Desk.Beep();
       window_.Desk.MessageBox(forms::Icon::Warning, "", "Top of file encountered!");
       window_.CurrentRecNo = 1;
@@ -138,9 +182,9 @@ class ListPage {
       if (TakesAll()) window_.cmdNew.Show();
       return false;
     }
-    if (window_.PastLastKey(browse::KeyLength)) window_.Desk.Beep();
+    if (window_.PastLastKey(store::KeyLength)) window_.Desk.Beep();
     window_.ReadKeyPastBlank();
-    if (window_.PastLastKey(browse::KeyLength)) {
+    if (window_.PastLastKey(store::KeyLength)) {
       End();
       return false;
     }
@@ -157,9 +201,9 @@ class ListPage {
     window_.cmdReset_Click();
   }
 
-  // False where the film does not pass the filter, KeyFilePos having moved on (or, walking back, back).
+  // False if the film does not pass the filter; KeyFilePos has moved on (back when walking back).
   bool TakeFilm() {
-    if (!TakesAll() && window_.NavDirection != 1) {
+    if (!TakesAll() && window_.NavDirection != screen::Backward) {
       window_.ReadRecord(window_.ScanRecNo);
       window_.MatchGenre();
       if (window_.MatchPos < 1) {
@@ -195,7 +239,7 @@ void frmPage1::mnualllas_Click() { ListPage(*this, AllLaser).Run(); }
 void frmPage1::mnuAllVHS_Click() { ListPage(*this, AllVHS).Run(); }
 void frmPage1::mnuFindAllGenre_Click() { ListPage(*this, AllGenre).Run(); }
 
-// Where the filter stands in the genre of the current film, from 1; an empty filter stands at 1 in every genre.
+// Position of the filter in the genre of the current film, from 1; an empty filter is at 1 in every genre.
 void frmPage1::MatchGenre() {
   std::string genre = runtime::Upper(runtime::Trim(CurrentFilm.Get(FilmField::Genre)));
   MatchPos = static_cast<std::int64_t>(runtime::Position(genre, GenreFilter));
@@ -209,11 +253,11 @@ void frmPage1::WriteListRow(std::int64_t row) {
   Text3[row].SetText(runtime::Trim(txtFormat.Text()));
 }
 
-// The 1 is added on a short page too, and stays.
+// KeyFilePos is advanced even on a short page.
 void frmPage1::cmdNext20_Click() {
   KeyFilePos += 1;
-  if (ListState != 2 || RowCursor != FullPage) return;
-  PageMode = 4;
+  if (ListState != screen::ListOpened || RowCursor != FullPage) return;
+  PageMode = screen::ListContinues;
   RowCursor = 0;
   mnuFindAllGenre_Click();
 }

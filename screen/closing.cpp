@@ -1,4 +1,4 @@
-// The ways out: the close box and Exit.
+// Leaving the program by the close box or Exit.
 #include "screen/frmPage1.h"
 
 namespace {

@@ -1,5 +1,5 @@
-// The rules of the six coded boxes, which run whenever the text of the box changes, whoever changes it, and keep the
-// word in the box and the letter in the record together. A rule that sets the text again is run again inside itself.
+// The rules of the six coded boxes: whoever changes the text of a box, its rule keeps the word in the box and the
+// letter in the record together. Setting the text inside a rule runs it recursively.
 #include "screen/frmPage1.h"
 #include "store/film_codes.h"
 
@@ -7,18 +7,18 @@ using store::FilmField;
 
 void frmPage1::txtFormat_Change() {
   HelpContext = txtFormat.Ids.TopicId;
-  if (EditMode == 1 && txtFormat.Text() == "V") {
-    txtFormat.SetText("VHS");
+  if (EditMode == 1 && txtFormat.Text() == store::FormatVHS) {
+    txtFormat.SetText(store::VHSWord);
     txtCLV1.Disable();
     txtCassNo.Enable();
   }
-  if (EditMode == 1 && txtFormat.Text() == "L") {
-    txtFormat.SetText("Laser");
+  if (EditMode == 1 && txtFormat.Text() == store::FormatLaser) {
+    txtFormat.SetText(store::LaserWord);
     txtCLV1.Enable();
     txtCassNo.Disable();
   }
-  if (txtFormat.Text() == "D") {
-    txtFormat.SetText("DVD");
+  if (txtFormat.Text() == store::FormatDVD) {
+    txtFormat.SetText(store::DVDWord);
     txtCLV1.Disable();
     txtCassNo.Disable();
   }
@@ -33,15 +33,15 @@ void frmPage1::txtFormat_Change() {
   if (EditMode == 0) {
     if (auto word = store::WordOf(store::Formats, CurrentFilm.Get(FilmField::Format))) txtFormat.SetText(*word);
   }
-  if (txtFormat.Text() == "Laser") {
+  if (txtFormat.Text() == store::LaserWord) {
     txtCassNo.Disable();
     txtCLV1.Enable();
   }
-  if (txtFormat.Text() == "VHS") txtCassNo.Enable();
-  if (txtFormat.Text() == "DVD" && EditMode == 1) txtCassNo.Disable();
+  if (txtFormat.Text() == store::VHSWord) txtCassNo.Enable();
+  if (txtFormat.Text() == store::DVDWord && EditMode == 1) txtCassNo.Disable();
 }
 
-// The record's letter by the word in the box; any other text leaves it.
+// Stores the letter of the word in the box; other texts leave the record unchanged.
 void frmPage1::StoreFormatLetter() {
   if (auto letter = store::CodeOf(store::Formats, txtFormat.Text())) CurrentFilm.Set(FilmField::Format, *letter);
 }
@@ -55,25 +55,25 @@ void frmPage1::txtLetter_Change() {
   if (auto word = store::WordOf(store::Aspects, letter)) txtLetter.SetText(*word);
 }
 
-// The box always goes back to the stored letters, so that nothing typed into it stays.
+// The box always returns to the stored mode, so that nothing typed into it stays.
 void frmPage1::txtCLV1_Change() {
   txtCLV1.SetText(CurrentFilm.Get(FilmField::CLV1));
   CurrentFilm.Set(FilmField::CLV1, txtCLV1.Text());
-  if (txtFormat.Text() != "Laser") txtCLV1.Disable();
+  if (txtFormat.Text() != store::LaserWord) txtCLV1.Disable();
   std::string chosen = List5.Selected();
-  if (chosen != "CLV" && chosen != "CAV") return;
+  if (!store::IsOneOf(store::DiscModes, chosen)) return;
   CurrentFilm.Set(FilmField::CLV1, chosen);
   txtCLV1.SetText(chosen);
 }
 
 void frmPage1::txtColor1_Change() {
   std::string chosen = List6.Selected();
-  if (chosen != "Color" && chosen != "B & W") return;
+  if (!store::IsOneOf(store::ColourWords, chosen)) return;
   CurrentFilm.Set(FilmField::Color1, chosen);
   txtColor1.SetText(chosen);
 }
 
-// A code outside the table leaves the name of the film before.
+// An unknown code keeps the previous name.
 void frmPage1::txtGenre_Change() {
   if (txtGenre.Text() == "  ") txtGenreList.SetText(std::string(16, ' '));
   if (const store::GenreRow* genre = store::GenreOf(txtGenre.Text())) txtGenreList.SetText(genre->Name);

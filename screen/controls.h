@@ -1,6 +1,5 @@
 // Every control of the record screen, one row each: name, ids (tab position, help id, topic id), look, place on the
-// grid of 8655 by 7200 twips. Later rows lie over earlier ones. The story names of the star fields carry the index of
-// their control arrays.
+// grid of 8655 by 7200 twips. Later rows overlap earlier ones. Stories use the control-array index of the star fields.
 #pragma once
 
 #include <array>
@@ -72,6 +71,7 @@ class GridColumn {
 };
 
 // clang-format off
+// The controls of both pages.
 struct PageControls : forms::Window {
   using forms::Window::Window;
 

@@ -1,9 +1,33 @@
-// Edit opens the film on the screen for changes; Reset is the way back to a known state from anywhere.
+// Edit opens the film on the screen for changes; Reset returns from anywhere to a known state.
 #include "screen/frmPage1.h"
+#include "store/film_codes.h"
+
+namespace {
+
+// An abandoned new film's slot is given back after Yes, or after a mere click on the colour box, not after No.
+void SettleOpenWork(frmPage1& window) {
+  if (window.EditMode == 0 && window.NewMode == 0 && window.ClearOnShow == 0) return;
+  if (window.EditMode == 1 || window.NewMode == 1) {
+    window.PromptText = "You have not saved your work.  To save it now hit Yes.";
+    bool yes = window.Ask(window.PromptText) == forms::Answer::Yes;
+    window.EditMode = 0;
+    window.NewMode = 0;
+    window.ClearOnShow = 0;
+    if (!yes) return;
+    window.SaveRecord();
+  }
+  if (window.NewPending == 1) window.CountRollback = 1;
+  window.ViewKind = "";
+  window.KeyFilePos = 0;
+  window.NavDirection = screen::Forward;
+  window.NavFlag2 = 0;
+}
+
+}  // namespace
 
 void frmPage1::cmdEdit_Click() {
   HelpContext = cmdEdit.Ids.HelpId;
-  if (ListState == 1 || ListState == 2) return;
+  if (ListState == screen::ListOpened) return;
   lblHead.Hide();
   lblSave.Hide();
   EditMode = 1;
@@ -11,10 +35,10 @@ void frmPage1::cmdEdit_Click() {
   cmdSave.Enable();
   mnuSave.Enable();
   lblNotes1.Hide();
-  if (txtFormat.Text() == "Laser") txtCassNo.Disable();
+  if (txtFormat.Text() == store::LaserWord) txtCassNo.Disable();
   ShowRecord();
-  if (txtFormat.Text() == "Laser" || txtFormat.Text() == "DVD") txtCassNo.Disable();
-  if (txtFormat.Text() == "VHS") txtCassNo.Enable();
+  if (txtFormat.Text() == store::LaserWord || txtFormat.Text() == store::DVDWord) txtCassNo.Disable();
+  if (txtFormat.Text() == store::VHSWord) txtCassNo.Enable();
   txtCLV1.Show();
   txtColor1.Show();
   lblSorting.Show();
@@ -38,18 +62,18 @@ void frmPage1::cmdReset_Click() {
   optnoteson.Show();
   cmdPrevious.Show();
   cmdNew.Show();
-  ViewState = 0;
+  ViewState = screen::ViewHome;
   PageMode = 0;
   PrintPending = 0;
   if (NewMode == 0) optnoteson.Enable();
-  SettleOpenWork();
+  SettleOpenWork(*this);
   ClearRecord();
   Files.Close(KeyFileNo);
   ViewKind = "";
   CurrentRecNo = 1;
   ReadRecord(CurrentRecNo);
   ShowRecord();
-  if (ViewState == 0) ShowNewHint();
+  if (ViewState == screen::ViewHome) ShowNewHint();
   optNotesoff_Click();
   optNotesoff.Select();
   optNotesoff.Show();
@@ -59,23 +83,4 @@ void frmPage1::cmdReset_Click() {
   for (screen::GridColumn* column : {&Text1, &Text2, &Text3}) {
     for (forms::TextBox& row : *column) row.Hide();
   }
-}
-
-// Only Yes, or a click on the colour box alone, gives back the count of a new film that is given up; No does not.
-void frmPage1::SettleOpenWork() {
-  if (EditMode == 0 && NewMode == 0 && ClearOnShow == 0) return;
-  if (EditMode == 1 || NewMode == 1) {
-    PromptText = "You have not saved your work.  To save it now hit Yes.";
-    bool yes = Ask(PromptText) == forms::Answer::Yes;
-    EditMode = 0;
-    NewMode = 0;
-    ClearOnShow = 0;
-    if (!yes) return;
-    SaveRecord();
-  }
-  if (NewPending == 1) CountRollback = 1;
-  ViewKind = "";
-  KeyFilePos = 0;
-  NavDirection = 0;
-  NavFlag2 = 0;
 }

@@ -1,5 +1,4 @@
-// Entering the fields: a film in view refuses on the way in, an open one is typed into, and the focus is steered by the
-// format.
+// Entering a field: refused in view; otherwise the format decides what comes next.
 #include "screen/auto_texts.h"
 #include "screen/entry_fields.h"
 #include "screen/frmPage1.h"
@@ -11,7 +10,7 @@ namespace {
 constexpr std::string_view RefusalText = "Hit edit to change.";
 }
 
-// What the GotFocus of every field does; those of some fields do more.
+// Common part of GotFocus.
 void frmPage1::EnterField(const EntryField& field) {
   bool in_view = EditMode == 0 && (field.Refuse == screen::Guard::InView || NewMode == 0);
   if (field.Refuse != screen::Guard::None && in_view) Refuse(field.Title);
@@ -27,7 +26,7 @@ void frmPage1::Refuse(std::string_view title) {
   cmdSave.SetFocus();
 }
 
-// The refusal on a click, after which the focus stays.
+// Refuses a click; the focus stays.
 void frmPage1::RefuseClick(std::string_view title) {
   if (EditMode == 0) Desk.MessageBox(forms::Icon::Warning, title, RefusalText);
 }
@@ -53,7 +52,8 @@ void frmPage1::txtTitle_Click() {
   if (EditMode == 0) Refuse("Title");
 }
 
-void frmPage1::txtTitle_MouseUp() { HelpContext = 260; }
+// Selects the topic of Back, not the field's own.
+void frmPage1::txtTitle_MouseUp() { HelpContext = cmdPrevious.Ids.HelpId; }
 
 void frmPage1::txtLabel_GotFocus() {
   EnterField(&frmPage1::txtLabel);
@@ -77,11 +77,11 @@ void frmPage1::txtYear_Change() {
   for (forms::ListBox* list : {&List4, &List5, &List6}) list->Hide();
 }
 
-// The fork of a new film: a tape asks for its number, discs go straight to the aspect.
+// A new film: tapes go to the cassette number, discs to the aspect.
 void frmPage1::txtYear_LostFocus() {
   if (NewMode == 1) {
-    if (txtFormat.Text() == "VHS") txtCassNo.SetFocus();
-    if (txtFormat.Text() == "DVD" || txtFormat.Text() == "Laser") txtLetter_Click();
+    if (txtFormat.Text() == store::VHSWord) txtCassNo.SetFocus();
+    if (txtFormat.Text() == store::DVDWord || txtFormat.Text() == store::LaserWord) txtLetter_Click();
   }
   if (EditMode == 1) List4.Hide();
 }

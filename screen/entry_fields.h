@@ -1,5 +1,4 @@
-// The fields of both pages on entry: when one refuses in view, under which title, and when its text is left-aligned for
-// typing.
+// The fields of both pages on entry: when a field refuses, its message title, when it is left-aligned.
 #pragma once
 
 #include <string_view>
@@ -56,7 +55,7 @@ inline constexpr EntryField EntryFields[] = {
 };
 // clang-format on
 
-// What the message line says about the end of a new film, by the two settings.
+// The message line on page 2 of a new film, by the two settings.
 inline constexpr std::string_view AutoSaveNote =
     "When the last text box is filled in and the tab key pressed,  this record will be auto saved and sorted.";
 inline constexpr std::string_view AutoSaveOffNote =

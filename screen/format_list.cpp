@@ -10,13 +10,14 @@ void frmPage1::txtFormat_GotFocus() {
   if (EditMode == 1 || NewMode == 1) List3.Show();
   if (EditMode == 1) {
     List3.SetFocus();
-    List3.Add({"DVD", "Laser", "VHS"});
+    List3.Add({store::DVDWord, store::LaserWord, store::VHSWord});
     List3.Select(0);
   }
   if (EditMode != 1 || ClearOnShow != 0) return;
-  if (txtFormat.Text() == "Laser") CurrentFilm.Set(FilmField::Format, "L");
-  // A DVD, too, stands as V in the record until the save or a choice puts it right.
-  if (txtFormat.Text() == "VHS" || txtFormat.Text() == "DVD") CurrentFilm.Set(FilmField::Format, "V");
+  if (txtFormat.Text() == store::LaserWord) CurrentFilm.Set(FilmField::Format, store::FormatLaser);
+  // Stores V for a DVD too, until Save or a choice.
+  if (txtFormat.Text() == store::VHSWord || txtFormat.Text() == store::DVDWord)
+    CurrentFilm.Set(FilmField::Format, store::FormatVHS);
 }
 
 void frmPage1::txtFormat_Click() {
@@ -29,8 +30,8 @@ void frmPage1::txtFormat_MouseMove() {
 }
 
 void frmPage1::txtFormat_LostFocus() {
-  if (txtFormat.Text() == "Laser") txtCLV1.Enable();
-  if (txtFormat.Text() == "VHS" || txtFormat.Text() == "DVD") txtCLV1.Disable();
+  if (txtFormat.Text() == store::LaserWord) txtCLV1.Enable();
+  if (txtFormat.Text() == store::VHSWord || txtFormat.Text() == store::DVDWord) txtCLV1.Disable();
   if (NewMode == 1) StoreFormatLetter();
 }
 
@@ -62,7 +63,7 @@ void frmPage1::List3_LostFocus() {
   if (ClearOnShow == 0) cmdSave.SetFocus();
 }
 
-// The box is left alone when nothing is selected.
+// If nothing is selected, the box stays as it is.
 void frmPage1::TakeSelected(const forms::ListBox& list, forms::TextBox& box) {
   if (list.ListIndex() >= 0) box.SetText(list.Selected());
 }

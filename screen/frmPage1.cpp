@@ -1,9 +1,15 @@
-// The record screen put together: the wiring of its handlers, and what they share.
+// Puts the record screen together: wires its handlers and holds what they share.
 #include "screen/frmPage1.h"
 
 #include "forms/window_stack.h"
 #include "screen/record_boxes.h"
 #include "store/master_file.h"
+
+namespace {
+// Help topics of the bare window.
+constexpr int Page1Topic = 150;
+constexpr int Page2Topic = 180;
+}  // namespace
 
 frmPage1::frmPage1(forms::WindowStack& windows, runtime::Files& files)
     : PageControls(windows, "frmPage1", "Form1", screen::GridWidth, screen::GridHeight),
@@ -26,7 +32,7 @@ POINTER_HANDLERS(SELECT_HELP_TOPIC)
 #undef SELECT_HELP_TOPIC
 
 void frmPage1::frmPage1_MouseMove() {
-  HelpContext = PageFlag == 0 ? 150 : 180;
+  HelpContext = PageFlag == screen::OnPage1 ? Page1Topic : Page2Topic;
   lblSave.Hide();
 }
 

@@ -1,4 +1,4 @@
-// The record screen: its controls, its run state and its handlers, each under the folder that holds its body.
+// The record screen: its controls, its run state, its handlers, and the steps that several files share.
 #pragma once
 
 #include <span>
@@ -15,13 +15,9 @@
 namespace screen {
 struct EntryField;
 struct PagePair;
-struct SortPass;
 }  // namespace screen
-namespace sort {
-class Sorter;
-}  // namespace sort
 
-// The files by number that all handlers share.
+// The numbers of the files that the handlers share.
 inline constexpr int KeyFileNo = 2;
 inline constexpr int CountFileNo = 3;
 inline constexpr int ColourFileNo = 4;
@@ -35,11 +31,11 @@ struct frmPage1 : screen::PageControls, screen::RunState {
 
   runtime::Files& Files;
   forms::Desk& Desk;
-  // One for the window's run: a report that ends no document leaves its lines to the next.
+  // Shared: the lines of an unfinished report appear in the next.
   runtime::Printer Printer;
-  // The window that Load shows or hides as the flag file "Fo1" says; nullptr where there is none.
+  // The window that Load shows or hides as the flag file "Fo1" says; nullptr if there is none.
   forms::Window* frmQuickStart = nullptr;
-  // Opens the copy window; not set where there is none.
+  // Opens the copy window; not set if there is none.
   forms::Handler OpenCopyWindow;
 
 #define DECLARE_WINDOW_HANDLER(Event) void frmPage1_##Event();
@@ -52,17 +48,10 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   void SaveRecord();
 
   // Start and display.
-  void OpenCollection();
-  void ShowSetting(forms::TextBox& box, std::string_view setting, std::string_view on, std::string_view off);
   void ReadCounts();
   void ShowSavedCounts(std::string_view dvd_lead, std::string_view laser_lead, std::string_view vhs_lead);
-  void HideListsAndGrid();
-  void ShowHeading();
   void ShowNewHint();
-  void ShowFormatLetter();
-  void ShowAspect(std::string_view letters);
-  void ShowTrimmed(store::FilmField field);
-  std::string_view TrimField(store::FilmField field);
+  void ShowAspect();
   void ClearRecord();
   void ShowPage1();
   void ShowPage2();
@@ -73,24 +62,16 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   void ReadKey();
   bool KeyIsBlank() const;
   void ReadKeyPastBlank();
-  void ReadKeyBackward();
   bool PastLastKey(int key_length);
   std::int16_t CountKeys();
   void TakeScanRecNo();
   bool TakeScanRecNoOrStop();
-  // Opens a key file as number 2; what a sort run left open there is closed first, anything else stops with
-  // "File already open".
+  // Opens a key file as number 2. Closes one left there by a sort run; any other stops with "File already open".
   void OpenKeyFile(std::string_view name);
   // Makes it the open key file, unless it is that already.
   void ReopenKeyFile(std::string_view name);
-  void StepOn();
-  void StepBack();
   void MatchGenre();
   void WriteListRow(std::int64_t row);
-  void ReachTopOfList();
-  bool OpenGenreView(bool& has_key);
-  void ScanGenre(bool read_key);
-  bool TakeGenreKey();
 
   // Entry.
   void EnterField(const screen::EntryField& field);
@@ -101,33 +82,22 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   void ShowSaveReminder();
   void StoreFormatLetter();
   void TakeSelected(const forms::ListBox& list, forms::TextBox& box);
-  void TakeSelectedMode();
-  void TakeSelectedColour();
-  void OpenAspectList();
-  void OpenModeList();
-  void OpenColourList();
-  void TurnToPage2();
-  void MoveArticle();
-  bool FindSlot();
-  void SettleOpenWork();
-  void BlankFilm();
 
   // The sort run.
   void BeginSort();
   void MakePasses();
-  void MakePass(const screen::SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec, std::int32_t& Retcode);
 
   // Files and boxes.
   void ReadRecord(std::int64_t record);
   std::string ReadOneItem(int number, std::string_view file);
   forms::Answer Ask(std::string_view question);
 
-  // The colour dialog's own colour: what was taken in it or set by Default Colors last.
+  // Last colour chosen or defaulted.
   forms::Colour DialogColour = forms::Black;
   // A sort run has left its last key file open as number 2.
   bool KeyFileLeftBySort = false;
   // The key file that the twenty-row list was opened on; "" before the first list.
   std::string_view ListKeyFile;
-  // What was typed last into Find By File No.
+  // Last answer to Find By File No.
   std::string FileNoAnswer;
 };

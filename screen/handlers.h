@@ -1,6 +1,6 @@
 // Every handler of the record screen once, by the folder and the file that hold its body. H(cmdSave, Click) stands for
 // cmdSave_Click: frmPage1.h expands the lists to declare the handlers, frmPage1.cpp to wire them. So no handler is left
-// unwired or wired to another control; an entry made twice does not compile, one without a body does not link.
+// unwired or wired to another control; a second entry does not compile, one without a body does not link.
 #pragma once
 
 // The two things made of a list; the other windows wire theirs in the same way.

@@ -1,5 +1,5 @@
-// The end of a film's entry: leaving the last field saves and sorts by itself. The settings decide less than their
-// names say: Auto Save off stops it for a new film alone, and Auto Sort only steers what the screen shows afterwards.
+// Leaving the last field saves and sorts. The settings decide less than their names say: Auto Save off prevents this
+// only for a new film, and Auto Sort only decides what the screen shows afterwards.
 #include "screen/auto_texts.h"
 #include "screen/entry_fields.h"
 #include "screen/frmPage1.h"

@@ -1,8 +1,37 @@
-// New: a slot is found, the screen is blanked, the user stands on the title.
+// New finds a slot and blanks the screen; the focus goes to the title.
 #include "screen/frmPage1.h"
 #include "store/master_file.h"
 
 using store::FilmField;
+
+namespace {
+
+// Puts into ScanRecNo the first slot with a blank title, or one past the last. True if the collection has a single
+// slot, which is used whatever it holds.
+bool FindSlot(frmPage1& window) {
+  store::FilmRecord probe;
+  std::int64_t limit = window.RecordCount;
+  window.CurrentRecNo = 1;
+  for (window.ScanRecNo = 1; window.ScanRecNo <= limit; window.ScanRecNo += 1) {
+    if (window.RecordCount == 1) {
+      window.CurrentRecNo = window.ScanRecNo;
+      return true;
+    }
+    store::ReadRecord(window.Files, static_cast<int>(window.MasterFileNo), window.ScanRecNo, probe);
+    window.BlankTitleProbe = probe.Get(FilmField::Title).find_first_not_of(' ') == std::string_view::npos ? 1 : 0;
+    if (window.BlankTitleProbe == 0 && window.ScanRecNo == window.RecordCount) {
+      window.ScanRecNo = window.ScanRecNo + 1 - window.FirstRecordAdjust;
+      window.RecordCount = window.RecordCount + 1 - window.FirstRecordAdjust;
+      return false;
+    }
+    if (window.BlankTitleProbe > 0) break;
+  }
+  window.cmdNext.Disable();
+  window.cmdPrevious.Disable();
+  return false;
+}
+
+}  // namespace
 
 void frmPage1::cmdNew_Click() {
   HelpContext = cmdNew.Ids.HelpId;
@@ -16,8 +45,8 @@ void frmPage1::cmdNew_Click() {
   EditMode = 1;
   NewPending = 1;
   NewMode = 1;
-  ClearOnShow = 1;
-  if (!FindSlot()) {
+  ClearOnShow = screen::ShowRecordBlanks;
+  if (!FindSlot(*this)) {
     CurrentRecNo = ScanRecNo;
     ClearRecord();
     ShowRecord();
@@ -26,7 +55,7 @@ void frmPage1::cmdNew_Click() {
   ReadRecord(CurrentRecNo);
   ClearRecord();
   optNotesoff.Select();
-  PageFlag = 0;
+  PageFlag = screen::OnPage1;
   txtTitle.SetFocus();
   SetCaption("Reelora Record Prima" + runtime::NumberText(CurrentRecNo) + "/" + runtime::NumberText(RecordCount));
   txtCLV1.Show();
@@ -36,29 +65,4 @@ void frmPage1::cmdNew_Click() {
       "You are inputting onto page 1.   When all entries on this page are complete,  page 2  will come up "
       "automatically.");
   lblHead.SetCaption("");
-}
-
-// The first slot with a blank title, or one behind the last; its number goes into ScanRecNo. True where the collection
-// has one slot only, which is taken without a look at it.
-bool frmPage1::FindSlot() {
-  store::FilmRecord probe;
-  std::int64_t limit = RecordCount;
-  CurrentRecNo = 1;
-  for (ScanRecNo = 1; ScanRecNo <= limit; ScanRecNo += 1) {
-    if (RecordCount == 1) {
-      CurrentRecNo = ScanRecNo;
-      return true;
-    }
-    store::ReadRecord(Files, static_cast<int>(MasterFileNo), ScanRecNo, probe);
-    BlankTitleProbe = probe.Get(FilmField::Title).find_first_not_of(' ') == std::string_view::npos ? 1 : 0;
-    if (BlankTitleProbe == 0 && ScanRecNo == RecordCount) {
-      ScanRecNo = ScanRecNo + 1 - FirstRecordAdjust;
-      RecordCount = RecordCount + 1 - FirstRecordAdjust;
-      return false;
-    }
-    if (BlankTitleProbe > 0) break;
-  }
-  cmdNext.Disable();
-  cmdPrevious.Disable();
-  return false;
 }

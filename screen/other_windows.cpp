@@ -1,6 +1,10 @@
-// The ways from the record screen to the copy window and to the help viewer.
+// Opens the copy window and the help viewer.
 #include "forms/desk.h"
 #include "screen/frmPage1.h"
+
+namespace {
+constexpr int HelpContents = 0;
+}
 
 // The master file is closed for as long as the copy window is up.
 void frmPage1::mnuCopy_Click() {
@@ -9,4 +13,4 @@ void frmPage1::mnuCopy_Click() {
 }
 
 // The contents, whatever topic was set last.
-void frmPage1::mnuHelp_Click() { Desk.Help(0); }
+void frmPage1::mnuHelp_Click() { Desk.Help(HelpContents); }

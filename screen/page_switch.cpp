@@ -1,5 +1,5 @@
-// The switch between page 1 and page 2: it shows and hides, and neither reads nor writes the record.
-// It turns the page as one step, so that the fields which go one by one do not hand the focus to each other.
+// The switch between page 1 and page 2 shows and hides boxes; it neither reads nor writes the record. It turns the page
+// as one step, so that the fields hidden one by one do not hand the focus to each other.
 #include "screen/frmPage1.h"
 #include "screen/record_boxes.h"
 
@@ -12,7 +12,7 @@ void frmPage1::optnoteson_Click() {
 }
 
 void frmPage1::ShowPage1() {
-  PageFlag = 0;
+  PageFlag = screen::OnPage1;
   lblPage.SetCaption("PAGE 1");
   txtGenre.Show();
   txtGenreList.Show();
@@ -29,7 +29,7 @@ void frmPage1::ShowPage1() {
 }
 
 void frmPage1::ShowPage2() {
-  PageFlag = 1;
+  PageFlag = screen::OnPage2;
   lblPage.SetCaption("PAGE 2");
   SetPageVisible(screen::PageOne, false);
   List6.Hide();

@@ -1,4 +1,4 @@
-// Which box shows which field of the record, and which tag stands under it, once.
+// Which box shows which field of the record and which tag is under it, each in one place.
 #pragma once
 
 #include <cstddef>
@@ -53,7 +53,8 @@ inline constexpr RecordBox RecordBoxes[] = {
   { FilmField::Ratings,          &PageControls::txtRatings },
 };
 
-// In the order in which a film is blanked by ShowRecord, New, Reset and Delete: the colour before the disc mode, the rating before the awards.
+// The order in which ShowRecord, New, Reset and Delete blank a film. The colour is before the disc mode: the rule of the disc mode may
+// disable its box and so pass the focus to the colour box, whose list would then fill the colour again.
 inline constexpr FilmField ClearingOrder[] = {
   FilmField::Title,    FilmField::Director, FilmField::Star1,  FilmField::Star2,  FilmField::Star3,  FilmField::Star4, FilmField::Star5,
   FilmField::Star6,    FilmField::Label,    FilmField::Format, FilmField::NumReel, FilmField::Genre, FilmField::Time,  FilmField::Year,

@@ -1,4 +1,4 @@
-// Saving: what stands in the boxes goes into the record and onto the disk, and the screen comes back to rest.
+// Save: the texts of the boxes go into the record and onto the disk, and the screen returns to view.
 #include "runtime/text.h"
 #include "screen/frmPage1.h"
 #include "screen/record_boxes.h"
@@ -8,7 +8,7 @@ using store::FilmField;
 
 namespace {
 
-// The leading articles, tried one after the other; one that has fired does not stop the later ones.
+// The leading articles, all tried, even after a match.
 struct ArticleRow {
   std::string_view Article;  // with its blank
   std::string_view Suffix;
@@ -20,41 +20,30 @@ constexpr ArticleRow Articles[] = {
   { "A ",   ", A" },
   { "THE ", ", THE" },
   { "AN ",  ", AN" },
-  { "A ",   ", A" },  // once more: it catches a second article that the two tests before it have left in front
-};
-
-// Everything behind the title, in the order of the record but for the rating, which is taken before the awards.
-constexpr FilmField SavingOrder[] = {
-  FilmField::Director, FilmField::Star1,   FilmField::Star2,        FilmField::Star3,        FilmField::Star4,    FilmField::Star5,
-  FilmField::Star6,    FilmField::Label,   FilmField::Format,       FilmField::NumReel,      FilmField::Genre,    FilmField::Time,
-  FilmField::Year,     FilmField::CassNo,  FilmField::Letter,       FilmField::CLV1,         FilmField::Color1,   FilmField::Producer,
-  FilmField::Cinematographer, FilmField::Written, FilmField::Music, FilmField::Choreography, FilmField::SetDirection, FilmField::Costume,
-  FilmField::Sound,    FilmField::Rating,  FilmField::Awards,       FilmField::Package,      FilmField::Purchase, FilmField::Cost,
-  FilmField::Ratings,
-};
-
-// The boxes that a save centres again; txtCassNo, txtGenre and txtGenreList keep the alignment that they have.
-constexpr forms::TextBox screen::PageControls::*CentredBoxes[] = {
-  &screen::PageControls::txtTitle,        &screen::PageControls::txtColor1,          &screen::PageControls::txtLetter,
-  &screen::PageControls::txtCLV1,         &screen::PageControls::txtFormat,          &screen::PageControls::txtDirector,
-  &screen::PageControls::txtStar1,        &screen::PageControls::txtStar2,           &screen::PageControls::txtStar3,
-  &screen::PageControls::txtStar4,        &screen::PageControls::txtStar5,           &screen::PageControls::txtStar6,
-  &screen::PageControls::txtLabel,        &screen::PageControls::txtNumReel,         &screen::PageControls::txtTime,
-  &screen::PageControls::txtYear,         &screen::PageControls::txtProducer,        &screen::PageControls::txtCinematographer,
-  &screen::PageControls::txtChoreography, &screen::PageControls::txtMusic,           &screen::PageControls::txtSetDirection,
-  &screen::PageControls::txtAwards,       &screen::PageControls::txtWritten,         &screen::PageControls::txtCostume,
-  &screen::PageControls::txtSound,        &screen::PageControls::txtPackage,         &screen::PageControls::txtPurchase,
-  &screen::PageControls::txtCost,         &screen::PageControls::txtRating,          &screen::PageControls::txtRatings,
+  { "A ",   ", A" },  // again: catches an A exposed by the rows above
 };
 // clang-format on
+
+// The rest of a title always comes from the box, not from the field that an earlier test has changed.
+void MoveArticle(frmPage1& window) {
+  for (const ArticleRow& row : Articles) {
+    if (!window.CurrentFilm.Get(FilmField::Title).starts_with(row.Article)) continue;
+    std::string_view text = window.txtTitle.Text();
+    std::string_view rest =
+        text.substr(std::min(row.Article.size(), text.size()), static_cast<std::size_t>(window.TitleEnd));
+    window.CurrentFilm.Set(FilmField::Title, std::string(rest).append(row.Suffix));
+  }
+}
 
 }  // namespace
 
 void frmPage1::SaveRecord() {
   CurrentFilm.Set(FilmField::Title, txtTitle.Text());
   TitleEnd = static_cast<std::int64_t>(runtime::Position(CurrentFilm.Get(FilmField::Title), "  "));
-  MoveArticle();
-  for (FilmField field : SavingOrder) CurrentFilm.Set(field, (this->*screen::BoxOf(field)).Text());
+  MoveArticle(*this);
+  for (const screen::RecordBox& row : screen::RecordBoxes) {
+    if (row.Field != FilmField::Title) CurrentFilm.Set(row.Field, (this->*row.Box).Text());
+  }
   CurrentFilm.Set(FilmField::Tail, "\r\n");
   if (CurrentRecNo == 0) CurrentRecNo = 1;
   store::WriteRecord(Files, static_cast<int>(MasterFileNo), CurrentRecNo, CurrentFilm);
@@ -69,22 +58,12 @@ void frmPage1::SaveRecord() {
   }
 }
 
-// The rest of a title is always taken from the box, not from the field that an earlier test has changed.
-void frmPage1::MoveArticle() {
-  for (const ArticleRow& row : Articles) {
-    if (!CurrentFilm.Get(FilmField::Title).starts_with(row.Article)) continue;
-    std::string_view text = txtTitle.Text();
-    std::string_view rest = text.substr(std::min(row.Article.size(), text.size()), static_cast<std::size_t>(TitleEnd));
-    CurrentFilm.Set(FilmField::Title, std::string(rest).append(row.Suffix));
-  }
-}
-
 void frmPage1::cmdSave_Click() {
   HelpContext = cmdSave.Ids.HelpId;
   for (forms::ListBox* list : {&List4, &List5, &List6}) list->Hide();
   cmdPrevious.Enable();
   if (EditMode == 1) lblSave.Show();
-  if (PageFlag == 1) {
+  if (PageFlag == screen::OnPage2) {
     for (forms::TextBox* box : {&txtGenre, &txtGenreList, &txtCLV1}) box->Hide();
   }
   if (NewMode == 1) {
@@ -93,7 +72,7 @@ void frmPage1::cmdSave_Click() {
   if (EditMode == 1) SaveRecord();
   if (NewMode == 1) {
     optNotesoff.Enable();
-    PageFlag = 0;
+    PageFlag = screen::OnPage1;
     optNotesoff_Click();
   }
   NavFlag2 = 0;
@@ -101,7 +80,10 @@ void frmPage1::cmdSave_Click() {
   NewMode = 0;
   EditMode = 0;
   ClearOnShow = 0;
-  for (auto box : CentredBoxes) (this->*box).SetAlignment(forms::Align::Centre);
+  for (const screen::RecordBox& row : screen::RecordBoxes) {
+    bool keeps_alignment = row.Field == FilmField::CassNo || row.Field == FilmField::Genre;
+    if (!keeps_alignment) (this->*row.Box).SetAlignment(forms::Align::Centre);
+  }
   lblSorting.Hide();
   optnoteson.Enable();
   optNotesoff.Enable();
@@ -110,7 +92,7 @@ void frmPage1::cmdSave_Click() {
   ShowRecord();
   for (forms::Button* button : {&cmdNext, &cmdPrevious, &cmdDelete, &cmdNew, &cmdMatch}) button->Enable();
   lblHead.Show();
-  if (ViewState == 0) ShowNewHint();
+  if (ViewState == screen::ViewHome) ShowNewHint();
 }
 
 void frmPage1::mnuSave_Click() { cmdSave_Click(); }

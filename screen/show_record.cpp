@@ -1,7 +1,5 @@
-// ShowRecord: the one road from the record to the screen. It trims the fields of the record as it reads them, so that a
-// later save stores the normal form.
-#include <cstring>
-
+// ShowRecord: the only path from the record to the screen. It trims the fields of the record as it reads them, so that
+// a later save stores them trimmed.
 #include "screen/frmPage1.h"
 #include "screen/record_boxes.h"
 #include "store/film_codes.h"
@@ -18,107 +16,105 @@ struct ViewTexts {
 };
 // clang-format off
 constexpr ViewTexts Views[] = {
-  { "",      "      Title Non Sorted",         "" },
-  { "Title", "      Title Sorted All Formats", "Viewing All Titles Alphabetically" },
-  { "DVD",   "        DVD  Sorted",            "Viewing All DVD Titles Alphabetically" },
-  { "VHS",   "        VHS  Sorted",            "Viewing All VHS Titles Alphabetically" },
-  { "Laser", "      Laser Sorted",             "Viewing All Laser Titles Alphabetically" },
+  { "",                "      Title Non Sorted",         "" },
+  { screen::TitleView, "      Title Sorted All Formats", "Viewing All Titles Alphabetically" },
+  { screen::DVDView,   "        DVD  Sorted",            "Viewing All DVD Titles Alphabetically" },
+  { screen::VHSView,   "        VHS  Sorted",            "Viewing All VHS Titles Alphabetically" },
+  { screen::LaserView, "      Laser Sorted",             "Viewing All Laser Titles Alphabetically" },
 };
 constexpr std::string_view GenreSuffix = "      Genre Sorted";
 
-// The fields that are shown trimmed and in a row: those of page 1 before the format, and the credits and own data of page 2.
-constexpr FilmField FirstFields[] = {
+// The fields shown trimmed in a run, in the order of the record: page 1 before the format, page 2 but for the rating.
+constexpr FilmField Page1Fields[] = {
   FilmField::Title, FilmField::Director, FilmField::Star1, FilmField::Star2, FilmField::Star3, FilmField::Star4, FilmField::Star5,
   FilmField::Star6,
 };
-constexpr FilmField CreditFields[] = {
+constexpr FilmField Page2Fields[] = {
   FilmField::Producer, FilmField::Cinematographer, FilmField::Written, FilmField::Music, FilmField::Choreography, FilmField::SetDirection,
-  FilmField::Costume, FilmField::Awards, FilmField::Sound,
+  FilmField::Costume, FilmField::Sound, FilmField::Awards, FilmField::Package, FilmField::Purchase, FilmField::Cost, FilmField::Ratings,
 };
-constexpr FilmField OwnFields[] = { FilmField::Package, FilmField::Purchase, FilmField::Cost, FilmField::Ratings };
 // clang-format on
+
+// The title bar, and the heading if the view has one.
+void ShowHeading(frmPage1& window) {
+  std::string title = "Reelora Prima Record " + runtime::NumberText(window.CurrentRecNo) + "/" +
+                      runtime::NumberText(window.RecordCount);
+  for (const ViewTexts& view : Views) {
+    if (window.ViewKind != view.Kind) continue;
+    title += view.Suffix;
+    if (!view.Heading.empty()) window.lblHead.SetCaption(view.Heading);
+  }
+  if (window.ViewKind == screen::GenreView) {
+    title += GenreSuffix;
+    window.lblHead.SetCaption("Viewing All " + window.txtGenreList.Text() + " Files Alphabetically");
+  }
+  window.SetCaption(title);
+  if (window.ViewState == screen::ViewHome) window.ShowNewHint();
+  if (window.PrintPending > 0) window.lblHead.SetCaption("Please wait print spooler is loading files.");
+}
+
+// The first pass over the format: a blank letter leaves the box as it was.
+void ShowFormatLetter(frmPage1& window) {
+  std::string_view letter = window.CurrentFilm.Get(FilmField::Format);
+  if (letter == store::FormatLaser) {
+    window.txtCassNo.Disable();
+    window.txtFormat.SetText(store::LaserWord);
+  }
+  if (window.txtFormat.Text() == store::LaserWord) window.txtCassNo.Disable();
+  if (letter == store::FormatVHS) window.txtFormat.SetText(store::VHSWord);
+  if (letter == store::FormatDVD) window.txtCassNo.SetText("");
+}
+
+// Trims the field's text, and left-justifies it in the record.
+std::string_view TrimField(store::FilmRecord& film, FilmField field) {
+  std::string_view whole = film.Get(field);
+  if (whole.front() == ' ') film.Set(field, runtime::TrimFront(whole));
+  return runtime::Trim(whole);
+}
+
+void ShowTrimmed(frmPage1& window, FilmField field) {
+  (window.*screen::BoxOf(field)).SetText(TrimField(window.CurrentFilm, field));
+}
 
 }  // namespace
 
 void frmPage1::ShowRecord() {
   if (EditMode == 0) lblSorting.Hide();
-  if (ClearOnShow == 1) ClearRecord();
+  if (ClearOnShow == screen::ShowRecordBlanks) ClearRecord();
   lblNumrec.SetCaption("");
   lblRetcode.SetCaption("");
   RecordCount -= CountRollback;
   if (EditMode == 0) txtGenreList.Enable();
-  ShowHeading();
+  ShowHeading(*this);
   txtCLV1.SetText("");
-  for (FilmField field : FirstFields) ShowTrimmed(field);
-  ShowFormatLetter();
-  ShowAspect("WPT");
-  ShowTrimmed(FilmField::Label);
-  txtFormat.SetText(runtime::Upper(TrimField(FilmField::Format)));
+  for (FilmField field : Page1Fields) ShowTrimmed(*this, field);
+  ShowFormatLetter(*this);
+  ShowAspect();
+  ShowTrimmed(*this, FilmField::Label);
+  txtFormat.SetText(runtime::Upper(TrimField(CurrentFilm, FilmField::Format)));
   txtNumReel.SetText(CurrentFilm.Get(FilmField::NumReel));
   if (EditMode == 0) txtGenreList.Enable();
-  txtGenre.SetText(runtime::Upper(TrimField(FilmField::Genre)));
-  ShowTrimmed(FilmField::Time);
-  ShowTrimmed(FilmField::Year);
-  ShowTrimmed(FilmField::CassNo);
-  ShowTrimmed(FilmField::CLV1);
-  ShowTrimmed(FilmField::Color1);
+  txtGenre.SetText(runtime::Upper(TrimField(CurrentFilm, FilmField::Genre)));
+  ShowTrimmed(*this, FilmField::Time);
+  ShowTrimmed(*this, FilmField::Year);
+  ShowTrimmed(*this, FilmField::CassNo);
+  ShowTrimmed(*this, FilmField::CLV1);
+  ShowTrimmed(*this, FilmField::Color1);
   txtCassNo.Enable();
-  ShowAspect(EditMode == 1 ? "W" : "WPT");
+  if (EditMode != 1 || CurrentFilm.Get(FilmField::Letter) == store::AspectWide) ShowAspect();
   txtCLV1.SetText(CurrentFilm.Get(FilmField::CLV1));
   txtColor1.SetText(CurrentFilm.Get(FilmField::Color1));
-  for (FilmField field : CreditFields) ShowTrimmed(field);
+  for (FilmField field : Page2Fields) ShowTrimmed(*this, field);
   txtRating.SetText(CurrentFilm.Get(FilmField::Rating));
-  for (FilmField field : OwnFields) ShowTrimmed(field);
   CountRollback = 0;
   NewPending = 0;
   Desk.Repaint();
 }
 
-// The title bar, and the heading where the view has one.
-void frmPage1::ShowHeading() {
-  std::string title =
-      "Reelora Prima Record " + runtime::NumberText(CurrentRecNo) + "/" + runtime::NumberText(RecordCount);
-  for (const ViewTexts& view : Views) {
-    if (ViewKind != view.Kind) continue;
-    title += view.Suffix;
-    if (!view.Heading.empty()) lblHead.SetCaption(view.Heading);
-  }
-  if (ViewKind == "Genre") {
-    title += GenreSuffix;
-    lblHead.SetCaption("Viewing All " + txtGenreList.Text() + " Files Alphabetically");
-  }
-  SetCaption(title);
-  if (ViewState == 0) ShowNewHint();
-  if (PrintPending > 0) lblHead.SetCaption("Please wait print spooler is loading files.");
+// An unknown letter leaves the box as it was.
+void frmPage1::ShowAspect() {
+  if (auto word = store::WordOf(store::Aspects, CurrentFilm.Get(FilmField::Letter))) txtLetter.SetText(*word);
 }
-
-// The first pass over the format: a blank letter leaves the box as it was.
-void frmPage1::ShowFormatLetter() {
-  char letter = CurrentFilm.Get(FilmField::Format)[0];
-  if (letter == 'L') {
-    txtCassNo.Disable();
-    txtFormat.SetText("Laser");
-  }
-  if (txtFormat.Text() == "Laser") txtCassNo.Disable();
-  if (letter == 'V') txtFormat.SetText("VHS");
-  if (letter == 'D') txtCassNo.SetText("");
-}
-
-// Any letter but these leaves the box as it was.
-void frmPage1::ShowAspect(std::string_view letters) {
-  std::string_view letter = CurrentFilm.Get(FilmField::Letter);
-  if (letters.find(letter) == std::string_view::npos) return;
-  if (auto word = store::WordOf(store::Aspects, letter)) txtLetter.SetText(*word);
-}
-
-// The field's text without blanks, which the record then holds left-justified.
-std::string_view frmPage1::TrimField(FilmField field) {
-  std::string_view whole = CurrentFilm.Get(field);
-  if (whole.front() == ' ') CurrentFilm.Set(field, runtime::TrimFront(whole));
-  return runtime::Trim(whole);
-}
-
-void frmPage1::ShowTrimmed(FilmField field) { (this->*screen::BoxOf(field)).SetText(TrimField(field)); }
 
 void frmPage1::ClearRecord() {
   for (FilmField field : screen::ClearingOrder) {

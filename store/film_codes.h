@@ -18,8 +18,17 @@ inline constexpr std::string_view FormatLaser = "L";
 inline constexpr std::string_view FormatVHS   = "V";
 inline constexpr std::string_view FormatDVD   = "D";
 
-inline constexpr std::array<CodeRow, 3> Formats = {{ { FormatLaser, "Laser" }, { FormatVHS, "VHS" }, { FormatDVD, "DVD" } }};
-inline constexpr std::array<CodeRow, 3> Aspects = {{ { "W", "Wide Screen" }, { "P", "Pan & Scan" }, { "T", "TV 1.33:1" } }};
+inline constexpr std::string_view LaserWord   = "Laser";
+inline constexpr std::string_view VHSWord     = "VHS";
+inline constexpr std::string_view DVDWord     = "DVD";
+inline constexpr std::array<CodeRow, 3> Formats = {{ { FormatLaser, LaserWord }, { FormatVHS, VHSWord }, { FormatDVD, DVDWord } }};
+
+inline constexpr std::string_view AspectWide = "W";
+inline constexpr std::array<CodeRow, 3> Aspects = {{ { AspectWide, "Wide Screen" }, { "P", "Pan & Scan" }, { "T", "TV 1.33:1" } }};
+
+// Disc modes and colours are stored as the words that the screen shows.
+inline constexpr std::array<std::string_view, 2> DiscModes = { "CLV", "CAV" };
+inline constexpr std::array<std::string_view, 2> ColourWords = { "Color", "B & W" };
 
 // ListItem: the row of the pick list. It differs from the name at MU, and the rows are not alphabetical, on purpose.
 struct GenreRow {
@@ -72,6 +81,10 @@ constexpr std::optional<std::string_view> CodeOf(const std::array<CodeRow, Rows>
     if (row.Word == word) return row.Code;
   }
   return std::nullopt;
+}
+
+constexpr bool IsOneOf(const std::array<std::string_view, 2>& words, std::string_view text) {
+  return text == words[0] || text == words[1];
 }
 
 constexpr const GenreRow* GenreOf(std::string_view code) {
