@@ -33,7 +33,7 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   forms::Desk& Desk;
   // Shared: the lines of an unfinished report appear in the next.
   runtime::Printer Printer;
-  // The window that Load shows or hides as the flag file "Fo1" says; nullptr if there is none.
+  // The window that Load shows or hides as the flag file "Fo1" says; nullptr if not set.
   forms::Window* frmQuickStart = nullptr;
   // Opens the copy window; not set if there is none.
   forms::Handler OpenCopyWindow;

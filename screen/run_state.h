@@ -21,7 +21,7 @@ inline constexpr int TextSearch = 1, GenreSearch = 3;                   // Searc
 inline constexpr int ShowRecordBlanks = 1, ColourBoxClicked = 2;        // ClearOnShow
 inline constexpr int Forward = 0, Backward = 1;                         // NavDirection
 inline constexpr int OnPage1 = 0, OnPage2 = 1;                          // PageFlag
-inline constexpr int ListContinues = 4;                                 // PageMode; 0: the next list opens anew
+inline constexpr int ListContinues = 4;                                 // PageMode; 0: the next list starts at its first key
 
 struct RunState : StateList {
   // The current record and the collection.
@@ -35,7 +35,7 @@ struct RunState : StateList {
 
   // Entry.
   Number16 EditMode          { *this, "EditMode" };           // 1: fields open for typing; reading a key stores an unrelated number here
-  Number16 NewMode           { *this, "NewMode" };            // 1: a brand-new record is being written
+  Number16 NewMode           { *this, "NewMode" };            // 1: a new record is being written
   Number16 NewPending        { *this, "NewPending" };         // set by New, cleared at the end of ShowRecord
   Number16 ClearOnShow       { *this, "ClearOnShow" };        // 0, ShowRecordBlanks or ColourBoxClicked
   Number16 CountRollback     { *this, "CountRollback" };      // subtracted from RecordCount by ShowRecord
@@ -110,7 +110,7 @@ struct RunState : StateList {
   // Settings and messages.
   Text     AutoSaveSetting   { *this, "AutoSaveSetting" };    // "YES" or "NO"
   Text     AutoSortSetting   { *this, "AutoSortSetting" };
-  Text     PromptText        { *this, "PromptText" };         // text of a message box about to be shown
+  Text     PromptText        { *this, "PromptText" };         // text of the next message box
 
   // Kept because stories see them; no handler reads them.
   Number16 NavFlag2          { *this, "NavFlag2" };           // always 0
