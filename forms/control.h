@@ -27,9 +27,10 @@ enum class Align { Left, Centre };
 struct Place {
   int Left = 0, Top = 0, Width = 0, Height = 0;
 
+  // A place without a size contains nothing.
   constexpr bool Contains(const Place& other) const {
-    return other.Left >= Left && other.Top >= Top && other.Left + other.Width <= Left + Width &&
-           other.Top + other.Height <= Top + Height;
+    return Width > 0 && Height > 0 && other.Left >= Left && other.Top >= Top &&
+           other.Left + other.Width <= Left + Width && other.Top + other.Height <= Top + Height;
   }
 };
 
