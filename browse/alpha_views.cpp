@@ -1,6 +1,7 @@
 // The four alphabetical views: one handler per view opens it and makes each of its steps.
-#include "browse/key_walk.h"
+#include "screen/frmPage1.h"
 #include "store/film_codes.h"
+#include "store/key_file.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 // Find By Genre: the films of one genre, one at a time, in title order. The walk ends, unshown, at the film with the
 // highest number.
-#include "browse/key_walk.h"
 #include "runtime/checked_int.h"
+#include "screen/frmPage1.h"
 #include "store/film_codes.h"
+#include "store/key_file.h"
 
 namespace {
 

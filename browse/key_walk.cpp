@@ -1,6 +1,7 @@
 // What all walks along a key file share: reading the key at KeyFilePos, the end of the keys, and the record number in a
 // key.
-#include "browse/key_walk.h"
+#include "screen/frmPage1.h"
+#include "store/key_file.h"
 
 #include <utility>
 

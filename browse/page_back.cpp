@@ -1,7 +1,8 @@
 // Twenty rows back. KeyFilePos is at the end of the page on the screen, so the first Back of a list counts past its
 // rows; the later ones write from the first match on.
-#include "browse/key_walk.h"
+#include "screen/frmPage1.h"
 #include "store/film_codes.h"
+#include "store/key_file.h"
 
 using store::FilmField;
 

@@ -1,5 +1,6 @@
 // Next and Back: one film on or back, in the open view or in record order.
-#include "browse/key_walk.h"
+#include "screen/frmPage1.h"
+#include "store/key_file.h"
 
 namespace {
 

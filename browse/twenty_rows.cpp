@@ -1,6 +1,7 @@
 // The twenty-row lists: a page of films at a time, in key order. Every list continues through View All Genre, whose
 // empty filter passes every film.
-#include "browse/key_walk.h"
+#include "screen/frmPage1.h"
+#include "store/key_file.h"
 
 using store::FilmField;
 
