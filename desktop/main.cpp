@@ -11,6 +11,7 @@
 #include "desktop/application.h"
 #include "desktop/application_look.h"
 #include "desktop/front_request.h"
+#include "desktop/put_back_notice.h"
 #include "desktop/qt_desk.h"
 #include "desktop/stack_view.h"
 #include "runtime/disk.h"
@@ -48,8 +49,9 @@ int Run(desktop::Application& application, const QStringList& arguments) {
     runtime::RealDisk disk(".");
     desktop::QtDesk desk(".");
     Program program(desk, disk);
-    desktop::StackView view(program.Windows,
-                            [&program](const std::function<void()>& event) { program.Deliver(event); });
+    desktop::PutBackNotice put_back(program);
+    desktop::StackView view(program.Windows, [&](const std::function<void()>& event) { put_back.Deliver(event); });
+    put_back.DrawOn(view);
     desktop::FrontListener listener(folder, [&view] { view.BringToFront(); });
     desk.DrawOn(view);
     application.OnOutOfMemory([&] {

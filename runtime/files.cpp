@@ -131,6 +131,7 @@ void Files::Put(int number, std::int64_t record, const char* source) {
   if (record < 1) throw Failure{BadRecordNumber, file.Name};
   file.Forget();
   journal_.Write(*file.Handle, record, {source, static_cast<std::size_t>(file.RecordLength)}, file.Before);
+  ++records_written_;
 }
 
 std::string Files::ReadItem(int number) {

@@ -42,6 +42,8 @@ class Files {
   std::string_view Peek(int number, std::int64_t record);
   // A record past the end extends the file; blanks fill the gap.
   void Put(int number, std::int64_t record, const char* source);
+  // By Put, so far.
+  std::int64_t RecordsWritten() const { return records_written_; }
   // The next line of a file open for input, without leading blanks; "Input past end of file" after the last.
   std::string ReadItem(int number);
   // Writes the line and CR LF to a file open for output.
@@ -62,6 +64,7 @@ class Files {
 
   runtime::Disk& disk_;
   RecordJournal journal_;
+  std::int64_t records_written_ = 0;
   std::array<std::unique_ptr<NumberedFile>, 5> files_;
 };
 

@@ -55,12 +55,22 @@ void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view ol
   history.Sync();
 }
 
-std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
+std::int64_t CountHistory(runtime::Disk& disk) {
+  try {
+    runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Read);
+    return history.Length() / static_cast<std::int64_t>(EntryLength);
+  } catch (const runtime::Failure& failure) {
+    if (failure.Name != runtime::FileNotFound) throw;
+  }
+  return 0;
+}
+
+std::vector<KeptFilm> ReadHistory(runtime::Disk& disk, std::int64_t after) {
   std::vector<KeptFilm> films;
   try {
     runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Read);
     std::string entry(EntryLength, '\0');
-    for (std::int64_t number = 1;; ++number) {
+    for (std::int64_t number = after + 1;; ++number) {
       if (history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) < EntryLength)
         return films;
       std::string_view slot = runtime::Trim(std::string_view(entry).substr(StampWidth, SlotWidth));
@@ -80,9 +90,10 @@ std::vector<KeptFilm> ReadHistory(runtime::Disk& disk) {
 void PutBack(runtime::Files& files, const KeptFilm& kept) {
   if ((kept.Slot - 1) * RecordLength >= files.Length(MasterFileName))
     throw runtime::Failure{runtime::BadRecordNumber, std::string(MasterFileName)};
-  OpenMaster(files, MasterNo);
+  bool was_open = files.IsOpen(MasterNo);
+  if (!was_open) OpenMaster(files, MasterNo);
   WriteRecord(files, MasterNo, kept.Slot, kept.Film);
-  files.Close(MasterNo);
+  if (!was_open) files.Close(MasterNo);
 }
 
 }  // namespace store

@@ -34,11 +34,15 @@ struct KeptFilm {
   FilmRecord Film;
 };
 
-// The oldest first, without unfinished entries; none if there is no history. Any other failure of its file is thrown.
-std::vector<KeptFilm> ReadHistory(runtime::Disk& disk);
+// How many entries there are, unfinished ones included.
+std::int64_t CountHistory(runtime::Disk& disk);
+// Those after that number, the oldest first, without unfinished entries; none if there is no history. Any other failure
+// of its file is thrown.
+std::vector<KeptFilm> ReadHistory(runtime::Disk& disk, std::int64_t after = 0);
 
-// Writes the film into its slot again, as safely as a save: the slot's present film goes to the history. "Bad record
-// number" if the master file has no such slot, "File not found" if there is none.
+// Writes the film into its slot again, as safely as a save: the slot's present film goes to the history. Number 1 may
+// have the master file open. "Bad record number" if the master file has no such slot, "File not found" if there is
+// none.
 void PutBack(runtime::Files& files, const KeptFilm& kept);
 
 }  // namespace store
