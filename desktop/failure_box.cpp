@@ -11,7 +11,10 @@ namespace desktop {
 namespace {
 
 QString ReasonOf(const runtime::Failure& failure) {
-  if (!failure.Reason.empty()) return QString::fromStdString(failure.Reason);
+  if (!failure.Reason.empty()) {
+    QString reason = QString::fromStdString(failure.Reason);
+    return reason.endsWith('.') ? reason.chopped(1) : reason;
+  }
   return failure.SystemError == 0 ? QString() : qt_error_string(failure.SystemError);
 }
 

@@ -17,13 +17,26 @@
 namespace desktop {
 namespace {
 
-[[noreturn]] void Fail() { throw runtime::Failure{runtime::PrinterError, ""}; }
+// Reason: what the system says, if anything.
+[[noreturn]] void Fail(const QString& reason) {
+  throw runtime::Failure{runtime::PrinterError, "", 0, reason.toStdString()};
+}
+
+[[noreturn]] void Fail(const QFileDevice& file) {
+  Fail(file.error() == QFileDevice::NoError ? QString() : file.errorString());
+}
 
 // Qt does not report refused jobs; cupsLastError does. Statuses up to 7 are successes.
 bool QueueTookJob() {
   using LastError = int (*)();
   auto last_error = reinterpret_cast<LastError>(QLibrary::resolve("cups", 2, "cupsLastError"));
   return !last_error || last_error() <= 7;
+}
+
+QString ReasonOfQueue() {
+  using LastErrorString = const char* (*)();
+  auto reason = reinterpret_cast<LastErrorString>(QLibrary::resolve("cups", 2, "cupsLastErrorString"));
+  return reason && !QueueTookJob() ? QString::fromUtf8(reason()) : QString();
 }
 
 // A range of the queue's own leaves printRange() at all pages; the queue picks those pages itself.
@@ -36,7 +49,7 @@ PrintedTo PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer, const Pr
   printer.setDocName(Shown(job.Title));
   Painted painted = PaintPages(job, printer, {.Pages = PagesOf(printer)}, progress);
   if (painted == Painted::Nothing) return {};
-  if (painted == Painted::Failed || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail();
+  if (painted == Painted::Failed || printer.printerState() == QPrinter::Error || !QueueTookJob()) Fail(ReasonOfQueue());
   return {{}, printer.printerName()};
 }
 
@@ -63,7 +76,7 @@ void OpenNew(QFile& file, const QFileInfo& wanted) {
     QString count = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
     file.setFileName(QDir(wanted.path()).filePath(wanted.completeBaseName() + count + suffix));
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return;
-    if (!file.exists()) Fail();
+    if (!file.exists()) Fail(file);
   }
 }
 
@@ -73,9 +86,10 @@ PrintedTo PrintIntoNewFile(const runtime::PrintJob& job, const QPrinter& printer
   OpenNew(file, QFileInfo(wanted));
   Painted painted = PrintIntoFile(job, file, printer, progress);
   if (painted == Painted::Done) return {file.fileName(), {}};
+  QString reason = file.error() == QFileDevice::NoError ? QString() : file.errorString();
   // Not file.remove(), which fails if the file cannot be closed.
   QFile::remove(file.fileName());
-  if (painted == Painted::Failed) Fail();
+  if (painted == Painted::Failed) Fail(reason);
   return {};
 }
 
@@ -84,17 +98,17 @@ PrintedTo PrintOverFile(const runtime::PrintJob& job, const QPrinter& printer, c
   QSaveFile file(path);
   // Where the folder takes no new file, the old one is written in place.
   file.setDirectWriteFallback(true);
-  if (!file.open(QIODevice::WriteOnly)) Fail();
+  if (!file.open(QIODevice::WriteOnly)) Fail(file);
   Painted painted = PrintIntoFile(job, file, printer, progress);
   if (painted == Painted::Nothing) return {};
-  if (painted == Painted::Failed || !file.commit()) Fail();
+  if (painted == Painted::Failed || !file.commit()) Fail(file);
   return {path, {}};
 }
 
 PrintedTo PrintIntoDocuments(const runtime::PrintJob& job, const QPrinter& printer, std::chrono::local_seconds now,
                              const Progress& progress) {
   QString folder = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath("Reelora Prima");
-  if (!QDir().mkpath(folder)) Fail();
+  if (!QDir().mkpath(folder)) Fail(QStringLiteral("The folder %1 cannot be made").arg(folder));
   QString stamp = Shown(runtime::StampText(now)).replace(':', '-');
   return PrintIntoNewFile(job, printer, QDir(folder).filePath(Shown(job.Title) + ' ' + stamp + ".pdf"), progress);
 }

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/failure_box.h"
 #include "desktop/help_viewer.h"
 #include "desktop/picture.h"
 #include "desktop/text.h"
@@ -187,6 +188,14 @@ void WidgetPlayer::HelpPicture(const std::string& folder, int topic, const std::
   viewer.Open(topic);
   QApplication::processEvents();
   if (!desktop::SavePicture(viewer, path)) throw Unplayable{"expected a picture in " + path + ", got none"};
+}
+
+// The folder of a story has another name in each run.
+void WidgetPlayer::FailurePicture(const runtime::Failure& failure, const std::string& path) {
+  desktop::FailureBox box(failure, QStringLiteral("/home/anna/Film Collection"), nullptr);
+  box.show();
+  QApplication::processEvents();
+  if (!desktop::SavePicture(box, path)) throw Unplayable{"expected a picture in " + path + ", got none"};
 }
 
 }  // namespace story

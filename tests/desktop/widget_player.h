@@ -26,6 +26,7 @@ class WidgetPlayer final : public Player {
   void Picture(const std::string& path) override;
   void PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) override;
   void HelpPicture(const std::string& folder, int topic, const std::string& path) override;
+  void FailurePicture(const runtime::Failure& failure, const std::string& path) override;
 
  private:
   // The part of a control that gets mouse events; nullptr if it is not visible.

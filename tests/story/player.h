@@ -50,6 +50,10 @@ class Player {
   virtual void HelpPicture(const std::string& folder, int topic, const std::string& path) {
     static_cast<void>(folder), static_cast<void>(topic), static_cast<void>(path);
   }
+  // The same of the report of a failure.
+  virtual void FailurePicture(const runtime::Failure& failure, const std::string& path) {
+    static_cast<void>(failure), static_cast<void>(path);
+  }
 };
 
 // Called after the program is made and before it is started; the player goes before the program does.

@@ -42,6 +42,7 @@ constexpr VerbRow Verbs[] = {
   { "close",         "",        Role::Action, "w" },
   { "picture",       "page",    Role::Action, "nw" },
   { "picture",       "help",    Role::Action, "nw" },
+  { "picture",       "failure", Role::Action, "ttnw" },
   { "picture",       "",        Role::Action, "w" },
 
   { "box",           "",        Role::Effect, "weew" },

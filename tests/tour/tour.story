@@ -78,3 +78,20 @@ click mnuCopy
 pick File1 "Recpra.Dat"
 picture 15_copy_files
 picture help 220 16_help_on_save
+picture failure "Disk full" "Recpra.Dat" 28 17_failure_disk_full
+picture failure "Path/File access error" "Recpra.Dat" 13 18_failure_no_permission
+picture failure "Path/File access error" "Recpra.Dat" 30 19_failure_write_protected
+picture failure "Path/File access error" "AutoSave" 21 20_failure_folder_in_the_way
+picture failure "Path/File access error" "Recpra.Dat" 116 21_failure_film_file_replaced
+picture failure "File not found" "AutoSort" 2 22_failure_setting_missing
+picture failure "File not found" "Recpra.Dat" 2 23_failure_film_file_missing
+picture failure "File not found" "DVDpra.Dat" 2 24_failure_key_file_missing
+picture failure "Input past end of file" "BGColor" 0 25_failure_setting_empty
+picture failure "Type mismatch" "BGColor" 0 26_failure_setting_damaged
+picture failure "Overflow" "" 0 27_failure_overflow
+picture failure "Bad record number" "Recpra.Dat" 0 28_failure_bad_record_number
+picture failure "Bad file name or number" "" 0 29_failure_file_closed
+picture failure "File already open" "DVDpra.Dat" 0 30_failure_file_open
+picture failure "Device I/O error" "Recpra.Dat" 5 31_failure_disk_error
+picture failure "Printer error" "" 0 32_failure_printer_error
+picture failure "Out of memory" "" 0 33_failure_out_of_memory
