@@ -7,7 +7,8 @@
 
 namespace desktop {
 
-// A question is answered by Yes or No alone: Esc and the close box leave it standing, since No would drop what was typed.
+// A question is answered by Yes or No alone: Esc and the close box leave it standing, since No would drop what was
+// typed.
 class MessageBox final : public QMessageBox {
  public:
   MessageBox(forms::Icon icon, const QString& title, const QString& text, forms::Buttons buttons, QWidget* parent);
