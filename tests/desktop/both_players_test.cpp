@@ -8,6 +8,7 @@
 
 #include "tests/desktop/widget_player.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/quiet_desk.h"
 #include "tests/kit/source_tree.h"
 #include "tests/story/bare_player.h"
 #include "tests/story/set_up.h"
@@ -16,7 +17,7 @@ namespace story {
 namespace {
 
 // Gives its answers in turn and logs every request.
-class LoggingDesk final : public forms::Desk {
+class LoggingDesk final : public kit::QuietDesk {
  public:
   std::string Log;
 
@@ -32,15 +33,12 @@ class LoggingDesk final : public forms::Desk {
   void Help(int topic) override { Log += "help " + std::to_string(topic) + "|"; }
   std::chrono::local_seconds Now() override { return {}; }
   std::string DriveLetters() override { return "ac"; }
-  std::optional<std::string> DriveFolder(char) override { return std::nullopt; }
-  void Repaint() override {}
-  void RepaintNow() override {}
   void Closed() override { Log += "closed|"; }
   void FailureReport(const runtime::Failure& failure) override {
     Log.append(failure.Name).append(" ").append(failure.File) += "|";
   }
 
- protected:
+ private:
   forms::Answer AskMessageBox(forms::Icon, std::string_view title, std::string_view text,
                               forms::Buttons buttons) override {
     Log.append(title).append(": ").append(text) += "|";
@@ -48,7 +46,6 @@ class LoggingDesk final : public forms::Desk {
     return questions_++ % 3 == 2 ? forms::Answer::No : forms::Answer::Yes;
   }
 
- private:
   std::size_t inputs_ = 0, questions_ = 0;
 };
 

@@ -13,7 +13,6 @@
 #include "desktop/failure_texts.h"
 #include "desktop/qt_desk.h"
 #include "desktop/stack_view.h"
-#include "tests/desktop/small_window.h"
 #include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
 #include "tests/kit/passing_disk.h"

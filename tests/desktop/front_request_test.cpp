@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QDir>
 
-#include "tests/desktop/small_window.h"
+#include "tests/desktop/drawn_window.h"
 #include "tests/kit/fresh_folder.h"
 
 namespace desktop {

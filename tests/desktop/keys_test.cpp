@@ -3,7 +3,7 @@
 
 #include <QMenu>
 
-#include "tests/desktop/small_window.h"
+#include "tests/desktop/drawn_window.h"
 
 namespace desktop {
 namespace {
@@ -11,22 +11,22 @@ namespace {
 class Keys : public testing::Test, public DrawnWindow {};
 
 TEST_F(Keys, TabWalksTheFormsOwnOrder) {
-  Form.Two.Select();
+  Window.Two.Select();
   View.Sync();
   Key(Qt::Key_Tab, "\t");
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Star));
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Second));
   Key(Qt::Key_Tab, "\t");
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Save));
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Push));
   Key(Qt::Key_Tab, "\t");
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Two));
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Two));
   Key(Qt::Key_Backtab);
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Save));
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Push));
 }
 
 TEST_F(Keys, EnterAndSpacePressAButtonOnce) {
   int clicks = 0;
-  Form.Save.Click = [&] { ++clicks; };
-  Form.Save.SetFocus();
+  Window.Push.Click = [&] { ++clicks; };
+  Window.Push.SetFocus();
   View.Sync();
   Key(Qt::Key_Return, "\r");
   EXPECT_EQ(clicks, 1);
@@ -36,45 +36,45 @@ TEST_F(Keys, EnterAndSpacePressAButtonOnce) {
 
 TEST_F(Keys, EscPressesTheCancelButtonAndTheFocusStays) {
   int clicks = 0;
-  Form.Save.Click = [&] { ++clicks; };
-  Form.CancelButton = &Form.Save;
+  Window.Push.Click = [&] { ++clicks; };
+  Window.CancelButton = &Window.Push;
   Key(Qt::Key_Escape, "\x1b");
   EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Title));
+  EXPECT_EQ(Focus(), &WidgetOf(Window.First));
 }
 
 TEST_F(Keys, F1OpensTheTopicOfTheFocus) {
   Key(Qt::Key_Tab, "\t");
   Key(Qt::Key_F1);
-  EXPECT_EQ(Desk.HelpTopics, std::vector<int>{3});
+  EXPECT_EQ(Desk.HelpTopics, std::vector<int>{20});
 }
 
 TEST_F(Keys, AltAndALetterReachTheControlWhereverTheFocusIs) {
   int clicks = 0;
-  Form.Save.Click = [&] { ++clicks; };
-  Key(Qt::Key_S, "s", Qt::AltModifier);
+  Window.Push.Click = [&] { ++clicks; };
+  Key(Qt::Key_P, "p", Qt::AltModifier);
   EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Save));
-  EXPECT_EQ(Form.Title.Text(), "");
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Push));
+  EXPECT_EQ(Window.First.Text(), "");
 }
 
 TEST_F(Keys, AltAndALetterOpenTheMenuIfNoControlHasTheLetter) {
-  Key(Qt::Key_F, "f", Qt::AltModifier);
-  QMenu* menu = Drawn().Menu().ActionOf(Form.File)->menu();
+  Key(Qt::Key_M, "m", Qt::AltModifier);
+  QMenu* menu = Drawn().Menu().ActionOf(Window.Menu)->menu();
   EXPECT_TRUE(menu->isVisible());
   menu->close();
 }
 
 TEST_F(Keys, AltAndTheLetterOfALineWithoutItemsRunIt) {
   int clicks = 0;
-  Form.Sort.Click = [&] { ++clicks; };
-  Key(Qt::Key_R, "r", Qt::AltModifier);
+  Window.Pull.Click = [&] { ++clicks; };
+  Key(Qt::Key_L, "l", Qt::AltModifier);
   EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(Keys, F1InAnOpenMenuClosesItAndOpensItsTopic) {
-  Key(Qt::Key_F, "f", Qt::AltModifier);
-  QMenu* menu = Drawn().Menu().ActionOf(Form.File)->menu();
+  Key(Qt::Key_M, "m", Qt::AltModifier);
+  QMenu* menu = Drawn().Menu().ActionOf(Window.Menu)->menu();
   KeyIn(*menu, Qt::Key_F1);
   EXPECT_EQ(Desk.HelpTopics, std::vector<int>{400});
   EXPECT_FALSE(menu->isVisible());
@@ -82,7 +82,7 @@ TEST_F(Keys, F1InAnOpenMenuClosesItAndOpensItsTopic) {
 
 TEST_F(Keys, F1OnALineOfTheBarWithoutItemsOpensItsTopic) {
   QMenuBar& bar = Drawn().Menu().Bar();
-  bar.setActiveAction(Drawn().Menu().ActionOf(Form.Sort));
+  bar.setActiveAction(Drawn().Menu().ActionOf(Window.Pull));
   KeyIn(bar, Qt::Key_F1);
   EXPECT_EQ(Desk.HelpTopics, std::vector<int>{440});
   EXPECT_EQ(bar.activeAction(), nullptr);
@@ -90,24 +90,24 @@ TEST_F(Keys, F1OnALineOfTheBarWithoutItemsOpensItsTopic) {
 
 TEST_F(Keys, ALineOfTheBarWithoutItemsThatAnArrowReachesTakesTheKeys) {
   int clicks = 0;
-  Form.Sort.Click = [&] { ++clicks; };
-  Key(Qt::Key_F, "f", Qt::AltModifier);
-  KeyIn(*Drawn().Menu().ActionOf(Form.File)->menu(), Qt::Key_Right);
+  Window.Pull.Click = [&] { ++clicks; };
+  Key(Qt::Key_M, "m", Qt::AltModifier);
+  KeyIn(*Drawn().Menu().ActionOf(Window.Menu)->menu(), Qt::Key_Right);
   QApplication::processEvents();
   ASSERT_EQ(Focus(), &Drawn().Menu().Bar());
   Key(Qt::Key_Return, "\r");
   QApplication::processEvents();
   EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Title));
+  EXPECT_EQ(Focus(), &WidgetOf(Window.First));
 }
 
 TEST_F(Keys, TheArrowsMoveTheSelectionOfAListAndOtherKeysRunKeyPress) {
   std::string seen;
-  Form.List.Click = [&] { seen += Form.List.Selected() + " "; };
-  Form.List.KeyPress = [&] { seen += "key "; };
-  Form.List.Show();
-  Form.List.Select(0);
-  Form.List.SetFocus();
+  Window.List.Click = [&] { seen += Window.List.Selected() + " "; };
+  Window.List.KeyPress = [&] { seen += "key "; };
+  Window.List.Show();
+  Window.List.Select(0);
+  Window.List.SetFocus();
   View.Sync();
   Key(Qt::Key_Down);
   Key(Qt::Key_End);
@@ -118,10 +118,10 @@ TEST_F(Keys, TheArrowsMoveTheSelectionOfAListAndOtherKeysRunKeyPress) {
 
 TEST_F(Keys, NothingIsDeliveredWhileAnEventRuns) {
   int clicks = 0;
-  Form.Save.Click = [&] {
+  Window.Push.Click = [&] {
     if (++clicks == 1) Key(Qt::Key_Return, "\r");
   };
-  Form.Save.SetFocus();
+  Window.Push.SetFocus();
   View.Sync();
   Key(Qt::Key_Return, "\r");
   EXPECT_EQ(clicks, 1);

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QListWidget>
 
-#include "tests/desktop/small_window.h"
+#include "tests/desktop/drawn_window.h"
 
 namespace desktop {
 namespace {
@@ -12,19 +12,19 @@ namespace {
 class Mirror : public testing::Test, public DrawnWindow {};
 
 TEST_F(Mirror, AControlGetsItsWidgetWhenItIsFirstShown) {
-  EXPECT_EQ(Drawn().ViewOf(Form.List), nullptr);
-  Form.List.Show();
+  EXPECT_EQ(Drawn().ViewOf(Window.List), nullptr);
+  Window.List.Show();
   View.Sync();
-  EXPECT_TRUE(WidgetOf(Form.List).isVisible());
+  EXPECT_TRUE(WidgetOf(Window.List).isVisible());
 }
 
 TEST_F(Mirror, AListShowsWholeRowsInItsPlace) {
-  Form.List.Show();
+  Window.List.Show();
   View.Sync();
   for (int width : {400, 415, 430, 445}) {
     Drawn().resize(width, width * 2 / 3);
     QApplication::processEvents();
-    auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+    auto& list = dynamic_cast<QListWidget&>(WidgetOf(Window.List));
     int rows = list.viewport()->height();
     EXPECT_EQ(rows % list.sizeHintForRow(0), 0) << width;
     EXPECT_GT(rows, 0);
@@ -32,70 +32,70 @@ TEST_F(Mirror, AListShowsWholeRowsInItsPlace) {
 }
 
 TEST_F(Mirror, ALaterControlLiesOverAnEarlierOneThatWasShownLater) {
-  Form.Title.Hide();
-  Form.List.Show();
+  Window.First.Hide();
+  Window.List.Show();
   View.Sync();
-  Form.Title.Show();
+  Window.First.Show();
   View.Sync();
   const QObjectList& order = Drawn().Surface().children();
-  EXPECT_LT(order.indexOf(&WidgetOf(Form.Title)), order.indexOf(&WidgetOf(Form.List)));
+  EXPECT_LT(order.indexOf(&WidgetOf(Window.First)), order.indexOf(&WidgetOf(Window.List)));
 }
 
 TEST_F(Mirror, ATextCostsTheWidgetNothingUntilTheEventIsOver) {
   QString meanwhile = "none";
-  Form.Save.Click = [&] {
-    Form.Title.SetText("new");
-    meanwhile = FieldOf(Form.Title).text();
+  Window.Push.Click = [&] {
+    Window.First.SetText("new");
+    meanwhile = FieldOf(Window.First).text();
   };
-  Click(WidgetOf(Form.Save));
+  Click(WidgetOf(Window.Push));
   EXPECT_EQ(meanwhile, "");
-  EXPECT_EQ(FieldOf(Form.Title).text(), "new");
+  EXPECT_EQ(FieldOf(Window.First).text(), "new");
 }
 
 TEST_F(Mirror, TheFocusLeavesAWidgetBeforeItGoes) {
-  Form.Title.Hide();
+  Window.First.Hide();
   View.Sync();
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Star));
-  EXPECT_FALSE(WidgetOf(Form.Title).isVisible());
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Second));
+  EXPECT_FALSE(WidgetOf(Window.First).isVisible());
 }
 
 TEST_F(Mirror, ColoursAlignmentAndStatesFollow) {
-  Form.Title.SetForeColor(0x0000FF);
-  Form.Title.SetBackColor(0x00FF00);
-  Form.Title.SetAlignment(forms::Align::Left);
-  Form.Star.Disable();
+  Window.First.SetForeColor(0x0000FF);
+  Window.First.SetBackColor(0x00FF00);
+  Window.First.SetAlignment(forms::Align::Left);
+  Window.Second.Disable();
   View.Sync();
-  EXPECT_EQ(FieldOf(Form.Title).palette().color(QPalette::Text), QColor(255, 0, 0));
-  EXPECT_EQ(FieldOf(Form.Title).palette().color(QPalette::Base), QColor(0, 255, 0));
-  EXPECT_TRUE(FieldOf(Form.Title).alignment() & Qt::AlignLeft);
-  EXPECT_FALSE(WidgetOf(Form.Star).isEnabled());
+  EXPECT_EQ(FieldOf(Window.First).palette().color(QPalette::Text), QColor(255, 0, 0));
+  EXPECT_EQ(FieldOf(Window.First).palette().color(QPalette::Base), QColor(0, 255, 0));
+  EXPECT_TRUE(FieldOf(Window.First).alignment() & Qt::AlignLeft);
+  EXPECT_FALSE(WidgetOf(Window.Second).isEnabled());
 }
 
 TEST_F(Mirror, TheWindowsCaptionAndBackgroundFollow) {
-  Form.SetCaption("Caf\xe9");
-  Form.SetBackColor(0x00FFFF);
+  Window.SetCaption("Caf\xe9");
+  Window.SetBackColor(0x00FFFF);
   View.Sync();
   EXPECT_EQ(Drawn().windowTitle(), QString::fromUtf8("Café"));
   EXPECT_EQ(Drawn().Surface().palette().color(QPalette::Window), QColor(255, 255, 0));
 }
 
 TEST_F(Mirror, PlacesAndFontsGrowWithTheWindow) {
-  QSize before = WidgetOf(Form.Star).size();
-  int font_size = WidgetOf(Form.Save).font().pixelSize();
+  QSize before = WidgetOf(Window.Second).size();
+  int font_size = WidgetOf(Window.Push).font().pixelSize();
   Drawn().resize(Drawn().width() * 2, Drawn().height() * 2);
   QApplication::processEvents();
-  EXPECT_NEAR(WidgetOf(Form.Star).width(), before.width() * 2, 2);
-  EXPECT_NEAR(WidgetOf(Form.Save).font().pixelSize(), font_size * 2, 2);
+  EXPECT_NEAR(WidgetOf(Window.Second).width(), before.width() * 2, 2);
+  EXPECT_NEAR(WidgetOf(Window.Push).font().pixelSize(), font_size * 2, 2);
 }
 
 TEST_F(Mirror, ThePaddingOfATagIsFoldedAndItsLongRunsBreakTheLine) {
-  EXPECT_EQ(dynamic_cast<QLabel&>(WidgetOf(Form.TitleTag)).text(), "The\ntitle of it");
+  EXPECT_EQ(dynamic_cast<QLabel&>(WidgetOf(Window.Tag)).text(), "The\ntitle of it");
 }
 
 TEST_F(Mirror, ALabelShrinksItsFontUntilItsTextFits) {
-  auto& label = dynamic_cast<QLabel&>(WidgetOf(Form.TitleTag));
+  auto& label = dynamic_cast<QLabel&>(WidgetOf(Window.Tag));
   int font_size = label.font().pixelSize();
-  Form.TitleTag.SetCaption(
+  Window.Tag.SetCaption(
       "A very long tag that can by no means find room at the letters' full size, whatever is done about it");
   View.Sync();
   EXPECT_LT(label.font().pixelSize(), font_size);
@@ -104,7 +104,7 @@ TEST_F(Mirror, ALabelShrinksItsFontUntilItsTextFits) {
 }
 
 TEST_F(Mirror, AWindowThatIsNotVisibleIsNotDrawn) {
-  SmallForm other(Windows);
+  kit::SmallWindow other(Windows);
   View.Sync();
   EXPECT_EQ(View.ViewOf(other), nullptr);
 }

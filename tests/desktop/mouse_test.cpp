@@ -5,7 +5,7 @@
 #include <QContextMenuEvent>
 #include <QListWidget>
 
-#include "tests/desktop/small_window.h"
+#include "tests/desktop/drawn_window.h"
 
 namespace desktop {
 namespace {
@@ -14,10 +14,10 @@ class MouseOn : public testing::Test, public DrawnWindow {};
 
 TEST_F(MouseOn, AClickComesOnTheReleaseWithTheFocusFirst) {
   std::string seen;
-  Form.Save.GotFocus = [&] { seen += "focus "; };
-  Form.Save.Click = [&] { seen += "click "; };
-  Form.Save.MouseUp = [&] { seen += "up"; };
-  QWidget& save = WidgetOf(Form.Save);
+  Window.Push.GotFocus = [&] { seen += "focus "; };
+  Window.Push.Click = [&] { seen += "click "; };
+  Window.Push.MouseUp = [&] { seen += "up"; };
+  QWidget& save = WidgetOf(Window.Push);
   Mouse(save, QEvent::MouseButtonPress, save.rect().center());
   EXPECT_EQ(seen, "");
   Mouse(save, QEvent::MouseButtonRelease, save.rect().center());
@@ -26,30 +26,30 @@ TEST_F(MouseOn, AClickComesOnTheReleaseWithTheFocusFirst) {
 
 TEST_F(MouseOn, AReleaseElsewhereIsNoClick) {
   int clicks = 0;
-  Form.Save.Click = [&] { ++clicks; };
-  QWidget& save = WidgetOf(Form.Save);
+  Window.Push.Click = [&] { ++clicks; };
+  QWidget& save = WidgetOf(Window.Push);
   Mouse(save, QEvent::MouseButtonPress, save.rect().center());
   Mouse(save, QEvent::MouseButtonRelease, QPoint(-20, -20));
   EXPECT_EQ(clicks, 0);
 }
 
 TEST_F(MouseOn, AFieldThatRefusesIsNotEnteredAndNotSelected) {
-  Form.Star.SetText("Solaris");
-  Form.Star.GotFocus = [&] {
+  Window.Second.SetText("Solaris");
+  Window.Second.GotFocus = [&] {
     Desk.MessageBox(forms::Icon::Warning, "Star", "Hit edit to change.");
-    Form.Save.SetFocus();
+    Window.Push.SetFocus();
   };
   View.Sync();
-  Click(WidgetOf(Form.Star));
+  Click(WidgetOf(Window.Second));
   EXPECT_EQ(Desk.BoxesShown(), 1U);
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Save));
-  EXPECT_FALSE(FieldOf(Form.Star).hasSelectedText());
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Push));
+  EXPECT_FALSE(FieldOf(Window.Second).hasSelectedText());
 }
 
 TEST_F(MouseOn, PutsTheCaretWhereItClicks) {
-  Form.Star.SetText("abcdefgh");
+  Window.Second.SetText("abcdefgh");
   View.Paint();
-  FieldView& field = FieldOf(Form.Star);
+  FieldView& field = FieldOf(Window.Second);
   ClickAt(field, {field.width() / 2, field.height() / 2});
   EXPECT_EQ(Focus(), &field);
   EXPECT_EQ(field.cursorPosition(), field.cursorPositionAt({field.width() / 2, field.height() / 2}));
@@ -58,9 +58,9 @@ TEST_F(MouseOn, PutsTheCaretWhereItClicks) {
 
 TEST_F(MouseOn, ADoubleClickRunsOneClickAndOneDoubleClickOnAField) {
   std::string seen;
-  Form.Star.Click = [&] { seen += "click "; };
-  Form.Star.DblClick = [&] { seen += "double"; };
-  FieldView& field = FieldOf(Form.Star);
+  Window.Second.Click = [&] { seen += "click "; };
+  Window.Second.DblClick = [&] { seen += "double"; };
+  FieldView& field = FieldOf(Window.Second);
   Click(field);
   Mouse(field, QEvent::MouseButtonDblClick, field.rect().center());
   Mouse(field, QEvent::MouseButtonRelease, field.rect().center());
@@ -69,8 +69,8 @@ TEST_F(MouseOn, ADoubleClickRunsOneClickAndOneDoubleClickOnAField) {
 
 TEST_F(MouseOn, TwoQuickClicksOnAButtonAreTwo) {
   int clicks = 0;
-  Form.Save.Click = [&] { ++clicks; };
-  QWidget& save = WidgetOf(Form.Save);
+  Window.Push.Click = [&] { ++clicks; };
+  QWidget& save = WidgetOf(Window.Push);
   Click(save);
   Mouse(save, QEvent::MouseButtonDblClick, save.rect().center());
   Mouse(save, QEvent::MouseButtonRelease, save.rect().center());
@@ -79,27 +79,27 @@ TEST_F(MouseOn, TwoQuickClicksOnAButtonAreTwo) {
 
 TEST_F(MouseOn, MovesAreSeenOverDisabledControlsAndTheBareWindow) {
   std::string seen;
-  Form.Closed.MouseMove = [&] { seen += "closed "; };
-  Form.MouseMove = [&] { seen += "window"; };
-  Mouse(WidgetOf(Form.Closed), QEvent::MouseMove, {3, 3}, Qt::NoButton);
+  Window.Third.MouseMove = [&] { seen += "closed "; };
+  Window.MouseMove = [&] { seen += "window"; };
+  Mouse(WidgetOf(Window.Third), QEvent::MouseMove, {3, 3}, Qt::NoButton);
   Mouse(Drawn().Surface(), QEvent::MouseMove, {3, 3}, Qt::NoButton);
   EXPECT_EQ(seen, "closed window");
 }
 
 TEST_F(MouseOn, ADisabledControlTakesNoClick) {
   int clicks = 0;
-  Form.Closed.Click = [&] { ++clicks; };
-  Click(WidgetOf(Form.Closed));
+  Window.Third.Click = [&] { ++clicks; };
+  Click(WidgetOf(Window.Third));
   EXPECT_EQ(clicks, 0);
 }
 
 TEST_F(MouseOn, APressPicksTheItemBeneathIt) {
   std::string seen;
-  Form.List.Click = [&] { seen += Form.List.Selected() + " "; };
-  Form.List.MouseDown = [&] { seen += "down", Form.List.Hide(); };
-  Form.List.Show();
+  Window.List.Click = [&] { seen += Window.List.Selected() + " "; };
+  Window.List.MouseDown = [&] { seen += "down", Window.List.Hide(); };
+  Window.List.Show();
   View.Sync();
-  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Window.List));
   Mouse(*list.viewport(), QEvent::MouseButtonPress, list.visualItemRect(list.item(1)).center());
   EXPECT_EQ(seen, "Laser down");
   EXPECT_FALSE(list.isVisible());
@@ -107,11 +107,11 @@ TEST_F(MouseOn, APressPicksTheItemBeneathIt) {
 
 TEST_F(MouseOn, ADoubleClickOnAnItemPicksItOnce) {
   std::string seen;
-  Form.List.MouseDown = [&] { seen += "down "; };
-  Form.List.DblClick = [&] { seen += "double"; };
-  Form.List.Show();
+  Window.List.MouseDown = [&] { seen += "down "; };
+  Window.List.DblClick = [&] { seen += "double"; };
+  Window.List.Show();
   View.Sync();
-  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Window.List));
   QPoint item = list.visualItemRect(list.item(1)).center();
   ClickAt(*list.viewport(), item);
   Mouse(*list.viewport(), QEvent::MouseButtonDblClick, item);
@@ -120,66 +120,66 @@ TEST_F(MouseOn, ADoubleClickOnAnItemPicksItOnce) {
 
 TEST_F(MouseOn, APressOutsideTheItemsOnlyTakesTheFocus) {
   std::string seen;
-  Form.List.Click = [&] { seen += "click "; };
-  Form.List.MouseDown = [&] { seen += "down "; };
-  Form.List.Empty();
-  Form.List.Show();
+  Window.List.Click = [&] { seen += "click "; };
+  Window.List.MouseDown = [&] { seen += "down "; };
+  Window.List.Empty();
+  Window.List.Show();
   View.Sync();
-  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Form.List));
+  auto& list = dynamic_cast<QListWidget&>(WidgetOf(Window.List));
   Click(*list.viewport());
   EXPECT_EQ(seen, "");
-  EXPECT_TRUE(Form.List.HoldsFocus());
+  EXPECT_TRUE(Window.List.HoldsFocus());
 }
 
 TEST_F(MouseOn, AnOptionShowsWhatTheFormSays) {
-  Form.Two.Click = [&] { Form.One.Select(); };
-  Click(WidgetOf(Form.Two));
-  EXPECT_FALSE(dynamic_cast<QAbstractButton&>(WidgetOf(Form.Two)).isChecked());
-  EXPECT_TRUE(dynamic_cast<QAbstractButton&>(WidgetOf(Form.One)).isChecked());
+  Window.Two.Click = [&] { Window.One.Select(); };
+  Click(WidgetOf(Window.Two));
+  EXPECT_FALSE(dynamic_cast<QAbstractButton&>(WidgetOf(Window.Two)).isChecked());
+  EXPECT_TRUE(dynamic_cast<QAbstractButton&>(WidgetOf(Window.One)).isChecked());
 }
 
 TEST_F(MouseOn, TheRightButtonEntersAFieldBeforeItsMenuOpens) {
-  Mouse(WidgetOf(Form.Star), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
-  EXPECT_EQ(Focus(), &WidgetOf(Form.Star));
-  EXPECT_TRUE(Form.Star.HoldsFocus());
+  Mouse(WidgetOf(Window.Second), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
+  EXPECT_EQ(Focus(), &WidgetOf(Window.Second));
+  EXPECT_TRUE(Window.Second.HoldsFocus());
 }
 
 TEST_F(MouseOn, TheRightButtonOnAButtonLeavesTheFocus) {
-  forms::Control* holder = Form.Focus();
-  Mouse(WidgetOf(Form.Save), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
-  EXPECT_EQ(Form.Focus(), holder);
+  forms::Control* holder = Window.Focus();
+  Mouse(WidgetOf(Window.Push), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
+  EXPECT_EQ(Window.Focus(), holder);
 }
 
 TEST_F(MouseOn, ADoubleClickOnAFieldDisabledByTheFirstRunsNothing) {
   std::string seen;
-  Form.Star.Click = [&] { Form.Star.Disable(); };
-  Form.Star.DblClick = [&] { seen += "double"; };
-  FieldView& field = FieldOf(Form.Star);
+  Window.Second.Click = [&] { Window.Second.Disable(); };
+  Window.Second.DblClick = [&] { seen += "double"; };
+  FieldView& field = FieldOf(Window.Second);
   Click(field);
   Mouse(field, QEvent::MouseButtonDblClick, field.rect().center());
   EXPECT_EQ(seen, "");
 }
 
 TEST_F(MouseOn, NoMenuOpensOnAFieldThatRefuses) {
-  Form.Star.GotFocus = [&] { Form.Save.SetFocus(); };
-  Mouse(WidgetOf(Form.Star), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
-  QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 3}, WidgetOf(Form.Star).mapToGlobal(QPoint(3, 3)));
-  QApplication::sendEvent(&WidgetOf(Form.Star), &event);
+  Window.Second.GotFocus = [&] { Window.Push.SetFocus(); };
+  Mouse(WidgetOf(Window.Second), QEvent::MouseButtonPress, {3, 3}, Qt::RightButton);
+  QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 3}, WidgetOf(Window.Second).mapToGlobal(QPoint(3, 3)));
+  QApplication::sendEvent(&WidgetOf(Window.Second), &event);
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(MouseOn, AScreenReadersPressIsAClick) {
   int clicks = 0;
-  Form.Save.Click = [&] { ++clicks; };
-  dynamic_cast<QAbstractButton&>(WidgetOf(Form.Save)).click();
+  Window.Push.Click = [&] { ++clicks; };
+  dynamic_cast<QAbstractButton&>(WidgetOf(Window.Push)).click();
   EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(MouseOn, TheCloseBoxAsksTheForm) {
-  Form.Unload = [&] { Form.Title.SetText("unloaded"); };
+  Window.Unload = [&] { Window.First.SetText("unloaded"); };
   Drawn().close();
-  EXPECT_EQ(Form.Title.Text(), "unloaded");
-  EXPECT_FALSE(Form.Visible());
+  EXPECT_EQ(Window.First.Text(), "unloaded");
+  EXPECT_FALSE(Window.Visible());
   EXPECT_FALSE(Drawn().isVisible());
 }
 

@@ -11,7 +11,7 @@
 #include "desktop/notices.h"
 #include "desktop/qt_desk.h"
 #include "runtime/printer.h"
-#include "tests/desktop/small_window.h"
+#include "tests/desktop/drawn_window.h"
 #include "tests/kit/fresh_folder.h"
 
 namespace desktop {
@@ -84,7 +84,7 @@ TEST_F(Notices, AnActionRunsAndMayClearItsNotice) {
 TEST_F(Notices, NothingOfItTakesTheFocus) {
   QWidget* holder = Focus();
   std::string lost;
-  Form.Title.LostFocus = [&] { lost = "lost"; };
+  Window.First.LostFocus = [&] { lost = "lost"; };
   Line().Show("Saved", {{"Open", [] {}}, {"Show folder", [] {}}}, "a");
   for (QWidget* part : Line().findChildren<QWidget*>()) {
     EXPECT_EQ(part->focusPolicy(), Qt::NoFocus) << part->metaObject()->className();
@@ -107,25 +107,25 @@ TEST_F(Notices, AScreenReaderMeetsAnAlertThatSaysTheText) {
 }
 
 TEST_F(Notices, StayWithTheirWindowUntilItIsHidden) {
-  SmallForm other(Windows);
+  kit::SmallWindow other(Windows);
   Line().Show("Saved", {}, "a");
   other.Show();
   View.Sync();
   EXPECT_EQ(Line().parentWidget(), &Drawn());
-  Form.Hide();
+  Window.Hide();
   View.Sync();
   EXPECT_EQ(Line().parentWidget(), View.ViewOf(other));
   EXPECT_TRUE(Line().isVisible());
 }
 
 TEST_F(Notices, ANoticeOfAWindowThatTheEventHidesLiesBelowTheNext) {
-  SmallForm other(Windows);
+  kit::SmallWindow other(Windows);
   other.Show();
   View.Sync();
   View.Deliver([&] {
     Line().Show("Copied", {}, "a");
     other.Hide();
-    Form.Show();
+    Window.Show();
   });
   EXPECT_EQ(Line().parentWidget(), &Drawn());
 }
@@ -162,10 +162,10 @@ TEST_F(Notices, TheTimeInABoxIsNoWork) {
 TEST_F(Notices, ATypedCharacterThatIsNotTakenIsNamedUntilOneIsTaken) {
   Type(QString::fromUtf8("aж"));
   EXPECT_EQ(Line().Text(), QString::fromUtf8("ж cannot be stored"));
-  EXPECT_EQ(Form.Title.Text(), "a");
+  EXPECT_EQ(Window.First.Text(), "a");
   Type("b");
   EXPECT_TRUE(Line().Empty());
-  EXPECT_EQ(Form.Title.Text(), "ab");
+  EXPECT_EQ(Window.First.Text(), "ab");
 }
 
 TEST_F(Notices, TheNameOfARefusedCharacterGoesWithTheFocus) {
@@ -197,7 +197,7 @@ class DeskNotices : public testing::Test {
  protected:
   DeskNotices() : old_home_(qgetenv("HOME")) {
     qputenv("HOME", QByteArray::fromStdString(Home.Path().string()));
-    Form.Show();
+    Window.Show();
     View.Sync();
     Desk.DrawOn(View);
   }
@@ -206,7 +206,7 @@ class DeskNotices : public testing::Test {
   kit::FreshFolder Home;
   QtDesk Desk{Home.Path().string()};
   forms::WindowStack Windows{Desk};
-  SmallForm Form{Windows};
+  kit::SmallWindow Window{Windows};
   StackView View{Windows, [](const std::function<void()>& event) { event(); }};
 
  private:

@@ -1,14 +1,14 @@
 // The focus: who can hold it, what runs when it moves, where Tab moves it.
 #include <gtest/gtest.h>
 
-#include "tests/forms/small_window.h"
+#include "tests/kit/small_window.h"
 
 namespace {
 
 using Events = std::vector<std::string>;
 using forms::Key;
 
-class FocusTest : public testing::Test, protected SmallScreen {
+class FocusTest : public testing::Test, protected kit::SmallScreen {
  protected:
   std::string Holder() const { return Window.Focus() ? Window.Focus()->Name : ""; }
 };

@@ -1,13 +1,13 @@
 // Texts, lists and options: setters run their handlers before they return.
 #include <gtest/gtest.h>
 
-#include "tests/forms/small_window.h"
+#include "tests/kit/small_window.h"
 
 namespace {
 
 using Events = std::vector<std::string>;
 
-class TextTest : public testing::Test, protected SmallScreen {};
+class TextTest : public testing::Test, protected kit::SmallScreen {};
 
 TEST_F(TextTest, ADifferentTextRunsChangeBeforeTheSetterReturns) {
   std::string seen;
@@ -127,7 +127,7 @@ TEST_F(TextTest, WhatIsSeenOfAControlRaisesItsVersion) {
   EXPECT_NE(Window.First.Version(), std::exchange(version, Window.First.Version()));
   Window.First.Hide();
   EXPECT_NE(Window.First.Version(), std::exchange(version, Window.First.Version()));
-  Window.First.SetAlignment(forms::Align::Centre);
+  Window.First.SetAlignment(forms::Align::Left);
   EXPECT_NE(Window.First.Version(), std::exchange(version, Window.First.Version()));
   Window.First.SetText("a");
   EXPECT_EQ(Window.First.Version(), version);

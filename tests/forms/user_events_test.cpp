@@ -1,14 +1,14 @@
 // The user's clicks, moves and keys: what runs, in which order, and what ends a click.
 #include <gtest/gtest.h>
 
-#include "tests/forms/small_window.h"
+#include "tests/kit/small_window.h"
 
 namespace {
 
 using Events = std::vector<std::string>;
 using forms::Key;
 
-class UserEventsTest : public testing::Test, protected SmallScreen {
+class UserEventsTest : public testing::Test, protected kit::SmallScreen {
  protected:
   std::string Holder() const { return Window.Focus() ? Window.Focus()->Name : ""; }
 };
