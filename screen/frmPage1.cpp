@@ -27,7 +27,7 @@ frmPage1::frmPage1(forms::WindowStack& windows, runtime::Files& files)
 }
 
 #define SELECT_HELP_TOPIC(button, MouseMove) \
-  void frmPage1::button##_##MouseMove() { HelpContext = button.Ids.HelpId; }
+  void frmPage1::button##_##MouseMove() { HelpContext = (button).Ids.HelpId; }
 POINTER_HANDLERS(SELECT_HELP_TOPIC)
 #undef SELECT_HELP_TOPIC
 
