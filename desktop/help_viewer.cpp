@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "desktop/help_page.h"
@@ -56,14 +57,15 @@ HelpViewer::HelpViewer(std::string folder)
 }
 
 void HelpViewer::LayOut() {
-  auto* row = new QHBoxLayout;
+  auto row = std::make_unique<QHBoxLayout>();
   row->addWidget(&contents_);
   row->addWidget(&back_);
   row->addWidget(&search_line_, 1);
   row->addWidget(&search_);
-  auto* column = new QVBoxLayout(this);
-  column->addLayout(row);
+  auto column = std::make_unique<QVBoxLayout>();
+  column->addLayout(row.release());
   column->addWidget(&page_, 1);
+  setLayout(column.release());
   setTabOrder(&search_line_, &search_);
   setTabOrder(&search_, &page_);
   search_line_.setPlaceholderText(QStringLiteral("Search for words"));

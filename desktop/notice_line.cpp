@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace desktop {
@@ -47,7 +48,7 @@ NoticeLine::NoticeLine(std::function<void()> changed)
   close_.setAutoRaise(true);
   close_.setToolTip(QStringLiteral("Put away"));
   close_.setAccessibleName(QStringLiteral("Put away"));
-  auto* row = new QHBoxLayout(this);
+  auto row = std::make_unique<QHBoxLayout>();
   row->setContentsMargins(8, 3, 4, 3);
   row->addWidget(&text_, 1);
   row->addWidget(&bar_);
@@ -56,6 +57,7 @@ NoticeLine::NoticeLine(std::function<void()> changed)
     button->setFocusPolicy(Qt::NoFocus);
     row->addWidget(button);
   }
+  setLayout(row.release());
   for (std::size_t action = 0; action < action_buttons_.size(); ++action)
     connect(action_buttons_.at(action), &QAbstractButton::clicked, this, [this, action] { RunAction(action); });
   connect(&close_, &QAbstractButton::clicked, this, [this] { Clear(notices_.back().Key); });

@@ -119,7 +119,7 @@ struct PlayedProgram {
 std::string FirstDifference(const std::string& bare, const std::string& drawn) {
   std::istringstream bare_lines(bare), drawn_lines(drawn);
   for (std::string one, other; std::getline(bare_lines, one) && std::getline(drawn_lines, other);)
-    if (one != other) return "bare: " + one + "\ndrawn: " + other;
+    if (one != other) return one.insert(0, "bare: ").append("\ndrawn: ").append(other);
   return "";
 }
 
