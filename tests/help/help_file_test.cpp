@@ -49,7 +49,7 @@ TEST(ParseHelp, TellsLinksFromOtherBrackets) {
 
 TEST(ParseHelp, TakesAnythingForAFile) {
   EXPECT_TRUE(ParseHelp("").Topics.empty());
-  EXPECT_TRUE(ParseHelp(std::string("\0\xff\n\n[[{", 8)).Topics.empty());
+  EXPECT_TRUE(ParseHelp(std::string("\0\xff\n\n[[{", 7)).Topics.empty());
   EXPECT_EQ(ParseHelp("= {").Topics.size(), 1u);
   EXPECT_EQ(ParseHelp("= A {99999999999999 x").Topics.at(0).Numbers.size(), 0u);
 }

@@ -23,7 +23,7 @@ class Wiring : public testing::Test {
 };
 
 std::set<std::string> ListedHandlers() {
-#define NAME_OF(control, Event) #control "." #Event,
+#define NAME_OF(control, Event) std::string(#control "." #Event),
   return {CONTROL_HANDLERS(NAME_OF)};
 #undef NAME_OF
 }
