@@ -2,6 +2,7 @@
 #include "filecopy/copy_file.h"
 
 #include <string_view>
+#include <variant>
 
 #include "runtime/clock.h"
 #include "runtime/failure.h"
@@ -12,16 +13,74 @@ namespace {
 
 constexpr std::size_t BlockBytes = 256 * 1024;
 
-void WriteAside(const runtime::OpenFile& source, runtime::Disk& target_disk, const std::string& aside) {
-  runtime::OpenFile target(target_disk, aside, runtime::Disk::Mode::Create);
-  target.Truncate(0);
+// The temporary file's name begins so; a hidden file, and of one length for every target.
+const std::string AsideBase = ".reelora-copy";
+
+void RemoveStoppedCopies(runtime::Disk& disk) {
+  for (const std::string& name : disk.List("")) {
+    if (name.starts_with(AsideBase) && name.ends_with(runtime::AsideEnding)) runtime::Discard(disk, name);
+  }
+}
+
+void WriteContent(const runtime::OpenFile& source, const runtime::OpenFile& target) {
   std::string block(BlockBytes, '\0');
   std::int64_t offset = 0;
   while (std::size_t read = source.Read(block.data(), block.size(), offset)) {
     target.Write(std::string_view(block).substr(0, read), offset);
     offset += static_cast<std::int64_t>(read);
   }
-  target.Sync();
+}
+
+// A copy that found the target's disk full.
+struct NoRoom {
+  runtime::Failure Failure;
+  std::int64_t Taken = 0;  // bytes that the disk took, of which it is certain
+};
+
+// Returns the temporary file's name. No file is left after a failure.
+std::variant<std::string, NoRoom> WriteAside(const runtime::OpenFile& source, runtime::Disk& disk) {
+  std::string name;
+  std::int64_t taken = 0;
+  try {
+    runtime::OpenFile aside = runtime::CreateFresh(disk, AsideBase);
+    name = aside.Name();
+    try {
+      WriteContent(source, aside);
+    } catch (const runtime::Failure& failure) {
+      if (failure.Name == runtime::DiskFull) taken = aside.Length();
+      throw;
+    }
+    aside.SetModified(source.Modified());
+    aside.Sync();
+    return name;
+  } catch (const runtime::Failure& failure) {
+    if (!name.empty()) runtime::Discard(disk, name);
+    if (failure.Name != runtime::DiskFull) throw;
+    return NoRoom{failure, taken};
+  }
+}
+
+// Whether the disk has room for the source once the target is gone, and they are two files.
+bool MakesRoom(const runtime::OpenFile& source, runtime::Disk& disk, const std::string& target_name,
+               std::int64_t taken) {
+  try {
+    runtime::OpenFile target(disk, target_name, runtime::Disk::Mode::Read);
+    return target.Identity() != source.Identity() && taken + target.Length() >= source.Length();
+  } catch (const runtime::Failure& failure) {
+    if (failure.Name == runtime::FileNotFound) return false;
+    throw;
+  }
+}
+
+std::string WriteAsideOrInPlace(const runtime::OpenFile& source, runtime::Disk& disk, const std::string& target_name) {
+  std::variant<std::string, NoRoom> first = WriteAside(source, disk);
+  if (auto* name = std::get_if<std::string>(&first)) return *name;
+  const NoRoom& none = std::get<NoRoom>(first);
+  if (!MakesRoom(source, disk, target_name, none.Taken)) throw runtime::Failure(none.Failure);
+  runtime::RetryInterrupted(target_name, [&] { return disk.Remove(target_name); });
+  std::variant<std::string, NoRoom> second = WriteAside(source, disk);
+  if (auto* name = std::get_if<std::string>(&second)) return *name;
+  throw runtime::Failure(std::get<NoRoom>(second).Failure);
 }
 
 }  // namespace
@@ -29,9 +88,9 @@ void WriteAside(const runtime::OpenFile& source, runtime::Disk& target_disk, con
 Copied CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
                 const std::string& target_name) {
   runtime::OpenFile source(source_disk, source_name, runtime::Disk::Mode::Read);
-  std::string aside = "." + target_name + std::string(runtime::AsideEnding);
+  RemoveStoppedCopies(target_disk);
+  const std::string aside = WriteAsideOrInPlace(source, target_disk, target_name);
   try {
-    WriteAside(source, target_disk, aside);
     runtime::RetryInterrupted(target_name, [&] { return target_disk.Rename(aside, target_name); });
   } catch (const runtime::Failure&) {
     runtime::Discard(target_disk, aside);
@@ -47,7 +106,7 @@ Copied CopyFile(runtime::Disk& source_disk, const std::string& source_name, runt
 
 FileFacts FactsOf(runtime::Disk& disk, const std::string& name) {
   runtime::OpenFile file(disk, name, runtime::Disk::Mode::Read);
-  return {runtime::LocalTime(runtime::Checked(disk.Modified(name), name)), file.Length()};
+  return {runtime::LocalTime(file.Modified().Seconds), file.Length()};
 }
 
 }  // namespace filecopy

@@ -13,8 +13,10 @@ namespace filecopy {
 // there before.
 enum class Copied { Confirmed, Unconfirmed };
 
-// Writes a temporary file on the target's disk and renames it once it is complete. A stop at any moment, or a Failure,
-// which names what went wrong, leaves what was there before.
+// Writes a temporary file on the target's disk, with the date and time of the source, and renames it once it is
+// complete. A stop at any moment, or a Failure, which names what went wrong, leaves what was there before; only where
+// the disk has no room for both files but has for the new one in place of the old, the old one is removed first. What
+// earlier copies left on the target's disk when they were stopped is removed.
 Copied CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
                 const std::string& target_name);
 

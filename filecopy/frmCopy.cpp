@@ -21,7 +21,9 @@ constexpr std::string_view UnconfirmedText =
 frmCopy::frmCopy(forms::WindowStack& windows, frmPage1& record_screen)
     : Window(windows, "frmCopy", "Copy Files", 7200, 4800),
       RecordScreen(record_screen),
-      DiskIn([](const std::string& folder) { return std::make_unique<runtime::RealDisk>(folder); }) {
+      DiskIn([](const std::string& folder) {
+        return std::make_unique<runtime::RealDisk>(folder, runtime::RealDisk::Links::Refused);
+      }) {
   Modal = true;  // the master file is closed, and the record screen cannot work without it
   Load = [this] { frmCopy_Load(); };
   Unload = [this] { frmCopy_Unload(); };

@@ -22,6 +22,9 @@ std::string_view NameOfSystemError(int system_error) {
     case ELOOP:
     case ENAMETOOLONG:
     case ETXTBSY:
+    case EEXIST:
+    case ENXIO:
+    case ENODEV:
       return PathError;
     default:
       return DeviceError;

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <memory>
 #include <utility>
@@ -22,22 +23,51 @@ int SyncAndClose(int handle) {
   return result;
 }
 
+constexpr mode_t FilePermissions = 0666;
+
+bool IsInSafetyFolder(const std::string& name) {
+  return name.starts_with(SafetyFolder) && (name.size() == SafetyFolder.size() || name[SafetyFolder.size()] == '/');
+}
+
 }  // namespace
 
-RealDisk::RealDisk(std::string folder) : folder_(std::move(folder)) {}
+RealDisk::RealDisk(std::string folder, Links links) : folder_(std::move(folder)), links_(links) {}
 
 std::string RealDisk::PathOf(const std::string& name) const { return name.empty() ? folder_ : folder_ + "/" + name; }
 
-int RealDisk::Open(const std::string& name, Mode mode) {
-  int flags = mode == Mode::Read ? O_RDONLY : mode == Mode::ReadWrite ? O_RDWR : O_RDWR | O_CREAT;
-  int handle = static_cast<int>(OrError(::open(PathOf(name).c_str(), flags | O_CLOEXEC, 0666)));
-  if (handle < 0 || mode != Mode::Read) return handle;
+bool RealDisk::IsBehindLink(const std::string& name) const {
+  if (!IsInSafetyFolder(name)) return false;
   struct stat status {};
-  if (::fstat(handle, &status) == 0 && S_ISDIR(status.st_mode)) {
-    ::close(handle);
-    return -EISDIR;
-  }
+  return ::lstat(PathOf(std::string(SafetyFolder)).c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+// The flags that never wait, for the other end of a pipe or for a device.
+int RealDisk::OpenPath(const std::string& name, int flags) const {
+  flags |= O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  if (links_ == Links::Refused || IsInSafetyFolder(name)) flags |= O_NOFOLLOW;
+  const std::string path = PathOf(name);
+  if ((flags & O_CREAT) == 0) return static_cast<int>(OrError(::open(path.c_str(), flags)));
+  struct stat model {};
+  bool has_model = !like_.empty() && ::stat(PathOf(like_).c_str(), &model) == 0;
+  mode_t permissions = has_model ? model.st_mode & FilePermissions : FilePermissions;
+  int handle = static_cast<int>(OrError(::open(path.c_str(), flags, permissions)));
+  // Some disks keep no permissions; the file is as good without.
+  if (handle >= 0 && has_model) static_cast<void>(::fchmod(handle, permissions));
   return handle;
+}
+
+int RealDisk::Open(const std::string& name, Mode mode) {
+  if (IsBehindLink(name)) return -ELOOP;
+  int flags = mode == Mode::Read ? O_RDONLY : O_RDWR;
+  if (mode == Mode::CreateNew) flags |= O_CREAT | O_EXCL;
+  int handle = OpenPath(name, flags);
+  if (handle == -ENOENT && mode == Mode::Create) handle = OpenPath(name, flags | O_CREAT);
+  if (handle < 0) return handle;
+  struct stat status {};
+  int error = ::fstat(handle, &status) < 0 ? -errno : S_ISREG(status.st_mode) ? 0 : -EACCES;
+  if (error == 0) return handle;
+  ::close(handle);
+  return S_ISDIR(status.st_mode) ? -EISDIR : error;
 }
 
 void RealDisk::Close(int handle) { ::close(handle); }
@@ -61,32 +91,56 @@ int RealDisk::Truncate(int handle, std::int64_t length) {
 
 int RealDisk::Sync(int handle) { return static_cast<int>(OrError(::fsync(handle))); }
 
+int RealDisk::Identify(int handle, FileIdentity& identity) {
+  struct stat status {};
+  if (::fstat(handle, &status) < 0) return -errno;
+  identity = {status.st_dev, status.st_ino};
+  return 0;
+}
+
+int RealDisk::Modified(int handle, FileTime& time) {
+  struct stat status {};
+  if (::fstat(handle, &status) < 0) return -errno;
+  time = {status.st_mtim.tv_sec, static_cast<std::int32_t>(status.st_mtim.tv_nsec)};
+  return 0;
+}
+
+int RealDisk::SetModified(int handle, FileTime time) {
+  const std::array<timespec, 2> times = {timespec{0, UTIME_OMIT}, timespec{time.Seconds, time.Nanoseconds}};
+  int result = static_cast<int>(OrError(::futimens(handle, times.data())));
+  return result == -EPERM || result == -EINVAL || result == -ENOSYS || result == -ENOTSUP ? 0 : result;
+}
+
 int RealDisk::Rename(const std::string& from, const std::string& to) {
+  if (IsBehindLink(from) || IsBehindLink(to)) return -ELOOP;
   return static_cast<int>(OrError(::rename(PathOf(from).c_str(), PathOf(to).c_str())));
 }
 
-int RealDisk::Remove(const std::string& name) { return static_cast<int>(OrError(::unlink(PathOf(name).c_str()))); }
+int RealDisk::Remove(const std::string& name) {
+  return IsBehindLink(name) ? -ELOOP : static_cast<int>(OrError(::unlink(PathOf(name).c_str())));
+}
 
+// The new folder takes the permissions of the disk's own: who can write into that one can write into both.
 int RealDisk::MakeFolder(const std::string& name) {
   struct stat status {};
-  if (::stat(PathOf(name).c_str(), &status) == 0 && S_ISDIR(status.st_mode)) return 0;
-  return static_cast<int>(OrError(::mkdir(PathOf(name).c_str(), 0777)));
+  const std::string path = PathOf(name);
+  if (::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) return 0;
+  if (::mkdir(path.c_str(), 0777) < 0) return -errno;
+  if (::stat(folder_.c_str(), &status) == 0) static_cast<void>(::chmod(path.c_str(), status.st_mode & 0777));
+  return 0;
 }
 
 int RealDisk::SyncFolder(const std::string& name) {
-  int handle = static_cast<int>(OrError(::open(PathOf(name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+  int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (name.empty() ? 0 : O_NOFOLLOW);
+  int handle = static_cast<int>(OrError(::open(PathOf(name).c_str(), flags)));
   if (handle < 0) return handle;
   int result = SyncAndClose(handle);
   return result == -EINVAL ? 0 : result;  // some file systems cannot sync folders and need not
 }
 
-std::int64_t RealDisk::Modified(const std::string& name) {
-  struct stat status {};
-  return ::stat(PathOf(name).c_str(), &status) < 0 ? -errno : status.st_mtime;
-}
-
 std::vector<std::string> RealDisk::List(const std::string& folder) {
   std::vector<std::string> names;
+  if (IsBehindLink(folder)) return names;
   std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(PathOf(folder).c_str()), ::closedir);
   if (!listing) return names;
   while (const dirent* entry = ::readdir(listing.get())) {

@@ -1,6 +1,8 @@
 // Complete reads and writes, and the replacement of whole files.
 #include "runtime/whole_io.h"
 
+#include <cerrno>
+
 namespace runtime {
 
 std::string InSafetyFolder(std::string_view name) { return std::string(SafetyFolder) + "/" + std::string(name); }
@@ -24,6 +26,22 @@ OpenFile::~OpenFile() {
 
 std::int64_t OpenFile::Length() const {
   return RetryInterrupted(name_, [&] { return disk_->Length(handle_); });
+}
+
+FileIdentity OpenFile::Identity() const {
+  FileIdentity identity;
+  RetryInterrupted(name_, [&] { return disk_->Identify(handle_, identity); });
+  return identity;
+}
+
+FileTime OpenFile::Modified() const {
+  FileTime time;
+  RetryInterrupted(name_, [&] { return disk_->Modified(handle_, time); });
+  return time;
+}
+
+void OpenFile::SetModified(FileTime time) const {
+  RetryInterrupted(name_, [&] { return disk_->SetModified(handle_, time); });
 }
 
 std::size_t OpenFile::Read(char* target, std::size_t count, std::int64_t offset) const {
@@ -63,6 +81,20 @@ void MakeSafetyFolder(Disk& disk) {
 void SyncFolders(Disk& disk, std::string_view file) {
   RetryInterrupted(file, [&] { return disk.SyncFolder(std::string(SafetyFolder)); });
   RetryInterrupted(file, [&] { return disk.SyncFolder(""); });
+}
+
+OpenFile CreateFresh(Disk& disk, const std::string& base) {
+  constexpr int LastNumber = 1000;
+  for (int number = 1;; ++number) {
+    std::string name = base + (number == 1 ? "" : "." + std::to_string(number)) + std::string(AsideEnding);
+    int handle = 0;
+    do {
+      handle = disk.Open(name, Disk::Mode::CreateNew);
+    } while (handle == -EINTR);
+    if (handle == -EEXIST && number < LastNumber) continue;
+    Checked(handle, name);
+    return {disk, std::move(name), handle};
+  }
 }
 
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {

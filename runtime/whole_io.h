@@ -12,8 +12,6 @@
 
 namespace runtime {
 
-// Folder for journal, history, lock and temporary files, in the collection.
-inline constexpr std::string_view SafetyFolder = ".reelora";
 std::string InSafetyFolder(std::string_view name);
 
 // Returns the result or throws the Failure of its error number.
@@ -35,12 +33,17 @@ class OpenFile {
  public:
   // Throws if the file cannot be opened.
   OpenFile(Disk& disk, std::string name, Disk::Mode mode);
+  // Takes over a handle that is open.
+  OpenFile(Disk& disk, std::string name, int handle) : disk_(&disk), name_(std::move(name)), handle_(handle) {}
   OpenFile(OpenFile&& other) noexcept;
   OpenFile& operator=(OpenFile&&) = delete;
   ~OpenFile();
 
   const std::string& Name() const { return name_; }
   std::int64_t Length() const;
+  FileIdentity Identity() const;
+  FileTime Modified() const;
+  void SetModified(FileTime time) const;
   // Returns the bytes read: count, or fewer at the end of the file.
   std::size_t Read(char* target, std::size_t count, std::int64_t offset) const;
   void Write(std::string_view bytes, std::int64_t offset) const;
@@ -59,6 +62,8 @@ void MakeSafetyFolder(Disk& disk);
 // Makes name changes in both folders durable; file: named in a Failure.
 void SyncFolders(Disk& disk, std::string_view file);
 
+// Creates a temporary file, in no case one that was there before: BASE.new, or BASE.2.new and so on if that exists.
+OpenFile CreateFresh(Disk& disk, const std::string& base);
 // Writes a whole file to a temporary one, syncs it and puts it in place of the named one; a stop at any moment leaves
 // the old file or the new one.
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);

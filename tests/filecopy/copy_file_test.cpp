@@ -3,9 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <filesystem>
+
 #include "runtime/clock.h"
 #include "runtime/failure.h"
+#include "runtime/whole_io.h"
 #include "tests/kit/faulty_disk.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/passing_disk.h"
+#include "tests/story/world.h"
 
 namespace {
 
@@ -134,6 +141,125 @@ TEST(CopyFile, AFullDiskIsNamed) {
   } catch (const runtime::Failure& failure) {
     EXPECT_EQ(failure.Name, runtime::DiskFull);
   }
+}
+
+// A disk that has room for so many bytes in all.
+class SmallDisk final : public kit::PassingDisk {
+ public:
+  SmallDisk(MemoryDisk& below, std::size_t room) : PassingDisk(below), memory_(below), room_(room) {}
+  std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override {
+    std::size_t used = 0;
+    for (const auto& [name, bytes] : memory_.Content()) used += bytes.size();
+    if (used >= room_) return -ENOSPC;
+    return PassingDisk::WriteAt(handle, source, std::min(count, room_ - used), offset);
+  }
+
+ private:
+  MemoryDisk& memory_;
+  std::size_t room_;
+};
+
+std::string NameOfFailure(runtime::Disk& source, runtime::Disk& target) {
+  try {
+    filecopy::CopyFile(source, Name, target, Name);
+  } catch (const runtime::Failure& failure) {
+    return std::string(failure.Name);
+  }
+  return "";
+}
+
+TEST(CopyOnASmallDisk, TheOldFileGivesWayWhereOnlyOneHasRoom) {
+  MemoryDisk source(Folder{{Name, std::string(1000, 'n')}});
+  for (std::size_t old_length : {400U, 1000U, 1500U}) {
+    MemoryDisk below(Folder{{Name, std::string(old_length, 'o')}, {"other.txt", std::string(100, 'x')}});
+    SmallDisk target(below, std::max<std::size_t>(old_length, 1000) + 100);
+    EXPECT_EQ(NameOfFailure(source, target), "") << old_length;
+    EXPECT_EQ(below.Content().at(Name), source.Content().at(Name)) << old_length;
+    EXPECT_EQ(below.Content().size(), 2U);
+  }
+}
+
+TEST(CopyOnASmallDisk, TheOldFileStaysWhereTheNewOneHasNoRoomInItsPlace) {
+  MemoryDisk source(Folder{{Name, std::string(1000, 'n')}});
+  const Folder before = {{Name, std::string(400, 'o')}};
+  MemoryDisk below(before);
+  SmallDisk target(below, 999);
+  EXPECT_EQ(NameOfFailure(source, target), runtime::DiskFull);
+  EXPECT_EQ(below.Content(), before);
+}
+
+TEST(CopyOnASmallDisk, TheOldFileStaysWhereThereIsRoomForBoth) {
+  MemoryDisk source(Folder{{Name, std::string(1000, 'n')}});
+  MemoryDisk below(Folder{{Name, std::string(1000, 'o')}});
+  SmallDisk target(below, 2000);
+  ASSERT_EQ(NameOfFailure(source, target), "");
+  for (std::size_t moment = 0; moment <= below.Moments(); ++moment) {
+    for (const Folder& state : below.AfterPowerLoss(moment, 256)) ASSERT_TRUE(state.contains(Name)) << moment;
+  }
+}
+
+TEST(CopyOnASmallDisk, AFileNeverGivesWayToItself) {
+  const Folder before = {{Name, std::string(1000, 'n')}};
+  MemoryDisk below(before);
+  SmallDisk disk(below, 1500);
+  EXPECT_EQ(NameOfFailure(disk, disk), runtime::DiskFull);
+  EXPECT_EQ(below.Content(), before);
+}
+
+TEST(CopyFile, TheCopyHasTheTimeOfItsSource) {
+  const runtime::FileTime time = {-86'400, 250'000'000};
+  MemoryDisk source(Folder{{Name, New}});
+  MemoryDisk target(Folder{{Name, Old}});
+  runtime::OpenFile(source, Name, runtime::Disk::Mode::Read).SetModified(time);
+  filecopy::CopyFile(source, Name, target, Name);
+  EXPECT_EQ(runtime::OpenFile(target, Name, runtime::Disk::Mode::Read).Modified(), time);
+}
+
+TEST(CopyFile, TheLeftoversOfAStoppedCopyGoAtTheNext) {
+  MemoryDisk source(Folder{{Name, New}});
+  MemoryDisk below(Folder{{".hidden.new", "not ours"}});
+  FaultyDisk killing(below, {Fault::Kill, 4});
+  ASSERT_EQ(Copy(source, killing), Outcome::Killed);
+  ASSERT_EQ(below.Content().size(), 2U);
+  EXPECT_EQ(Copy(source, below), Outcome::Done);
+  EXPECT_EQ(below.Content(), (Folder{{".hidden.new", "not ours"}, {Name, New}}));
+}
+
+struct CopyOnRealDisks : testing::Test {
+  std::filesystem::path Lay(const std::string& name, const std::string& bytes) {
+    story::WriteBytes(Folder.Path() / name, bytes);
+    return Folder.Path() / name;
+  }
+  std::string Bytes(const std::string& name) { return story::ReadBytes(Folder.Path() / name).value_or("(missing)"); }
+
+  CopyOnRealDisks() {
+    std::filesystem::create_directory(Folder.Path() / "hard");
+    std::filesystem::create_directory(Folder.Path() / "floppy");
+  }
+  kit::FreshFolder Folder;
+  runtime::RealDisk Hard{Folder.Path() / "hard"};
+  runtime::RealDisk Floppy{Folder.Path() / "floppy", runtime::RealDisk::Links::Refused};
+};
+
+TEST_F(CopyOnRealDisks, TimesBefore1970AreCopiedToo) {
+  Lay("hard/Recpra.Dat", "films");
+  const runtime::FileTime time = {-1'000'000'000, 500};
+  runtime::OpenFile(Hard, Name, runtime::Disk::Mode::Read).SetModified(time);
+  EXPECT_EQ(filecopy::CopyFile(Hard, Name, Floppy, Name), filecopy::Copied::Confirmed);
+  EXPECT_EQ(runtime::OpenFile(Floppy, Name, runtime::Disk::Mode::Read).Modified(), time);
+  EXPECT_TRUE(runtime::LongDateText(filecopy::FactsOf(Floppy, Name).Modified).ends_with("1938"));
+}
+
+TEST_F(CopyOnRealDisks, NoLinkOfTheTargetIsFollowed) {
+  Lay("hard/Recpra.Dat", "films");
+  Lay("precious", "precious");
+  for (const char* name : {"Recpra.Dat", ".Recpra.Dat.new", ".reelora-copy.new", ".reelora-copy.2.new"})
+    std::filesystem::create_symlink("../precious", Folder.Path() / "floppy" / name);
+  EXPECT_THROW(filecopy::FactsOf(Floppy, Name), runtime::Failure);
+  filecopy::CopyFile(Hard, Name, Floppy, Name);
+  EXPECT_EQ(Bytes("precious"), "precious");
+  EXPECT_EQ(Bytes("floppy/Recpra.Dat"), "films");
+  EXPECT_FALSE(std::filesystem::is_symlink(Folder.Path() / "floppy/Recpra.Dat"));
 }
 
 TEST(FactsOf, AMissingFileIsNamed) {

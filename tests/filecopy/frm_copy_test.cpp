@@ -24,7 +24,10 @@ constexpr std::string_view NoDisk =
 class TimedDisk final : public kit::PassingDisk {
  public:
   TimedDisk(runtime::Disk& below, std::int64_t modified) : PassingDisk(below), modified_(modified) {}
-  std::int64_t Modified(const std::string&) override { return modified_; }
+  int Modified(int, runtime::FileTime& time) override {
+    time = {modified_, 0};
+    return 0;
+  }
 
  private:
   std::int64_t modified_;

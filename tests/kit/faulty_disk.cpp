@@ -100,6 +100,18 @@ int FaultyDisk::Sync(int handle) {
   return result;
 }
 
+int FaultyDisk::Identify(int handle, runtime::FileIdentity& identity) {
+  return Made([&] { return below_.Identify(handle, identity); });
+}
+
+int FaultyDisk::Modified(int handle, runtime::FileTime& time) {
+  return Made([&] { return below_.Modified(handle, time); });
+}
+
+int FaultyDisk::SetModified(int handle, runtime::FileTime time) {
+  return Made([&] { return below_.SetModified(handle, time); });
+}
+
 int FaultyDisk::Rename(const std::string& from, const std::string& to) {
   return Made([&] { return below_.Rename(from, to); });
 }

@@ -48,6 +48,9 @@ class FaultyDisk final : public runtime::Disk {
   std::int64_t Length(int handle) override;
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
+  int Identify(int handle, runtime::FileIdentity& identity) override;
+  int Modified(int handle, runtime::FileTime& time) override;
+  int SetModified(int handle, runtime::FileTime time) override;
   int Rename(const std::string& from, const std::string& to) override;
   int Remove(const std::string& name) override;
   int MakeFolder(const std::string& name) override;

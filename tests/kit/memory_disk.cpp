@@ -38,8 +38,9 @@ int MemoryDisk::Open(const std::string& name, Mode mode) {
   if (HasFolder(name)) return -EISDIR;
   if (!HasFolder(FolderOf(name))) return -ENOENT;
   auto found = names_.find(name);
+  if (found != names_.end() && mode == Mode::CreateNew) return -EEXIST;
   if (found == names_.end()) {
-    if (mode != Mode::Create) return -ENOENT;
+    if (mode != Mode::Create && mode != Mode::CreateNew) return -ENOENT;
     int node = static_cast<int>(nodes_.size());
     nodes_.emplace_back();
     found = names_.emplace(name, node).first;
@@ -97,6 +98,22 @@ int MemoryDisk::Truncate(int handle, std::int64_t length) {
 
 int MemoryDisk::Sync(int handle) {
   log_.push_back({Happened::Sync, handles_[static_cast<std::size_t>(handle)], 0, ""});
+  return 0;
+}
+
+int MemoryDisk::Identify(int handle, runtime::FileIdentity& identity) {
+  identity = {reinterpret_cast<std::uintptr_t>(this),
+              static_cast<std::uint64_t>(handles_[static_cast<std::size_t>(handle)])};
+  return 0;
+}
+
+int MemoryDisk::Modified(int handle, runtime::FileTime& time) {
+  time = times_[handles_[static_cast<std::size_t>(handle)]];
+  return 0;
+}
+
+int MemoryDisk::SetModified(int handle, runtime::FileTime time) {
+  times_[handles_[static_cast<std::size_t>(handle)]] = time;
   return 0;
 }
 

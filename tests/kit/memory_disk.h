@@ -39,6 +39,9 @@ class MemoryDisk final : public runtime::Disk {
   std::int64_t Length(int handle) override;
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
+  int Identify(int handle, runtime::FileIdentity& identity) override;
+  int Modified(int handle, runtime::FileTime& time) override;
+  int SetModified(int handle, runtime::FileTime time) override;
   int Rename(const std::string& from, const std::string& to) override;
   int Remove(const std::string& name) override;
   int MakeFolder(const std::string& name) override;
@@ -59,6 +62,7 @@ class MemoryDisk final : public runtime::Disk {
   bool HasFolder(const std::string& name) const { return folders_.contains(name); }
 
   std::vector<std::string> nodes_;
+  std::map<int, runtime::FileTime> times_;  // of nodes; a power failure leaves them as they are
   std::map<std::string, int> names_;
   std::set<std::string> folders_ = {""};
   std::vector<int> handles_;

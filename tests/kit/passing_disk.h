@@ -28,11 +28,15 @@ class PassingDisk : public runtime::Disk {
   std::int64_t Length(int handle) override { return below_.Length(handle); }
   int Truncate(int handle, std::int64_t length) override { return below_.Truncate(handle, length); }
   int Sync(int handle) override { return below_.Sync(handle); }
+  int Identify(int handle, runtime::FileIdentity& identity) override { return below_.Identify(handle, identity); }
+  int Modified(int handle, runtime::FileTime& time) override { return below_.Modified(handle, time); }
+  int SetModified(int handle, runtime::FileTime time) override { return below_.SetModified(handle, time); }
   int Rename(const std::string& from, const std::string& to) override { return below_.Rename(from, to); }
   int Remove(const std::string& name) override { return below_.Remove(name); }
   int MakeFolder(const std::string& name) override { return below_.MakeFolder(name); }
   int SyncFolder(const std::string& name) override { return below_.SyncFolder(name); }
   std::vector<std::string> List(const std::string& folder) override { return below_.List(folder); }
+  void NewFilesLike(const std::string& name) override { below_.NewFilesLike(name); }
 
  protected:
   runtime::Disk& Below() { return below_; }
