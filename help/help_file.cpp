@@ -50,17 +50,19 @@ void ReadHeading(std::string_view heading, HelpTopic& topic) {
 std::vector<HelpPiece> Pieces(std::string_view text) {
   std::vector<HelpPiece> pieces;
   std::string plain;
+  const std::size_t closing = text.rfind(']');
+  const std::size_t without_links = text.size() - (closing == std::string_view::npos ? 0 : closing + 1);
   while (!text.empty()) {
     std::string_view link = text.substr(1);
-    std::optional<int> number = text[0] == '[' ? RemoveNumber(link) : std::nullopt;
-    std::size_t end = link.find(']');
-    if (!number || !link.starts_with(' ') || end == std::string_view::npos) {
+    std::optional<int> number = text[0] == '[' && text.size() > without_links ? RemoveNumber(link) : std::nullopt;
+    if (!number || !link.starts_with(' ')) {
       plain += text[0];
       text.remove_prefix(1);
       continue;
     }
     if (!plain.empty()) pieces.push_back({plain});
     plain.clear();
+    const std::size_t end = link.find(']');
     pieces.push_back({std::string(link.substr(1, end - 1)), *number});
     text = link.substr(end + 1);
   }

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 namespace help {
 namespace {
 
@@ -69,6 +71,23 @@ TEST(HelpTopic, HoldsAllWordsInCapitalsOrNot) {
   EXPECT_TRUE(topic.Contains("ENTER laser"));
   EXPECT_TRUE(topic.Contains("press enter twice"));
   EXPECT_FALSE(topic.Contains("laser tape"));
+}
+
+// A search for the end of each link, through the whole text, would take a quarter of a minute.
+TEST(ParseHelp, ReadsAMegabyteOfLinksWithoutAnEndAtOnce) {
+  for (const char* piece : {"[1 ", "[1", "[", "[1 a]"}) {
+    for (const char* end : {"", "]"}) {
+      std::string text;
+      while (text.size() < 1024 * 1024) text += piece;
+      const auto start = std::chrono::steady_clock::now();
+      ParseHelp("= Topic {1}\n" + text + end + "\n");
+      EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3)) << piece << end;
+    }
+  }
+  HelpFile file = ParseHelp("= Topic {1}\n[1 [1[2 b] [3 c\n");
+  ASSERT_EQ(file.Topics[0].Paragraphs[0].Pieces.size(), 2U);
+  EXPECT_EQ(file.Topics[0].Paragraphs[0].Pieces[0].Text, "[1[2 b");
+  EXPECT_EQ(file.Topics[0].Paragraphs[0].Pieces[1].Text, " [3 c");
 }
 
 }  // namespace
