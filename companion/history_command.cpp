@@ -38,9 +38,19 @@ std::optional<Request> ParseArguments(std::vector<std::string> arguments) {
   return request;
 }
 
+// Characters that could steer a terminal become question marks.
+std::string Printable(std::string_view text) {
+  std::string printable(text);
+  for (char& character : printable) {
+    const char32_t unicode = runtime::ToUnicode(character);
+    if (unicode < U' ' || (unicode >= 0x7F && unicode < 0xA0)) character = '?';
+  }
+  return runtime::ToUtf8(printable);
+}
+
 std::string TitleOf(const store::FilmRecord& film) {
   std::string_view title = runtime::Trim(film.Get(store::FilmField::Title));
-  return title.empty() ? "nothing" : runtime::ToUtf8(title);
+  return title.empty() ? "nothing" : Printable(title);
 }
 
 store::FilmRecord ReadSlot(const runtime::OpenFile& master, std::int64_t slot) {
@@ -57,8 +67,8 @@ void List(const std::vector<store::KeptFilm>& films, const runtime::OpenFile& ma
   out << "   No.  overwritten          record  film, and what stands there now\n";
   for (const store::KeptFilm& kept : films) {
     store::FilmRecord current = ReadSlot(master, kept.Slot);
-    out << std::setw(6) << kept.Number << "  " << kept.When << std::setw(8) << kept.Slot << "  " << TitleOf(kept.Film)
-        << (current.Bytes == kept.Film.Bytes ? " - this film" : " - " + TitleOf(current)) << "\n";
+    out << std::setw(6) << kept.Number << "  " << Printable(kept.When) << std::setw(8) << kept.Slot << "  "
+        << TitleOf(kept.Film) << (current.Bytes == kept.Film.Bytes ? " - this film" : " - " + TitleOf(current)) << "\n";
   }
 }
 
@@ -85,6 +95,7 @@ int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& o
   }
   try {
     runtime::RealDisk disk(request->Folder);
+    disk.NewFilesLike(std::string(store::MasterFileName));
     runtime::OpenFile master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
     if (!request->Undo) {
       List(store::ReadHistory(disk), master, out);

@@ -99,6 +99,20 @@ TEST_F(HistoryCommand, PutsADeletedFilmBack) {
   EXPECT_EQ(Master(), before);
 }
 
+TEST_F(HistoryCommand, SendsNoControlCharacterToTheTerminal) {
+  Put(2, Film("\x1B]0;owned\x07"));
+  Put(2, Film("\x9D"
+              "1\x90\x7F\x80"));
+  Put(2, Film("Ran"));
+  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     2         2  ?]0;owned? - Ran",
+                             "     3         2  ?1??€ - Ran"}));
+  std::fstream history(HistoryPath(), std::ios::in | std::ios::out | std::ios::binary);
+  history << "\x1B[31m";
+  history.close();
+  EXPECT_EQ(Run({}), 0);
+  EXPECT_EQ(Out.str().find('\x1B'), std::string::npos);
+}
+
 TEST_F(HistoryCommand, DoesNothingWhileTheProgramRunsOnTheFolder) {
   Put(2, Film("Brazil"));
   std::string before = Master();
