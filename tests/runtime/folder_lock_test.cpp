@@ -2,6 +2,8 @@
 #include "runtime/folder_lock.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -24,6 +26,51 @@ TEST(FolderLock, LiesInTheFoldersOwnSubfolder) {
   kit::FreshFolder folder;
   FolderLock lock(folder.Path().string());
   EXPECT_TRUE(std::filesystem::exists(folder.Path() / ".reelora/lock"));
+}
+
+// Another user's lock file can be read and not written. To the superuser every file is writable; so the test steps
+// down.
+class AsAnotherUser {
+ public:
+  AsAnotherUser() { stepped_down_ = geteuid() == 0 && seteuid(65534) == 0; }
+  ~AsAnotherUser() {
+    if (stepped_down_) static_cast<void>(seteuid(0));
+  }
+  AsAnotherUser(const AsAnotherUser&) = delete;
+  AsAnotherUser& operator=(const AsAnotherUser&) = delete;
+
+ private:
+  bool stepped_down_ = false;
+};
+
+bool HeldByAnotherUser(const std::string& folder) {
+  AsAnotherUser user;
+  return FolderLock(folder).Held();
+}
+
+TEST(FolderLock, HoldsTheFolderAgainstAnotherUser) {
+  kit::FreshFolder folder;
+  const std::filesystem::path lock = folder.Path() / ".reelora/lock";
+  chmod(folder.Path().c_str(), 0777);
+  {
+    FolderLock first(folder.Path().string());
+    for (mode_t permissions : {0666, 0444, 0000}) {
+      chmod(lock.c_str(), permissions);
+      EXPECT_FALSE(HeldByAnotherUser(folder.Path().string())) << std::oct << permissions;
+    }
+  }
+  chmod(lock.c_str(), 0444);
+  EXPECT_TRUE(HeldByAnotherUser(folder.Path().string()));
+}
+
+TEST(FolderLock, IsForEveryUserWhateverTheMask) {
+  kit::FreshFolder folder;
+  const mode_t mask = umask(077);
+  FolderLock lock(folder.Path().string());
+  umask(mask);
+  struct stat status {};
+  ASSERT_EQ(stat((folder.Path() / ".reelora/lock").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0666U);
 }
 
 TEST(FolderLock, DoesNotStandInTheWayWhereNoneCanBeMade) { EXPECT_TRUE(FolderLock("/nowhere/at/all").Held()); }
