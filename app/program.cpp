@@ -6,6 +6,7 @@
 
 #include "forms/window.h"
 #include "runtime/whole_io.h"
+#include "store/master_file.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ Program::Program(forms::Desk& desk, runtime::Disk& disk)
   for (forms::Window* window : {static_cast<forms::Window*>(&Opener), static_cast<forms::Window*>(&Info)})
     window->HiddenBehind = &RecordScreen;
   RecordScreen.OpenCopyWindow = [this] { Copy.Open(); };
+  disk.NewFilesLike(std::string(store::MasterFileName));
   runtime::RemoveLeftovers(disk);
 }
 

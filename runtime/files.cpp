@@ -12,6 +12,7 @@ namespace runtime {
 namespace {
 
 constexpr std::size_t ReadAheadBytes = 256 * 1024;
+constexpr std::int64_t LongestInput = 1024 * 1024;
 
 }  // namespace
 
@@ -89,7 +90,7 @@ void Files::OpenInput(int number, std::string_view name) {
   file->As = NumberedFile::Use::Input;
   file->Name = name;
   OpenFile handle(disk_, file->Name, Disk::Mode::Read);
-  file->Text.resize(static_cast<std::size_t>(handle.Length()));
+  file->Text.resize(static_cast<std::size_t>(std::min(handle.Length(), LongestInput)));
   file->Text.resize(handle.Read(file->Text.data(), file->Text.size(), 0));
   slot = std::move(file);
 }
@@ -106,6 +107,7 @@ void Files::Close(int number) {
   std::unique_ptr<NumberedFile> file = std::move(files_[number - 1]);
   if (file->As != NumberedFile::Use::Output) return;
   ReplaceFile(disk_, file->Name, file->Text);
+  if (!together_) SyncFolders(disk_, file->Name);
   Replaced(file->Name);
 }
 
@@ -158,6 +160,19 @@ std::int64_t Files::Length(int number) {
 
 std::int64_t Files::Length(std::string_view name) {
   return OpenFile(disk_, std::string(name), Disk::Mode::Read).Length();
+}
+
+void Files::ReplaceTogether(const std::function<void()>& call) {
+  if (together_) return call();
+  together_ = true;
+  try {
+    call();
+  } catch (...) {
+    together_ = false;
+    throw;
+  }
+  together_ = false;
+  SyncFolders(disk_, SafetyFolder);
 }
 
 void Files::Replaced(std::string_view name) {

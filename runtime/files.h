@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,9 +26,9 @@ class Files {
   // "File already open" if the number is in use. Random: created empty if missing; record_length in bytes; before:
   // called at each Put.
   void OpenRandom(int number, std::string_view name, int record_length, BeforeOverwrite before = nullptr);
-  // "File not found" if it is missing.
+  // "File not found" if it is missing. Only its first megabyte is read.
   void OpenInput(int number, std::string_view name);
-  // Replaces the old file when it is closed.
+  // Replaces the old file when it is closed. What is written lies in memory until then.
   void OpenOutput(int number, std::string_view name);
   // Does nothing if the number is not open.
   void Close(int number);
@@ -56,6 +57,9 @@ class Files {
   runtime::Disk& Disk() { return disk_; }
   // Call when the named file was replaced as a whole: numbers that have it open then read the new content.
   void Replaced(std::string_view name);
+  // Runs the call; the files that it replaces, by Close or by other means, share the syncs of the two folders, which
+  // come last. A stop before leaves each file old or new.
+  void ReplaceTogether(const std::function<void()>& call);
 
  private:
   struct NumberedFile;
@@ -65,6 +69,7 @@ class Files {
   runtime::Disk& disk_;
   RecordJournal journal_;
   std::int64_t records_written_ = 0;
+  bool together_ = false;
   std::array<std::unique_ptr<NumberedFile>, 5> files_;
 };
 

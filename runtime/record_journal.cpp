@@ -1,170 +1,148 @@
-// The journal block, the write in place, and the recovery.
+// The write in place, and the recovery. A gap before a far slot is written and compared piece by piece.
 #include "runtime/record_journal.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-#include <optional>
+#include <string>
+
+#include "runtime/journal_block.h"
 
 namespace runtime {
 namespace {
 
-constexpr std::string_view Mark = "REELORA1";
-constexpr std::size_t NameWidth = 32;
+constexpr std::int64_t SectorBytes = 512;
+constexpr std::int64_t PieceBytes = 128 * SectorBytes;
 
-// The part of the block before the two images.
-struct BlockHead {
-  std::array<char, 8> Mark;
-  std::array<char, NameWidth> Name;
-  std::int64_t Slot;
-  std::int64_t LengthBefore;
-  std::int64_t RecordLength;
-};
-
-struct Block {
-  BlockHead Head;
-  std::string OldImage;  // zeros past the old end of the file
-  std::string NewImage;
-};
-
-// In bytes. A slot further past the end is a corrupt number.
-constexpr std::int64_t WidestGap = std::int64_t{1} << 30;
-
-std::string JournalName() { return InSafetyFolder("journal"); }
-
-std::uint64_t Checksum(std::string_view bytes) {
-  std::uint64_t sum = 0xCBF29CE484222325;
-  for (char byte : bytes) sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
-  return sum;
+// Where the sector or piece of the file ends in which that offset lies.
+std::int64_t EndOf(std::int64_t unit, std::int64_t offset, std::int64_t end) {
+  return std::min(end, (offset / unit + 1) * unit);
 }
 
-std::array<char, NameWidth> NameOf(std::string_view file) {
-  std::array<char, NameWidth> name{};
-  file.copy(name.data(), name.size());
-  return name;
+// The content of the file from that offset on, as the block has it: the gap filled, then the image.
+void Fill(std::string& piece, std::int64_t from, const JournalBlock& block, char gap, const std::string& image) {
+  auto before = std::clamp<std::int64_t>(block.Offset() - from, 0, std::ssize(piece));
+  std::fill_n(piece.begin(), before, gap);
+  auto in_image = static_cast<std::size_t>(from + before - block.Offset());
+  if (before < std::ssize(piece)) image.copy(piece.data() + before, piece.size() - before, in_image);
 }
 
-std::string Bytes(const Block& block) {
-  std::string bytes(reinterpret_cast<const char*>(&block.Head), sizeof block.Head);
-  bytes += block.OldImage + block.NewImage;
-  std::uint64_t sum = Checksum(bytes);
-  bytes.append(reinterpret_cast<const char*>(&sum), sizeof sum);
-  return bytes;
-}
+// Torn: each sector of the file that the write changes is wholly old or wholly new, and the file ends as the write
+// found it, as it was to leave it, or in between.
+enum class State { Old, New, Torn, Foreign };
 
-// The journal block, if it is intact and for this file.
-std::optional<Block> ReadBlock(Disk& disk, std::string_view file_name, int record_length) {
-  std::string bytes(sizeof(BlockHead) + 2 * record_length + sizeof(std::uint64_t), '\0');
-  try {
-    OpenFile journal(disk, JournalName(), Disk::Mode::Read);
-    if (journal.Read(bytes.data(), bytes.size(), 0) != bytes.size()) return std::nullopt;
-  } catch (const Failure& failure) {
-    if (failure.Name == FileNotFound) return std::nullopt;
-    throw;
+State StateOf(const OpenFile& file, const JournalBlock& block) {
+  const std::int64_t length = file.Length();
+  if (length < block.LengthBefore || length > block.LengthAfter()) return State::Foreign;
+  bool is_old = length == block.LengthBefore, is_new = length == block.LengthAfter();
+  const std::int64_t slot_end = std::min(length, block.Offset() + std::ssize(block.NewImage));
+  std::string found, old_piece, new_piece;
+  for (std::int64_t from = block.From(); from < slot_end; from += std::ssize(found)) {
+    const auto size = static_cast<std::size_t>(EndOf(PieceBytes, from, slot_end) - from);
+    for (std::string* piece : {&found, &old_piece, &new_piece}) piece->resize(size);
+    if (file.Read(found.data(), size, from) < size) return State::Foreign;
+    Fill(old_piece, from, block, '\0', block.OldImage);
+    Fill(new_piece, from, block, ' ', block.NewImage);
+    for (std::int64_t at = from; at < from + std::ssize(found); at = EndOf(SectorBytes, at, slot_end)) {
+      const auto place = static_cast<std::size_t>(at - from);
+      const auto sector = static_cast<std::size_t>(EndOf(SectorBytes, at, slot_end) - at);
+      const bool same_old = found.compare(place, sector, old_piece, place, sector) == 0;
+      const bool same_new = found.compare(place, sector, new_piece, place, sector) == 0;
+      if (!same_old && !same_new) return State::Foreign;
+      is_old = is_old && same_old;
+      is_new = is_new && same_new;
+    }
   }
-  std::string_view body(bytes.data(), bytes.size() - sizeof(std::uint64_t));
-  std::uint64_t sum = 0;
-  std::memcpy(&sum, bytes.data() + body.size(), sizeof sum);
-  Block block;
-  std::memcpy(&block.Head, bytes.data(), sizeof block.Head);
-  block.OldImage = body.substr(sizeof block.Head, record_length);
-  block.NewImage = body.substr(sizeof block.Head + record_length, record_length);
-  bool ours = sum == Checksum(body) && Mark.compare({block.Head.Mark.data(), Mark.size()}) == 0 &&
-              block.Head.Name == NameOf(file_name);
-  return ours ? std::optional(block) : std::nullopt;
+  return is_old ? State::Old : is_new ? State::New : State::Torn;
 }
 
-// The bytes of the file that a write changes: from the end of the file or from the slot, whichever comes first.
-struct Stretch {
-  std::int64_t From;
-  std::int64_t LengthBefore, LengthAfter;  // of the file
-  std::string Old;                         // zeros past the old end
-  std::string New;                         // blanks between the end of the file and the slot
-};
-
-Stretch StretchOf(const Block& block) {
-  std::int64_t before = block.Head.LengthBefore;
-  std::int64_t offset = (block.Head.Slot - 1) * block.Head.RecordLength;
-  std::size_t gap = offset > before ? static_cast<std::size_t>(offset - before) : 0;
-  return {std::min(offset, before), before, std::max(before, offset + block.Head.RecordLength),
-          std::string(gap, '\0') + block.OldImage, std::string(gap, ' ') + block.NewImage};
-}
-
-// Whether every byte comes from one of the two.
-bool IsMixture(std::string_view found, std::string_view one, std::string_view other) {
-  for (std::size_t index = 0; index < found.size(); ++index) {
-    if (found[index] != one[index] && found[index] != other[index]) return false;
+// Each sector in one call: one that is written twice could be found on the disk as it was in between.
+void WriteNew(const OpenFile& file, const JournalBlock& block) {
+  const std::int64_t end = block.Offset() + std::ssize(block.NewImage);
+  std::string piece;
+  for (std::int64_t from = block.From(); from < end; from += std::ssize(piece)) {
+    piece.resize(static_cast<std::size_t>(EndOf(PieceBytes, from, end) - from));
+    Fill(piece, from, block, ' ', block.NewImage);
+    file.Write(piece, from);
   }
-  return true;
 }
 
-void TakeBack(const OpenFile& file, const Stretch& stretch) {
-  auto held = static_cast<std::size_t>(stretch.LengthBefore - stretch.From);
-  file.Write(std::string_view(stretch.Old).substr(0, held), stretch.From);
-  if (stretch.LengthAfter > stretch.LengthBefore) file.Truncate(stretch.LengthBefore);
+// The sector in which the file ended becomes wholly old, zeros included, before the file is cut back.
+void TakeBack(const OpenFile& file, const JournalBlock& block) {
+  const std::int64_t slot_end = std::min(file.Length(), block.Offset() + std::ssize(block.NewImage));
+  const std::int64_t end = EndOf(SectorBytes, block.LengthBefore, slot_end);
+  if (block.Offset() < block.LengthBefore && block.Offset() < end) {
+    std::string old_part(static_cast<std::size_t>(end - block.Offset()), '\0');
+    Fill(old_part, block.Offset(), block, '\0', block.OldImage);
+    file.Write(old_part, block.Offset());
+  }
+  if (block.LengthAfter() > block.LengthBefore) file.Truncate(block.LengthBefore);
 }
 
 // Also after a failed sync: it is unknown which bytes reached the disk.
-void TryToTakeBack(const OpenFile& file, const Stretch& stretch) {
+void TryToTakeBack(const OpenFile& file, const JournalBlock& block) {
   try {
-    TakeBack(file, stretch);
+    TakeBack(file, block);
   } catch (const Failure&) {
     return;  // the first failure is the one to report; the journal has both images for the next start
+  }
+}
+
+bool HasItsName(Disk& disk, const OpenFile& file) {
+  try {
+    return OpenFile(disk, file.Name(), Disk::Mode::Read).Identity() == file.Identity();
+  } catch (const Failure& failure) {
+    if (failure.Name == FileNotFound) return false;
+    throw;
   }
 }
 
 }  // namespace
 
 void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_view record, BeforeOverwrite before) {
-  std::int64_t offset = (slot - 1) * static_cast<std::int64_t>(record.size());
-  Block block{{}, std::string(record.size(), '\0'), std::string(record)};
-  block.Head.LengthBefore = file.Length();
-  if (offset - block.Head.LengthBefore > WidestGap) throw Failure{BadRecordNumber, file.Name()};
-  std::size_t held = file.Read(block.OldImage.data(), record.size(), offset);
-  Mark.copy(block.Head.Mark.data(), Mark.size());
-  block.Head.Name = NameOf(file.Name());
-  block.Head.Slot = slot;
-  block.Head.RecordLength = static_cast<std::int64_t>(record.size());
+  JournalBlock block{file.Name(), slot, file.Length(), std::string(record.size(), '\0'), std::string(record)};
+  if (block.Offset() - block.LengthBefore > WidestGap) throw Failure{BadRecordNumber, file.Name()};
+  const std::size_t held = file.Read(block.OldImage.data(), record.size(), block.Offset());
 
   MakeSafetyFolder(disk_);
-  if (before) before(disk_, slot, std::string_view(block.OldImage).substr(0, held), record);
-  WriteBlock(Bytes(block));
-  Stretch stretch = StretchOf(block);
-  try {
-    file.Write(stretch.New, stretch.From);
-    file.Sync();
-  } catch (const Failure&) {
-    TryToTakeBack(file, stretch);
-    throw;
-  }
-}
-
-void RecordJournal::WriteBlock(const std::string& block) {
-  OpenFile journal(disk_, JournalName(), Disk::Mode::Create);
-  journal.Write(block, 0);
+  const OpenFile journal = OpenJournal(disk_);
+  // Empty files may be new ones.
+  if (block.LengthBefore == 0 || journal.Length() == 0) folders_synced_ = false;
+  WriteBlock(journal, block);
   journal.Sync();
-  // Even if the files existed: a run that was killed may not have synced the folders.
+  if (before && before(disk_, slot, std::string_view(block.OldImage).substr(0, held), record)) folders_synced_ = false;
   if (!folders_synced_) SyncFolders(disk_, journal.Name());
   folders_synced_ = true;
+  if (!HasItsName(disk_, file)) {
+    MarkDone(journal);
+    throw Failure{PathError, file.Name()};
+  }
+  try {
+    WriteNew(file, block);
+    file.Sync();
+  } catch (const Failure&) {
+    TryToTakeBack(file, block);
+    throw;
+  }
+  MarkDone(journal);
 }
 
 void RecordJournal::Recover(const OpenFile& file, int record_length) {
-  folders_synced_ = false;
-  std::optional<Block> block = ReadBlock(disk_, file.Name(), record_length);
-  if (!block) return;
-  Stretch stretch = StretchOf(*block);
-  std::int64_t length = file.Length();
-  if (length < stretch.LengthBefore) return;
-  std::string found(stretch.New.size(), '\0');
-  found.resize(file.Read(found.data(), found.size(), stretch.From));
-  if (!IsMixture(found, stretch.Old, stretch.New)) return;
-
-  bool grew = length > stretch.LengthBefore;
-  bool is_old = !grew && stretch.Old.starts_with(found);
-  if (length < stretch.LengthAfter && !is_old) TakeBack(file, stretch);
-  if (length == stretch.LengthAfter && !is_old && found != stretch.New) file.Write(stretch.New, stretch.From);
-  // Even a complete record may be only in the cache, and the next write overwrites this block.
+  const FoundJournal found = ReadJournal(disk_, file.Name(), record_length);
+  folders_synced_ = found.IsDone;
+  if (!found.Block) return;
+  const State state = StateOf(file, *found.Block);
+  if (state == State::Foreign) return;
+  if (state == State::Torn) {
+    if (file.Length() == found.Block->LengthAfter()) {
+      WriteNew(file, *found.Block);
+    } else {
+      TakeBack(file, *found.Block);
+    }
+  }
+  // Even a complete record may be only in the cache, and a block that is done is of no use.
   file.Sync();
+  SyncFolders(disk_, file.Name());
+  folders_synced_ = true;
+  MarkDone(OpenJournal(disk_));
 }
 
 }  // namespace runtime

@@ -1,11 +1,8 @@
-// How a record is written so that a stop at any moment leaves the old record or the new one.
-//
-// `.reelora/journal` contains one block: mark, file name, slot, record length, length of the file before, old image,
-// new image, checksum. It is written and synced before the slot is touched; the next write overwrites it.
+// How a record is written so that a stop at any moment leaves the old record or the new one: a block in the journal
+// (journal_block.h) is written and synced before the slot is touched; the next write overwrites it.
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "runtime/whole_io.h"
@@ -13,8 +10,9 @@
 namespace runtime {
 
 // Called before a slot is written: what it contains (shorter if the file ends in it, empty past the end) and the record
-// to come. What the function writes to the safety folder must be synced when it returns.
-using BeforeOverwrite = void (*)(Disk& disk, std::int64_t slot, std::string_view old_record,
+// to come. What the function writes to the safety folder must be synced when it returns. Returns whether it may have
+// made a file, whose name is then made durable before the slot is written.
+using BeforeOverwrite = bool (*)(Disk& disk, std::int64_t slot, std::string_view old_record,
                                  std::string_view new_record);
 
 class RecordJournal {
@@ -22,16 +20,16 @@ class RecordJournal {
   explicit RecordJournal(Disk& disk) : disk_(disk) {}
 
   // Writes the record, from 1, into its slot, after a call of `before` if there is one. Blanks fill a gap between the
-  // end of the file and the slot; "Bad record number" if that is over a gigabyte. Returns when the record is on the
-  // disk; after a failure the old record is written back as far as the disk allows.
+  // end of the file and the slot; "Bad record number" if that is over a gigabyte. "Path/File access error" if the
+  // file's name leads to another file by now, or to none. Returns when the record is on the disk; after a failure the
+  // old record is written back as far as the disk allows.
   void Write(const OpenFile& file, std::int64_t slot, std::string_view record, BeforeOverwrite before = nullptr);
   // Call after opening: completes or undoes an interrupted write of ours and leaves everything else alone.
   void Recover(const OpenFile& file, int record_length);
 
  private:
-  // Writes the block and syncs it.
-  void WriteBlock(const std::string& block);
   Disk& disk_;
+  // Whether the names of the safety folder and of its files are durable. A block that is done tells it of earlier runs.
   bool folders_synced_ = false;
 };
 

@@ -99,19 +99,15 @@ OpenFile CreateFresh(Disk& disk, const std::string& base) {
 
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
   MakeSafetyFolder(disk);
-  std::string aside = InSafetyFolder(std::string(name) + std::string(AsideEnding));
-  {
-    OpenFile file(disk, aside, Disk::Mode::Create);
-    file.Truncate(0);
-    file.Write(content, 0);
-    file.Sync();
+  const OpenFile aside = CreateFresh(disk, InSafetyFolder(name));
+  try {
+    aside.Write(content, 0);
+    aside.Sync();
+    RetryInterrupted(name, [&] { return disk.Rename(aside.Name(), std::string(name)); });
+  } catch (const Failure&) {
+    Discard(disk, aside.Name());
+    throw;
   }
-  TakePlace(disk, aside, name);
-}
-
-void TakePlace(Disk& disk, std::string_view aside, std::string_view name) {
-  RetryInterrupted(name, [&] { return disk.Rename(std::string(aside), std::string(name)); });
-  SyncFolders(disk, name);
 }
 
 void Discard(Disk& disk, const std::string& name) {

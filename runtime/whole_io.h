@@ -65,10 +65,8 @@ void SyncFolders(Disk& disk, std::string_view file);
 // Creates a temporary file, in no case one that was there before: BASE.new, or BASE.2.new and so on if that exists.
 OpenFile CreateFresh(Disk& disk, const std::string& base);
 // Writes a whole file to a temporary one, syncs it and puts it in place of the named one; a stop at any moment leaves
-// the old file or the new one.
+// the old file or the new one. The new one is sure to stay once the folders are synced.
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);
-// Puts a complete, synced file of the safety folder in place of the named one.
-void TakePlace(Disk& disk, std::string_view aside, std::string_view name);
 // Removes a temporary file; a failure is ignored, since the file does no harm.
 void Discard(Disk& disk, const std::string& name);
 // Discards what a stop left in the safety folder.

@@ -17,17 +17,19 @@ void frmPage1::txtRatings_LostFocus() {
   SaveRecord();
   cmdPrevious.Enable();
   if (NewMode == 1) EditMode = 0;
-  MakePasses();
-  if (sort_on && save_on && NewMode == 1) {
-    cmdSave.SetFocus();
-    cmdSave_Click();
-    optNotesoff_Click();
-  }
-  if (AutoSaveSetting == "NO" && AutoSortSetting == "NO" && NewMode == 1) {
-    lblSorting.SetCaption(std::string(60, ' ') + "You Must Save And Sort Your Work!");
-  }
-  Files.OpenOutput(CountFileNo, "Last");
-  Files.WriteLine(CountFileNo, runtime::NumberText(CurrentRecNo) + " ");
-  Files.Close(CountFileNo);
+  Files.ReplaceTogether([&] {
+    MakePasses();
+    if (sort_on && save_on && NewMode == 1) {
+      cmdSave.SetFocus();
+      cmdSave_Click();
+      optNotesoff_Click();
+    }
+    if (AutoSaveSetting == "NO" && AutoSortSetting == "NO" && NewMode == 1) {
+      lblSorting.SetCaption(std::string(60, ' ') + "You Must Save And Sort Your Work!");
+    }
+    Files.OpenOutput(CountFileNo, "Last");
+    Files.WriteLine(CountFileNo, runtime::NumberText(CurrentRecNo) + " ");
+    Files.Close(CountFileNo);
+  });
   LastEntryRecNo = std::to_string(CurrentRecNo);
 }

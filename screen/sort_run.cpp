@@ -115,11 +115,13 @@ void frmPage1::MakePasses() {
   std::int32_t Retcode = 0;
   sort::Sorter sorter(Files.Disk());
   double before = 0;  // passes done
-  for (const SortPass& pass : Passes) {
-    sorter.Progress = [&](double read) { Desk.Progress(pass.Label, (before + read) / std::size(Passes)); };
-    MakePass(*this, pass, sorter, Numrec, Retcode);
-    before += 1;
-  }
+  Files.ReplaceTogether([&] {
+    for (const SortPass& pass : Passes) {
+      sorter.Progress = [&](double read) { Desk.Progress(pass.Label, (before + read) / std::size(Passes)); };
+      MakePass(*this, pass, sorter, Numrec, Retcode);
+      before += 1;
+    }
+  });
   lblNumrec.SetCaption(runtime::NumberText(Numrec));
   Desk.Beep();
   ReadCounts();

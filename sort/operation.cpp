@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "runtime/whole_io.h"
 #include "sort/blocks.h"
@@ -19,12 +20,6 @@ namespace {
 
 using runtime::Disk;
 using runtime::OpenFile;
-
-OpenFile OpenEmpty(Disk& disk, const std::string& name) {
-  OpenFile file(disk, name, Disk::Mode::Create);
-  if (file.Length() > 0) file.Truncate(0);
-  return file;
-}
 
 // Without a file, weight = value.
 std::optional<Weights> ReadWeights(Disk& disk, const std::optional<std::string>& name) {
@@ -57,33 +52,40 @@ class Operation {
       : disk_(disk),
         input_(input),
         output_(output),
-        aside_(runtime::InSafetyFolder(output_ + std::string(runtime::AsideEnding))),
-        runs_(runtime::InSafetyFolder(output_ + ".runs" + std::string(runtime::AsideEnding))),
         limits_(limits),
         workers_(workers),
         last_(last),
         progress_(progress) {}
 
-  // Replaces the output, without the folder syncs. Unless done, the output is unchanged and no temporary file is left.
+  // Replaces the output. Unless done, the output is unchanged and no temporary file is left.
   Result Run(std::string_view statement);
 
  private:
   Result BuildAside(std::string_view statement);
   // Writes the whole output to an empty file, beginning with a sorted table; returns the record count.
   std::int64_t WriteThroughRuns(Table& table, const IncludeFilter& include, const OpenFile& input,
-                                const OpenFile& output, Workers* workers) const;
+                                const OpenFile& output, Workers* workers);
+  // A temporary file, discarded at the end of the run if it is still there.
+  OpenFile CreateTemporary(const std::string& base);
 
   Disk& disk_;
-  std::string input_, output_, aside_, runs_;
+  std::string input_, output_;
+  std::vector<std::string> temporary_;  // names; the first is the one of the output
   const Limits& limits_;
   Workers& workers_;
   std::optional<Table>& last_;
   const sort::Progress& progress_;
 };
 
+OpenFile Operation::CreateTemporary(const std::string& base) {
+  OpenFile file = runtime::CreateFresh(disk_, runtime::InSafetyFolder(base));
+  temporary_.push_back(file.Name());
+  return file;
+}
+
 std::int64_t Operation::WriteThroughRuns(Table& table, const IncludeFilter& include, const OpenFile& input,
-                                         const OpenFile& output, Workers* workers) const {
-  Runs runs(table.EntryLayout(), OpenEmpty(disk_, runs_));
+                                         const OpenFile& output, Workers* workers) {
+  Runs runs(table.EntryLayout(), CreateTemporary(output_ + ".runs"));
   for (;;) {
     runs.Add(table.WriteEntries(runs.File(), runs.Count()));
     if (table.AtEnd()) break;
@@ -105,7 +107,7 @@ Result Operation::BuildAside(std::string_view statement) {
   const std::int64_t records = input.Length() / static_cast<std::int64_t>(layout.RecordLength());
   if (records > MaxRecords) return {Status::InputUnreadable};
   runtime::MakeSafetyFolder(disk_);
-  OpenFile aside = OpenEmpty(disk_, aside_);
+  OpenFile aside = CreateTemporary(output_);
   Workers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
   std::optional<Table> table = std::exchange(last_, std::nullopt);
   if (!table || !table->Suits(layout, records) || !table->Reload(input, include, progress_)) {
@@ -125,21 +127,20 @@ Result Operation::Run(std::string_view statement) {
   try {
     result = BuildAside(statement);
     if (result.Status != Status::Done) return result;
-    runtime::RetryInterrupted(aside_, [&] { return disk_.Rename(aside_, output_); });
+    const std::string& aside = temporary_.front();
+    runtime::RetryInterrupted(aside, [&] { return disk_.Rename(aside, output_); });
+    temporary_.erase(temporary_.begin());
   } catch (const runtime::Failure& failure) {
     result = {failure.File == input_ ? Status::InputUnreadable : Status::OutputUnwritable};
-    runtime::Discard(disk_, aside_);
   }
-  runtime::Discard(disk_, runs_);
+  for (const std::string& name : temporary_) runtime::Discard(disk_, name);
   return result;
 }
 
 }  // namespace
 
 Result Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement) {
-  const Result result = Operation(disk_, input, output, limits_, workers_, last_, Progress).Run(statement);
-  if (result.Status == Status::Done) runtime::SyncFolders(disk_, output);
-  return result;
+  return Operation(disk_, input, output, limits_, workers_, last_, Progress).Run(statement);
 }
 
 }  // namespace sort

@@ -43,8 +43,8 @@ class Sorter {
   explicit Sorter(runtime::Disk& disk, const Limits& limits = {}) : disk_(disk), limits_(limits) {}
 
   // Replaces the output by the extract; a stop at any moment leaves the old file or the new one. Stable; a partial last
-  // record is ignored; an input of more than MaxRecords is unreadable. Unless done, the output is unchanged. If the new
-  // file is in place and a sync of its folder fails, that Failure is thrown.
+  // record is ignored; an input of more than MaxRecords is unreadable. Unless done, the output is unchanged. The
+  // new file is sure to stay once the folders are synced, which is left to the caller.
   Result Sort(std::string_view input, std::string_view output, std::string_view statement);
 
   // Gets the part of the input that a sort has read; called from the thread of Sort.

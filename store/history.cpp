@@ -45,14 +45,15 @@ std::string HistoryHead(std::chrono::local_seconds when, std::int64_t slot) {
   return runtime::StampText(std::clamp(when, First, Last)) + runtime::Fixed(field, SlotWidth);
 }
 
-// The file is opened, and so created, at every write: the folder syncs of the first write then cover its name.
-void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record) {
+bool KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record) {
+  if (old_record == new_record || !IsFilm(old_record)) return false;
   runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Create);
-  if (old_record == new_record || !IsFilm(old_record)) return;
   std::string entry = HistoryHead(runtime::LocalTime(), slot) + runtime::Fixed(old_record, RecordLength);
   auto size = static_cast<std::int64_t>(entry.size());
-  history.Write(entry, history.Length() / size * size);  // a truncated entry is overwritten by the next
+  const std::int64_t length = history.Length();
+  history.Write(entry, length / size * size);  // a truncated entry is overwritten by the next
   history.Sync();
+  return length == 0;
 }
 
 std::int64_t CountHistory(runtime::Disk& disk) {

@@ -24,8 +24,8 @@ inline constexpr int HistoryHeadLength = 28;
 std::string HistoryHead(std::chrono::local_seconds when, std::int64_t slot);
 
 // Appends the old record, padded with blanks if it is cut off, if it is a film (its title is not blank) and the new one
-// differs. Synced on return.
-void KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record);
+// differs. Synced on return; true if the file was empty and may be new.
+bool KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view old_record, std::string_view new_record);
 
 struct KeptFilm {
   std::int64_t Number = 0;  // of its entry in the history, from 1

@@ -9,10 +9,13 @@ namespace {
 
 constexpr std::int64_t PageBytes = 4096;
 
-// Where a write is cut: at a page boundary, or in half.
+// Where a write is cut: at a page boundary, or at that of a sector, or in half.
 std::size_t CutOf(std::size_t count, std::int64_t offset) {
-  auto to_border = static_cast<std::size_t>(PageBytes - offset % PageBytes);
-  return to_border < count ? to_border : count / 2;
+  for (std::int64_t unit : {PageBytes, static_cast<std::int64_t>(SectorBytes)}) {
+    auto to_border = static_cast<std::size_t>(unit - offset % unit);
+    if (to_border < count) return to_border;
+  }
+  return count / 2;
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ enum class Fault {
   Short,          // a write or read does half; other calls are unaffected
   ShortThenFull,  // a write does half; the next one, or every later one, finds the disk full
   Kill,
-  KillHalfway,  // cuts a write at a page boundary, or in half if it crosses none; other calls complete
+  KillHalfway,  // cuts a write at a boundary of pages or sectors, or in half if it crosses none; other calls complete
 };
 
 std::string_view NameOf(Fault fault);

@@ -10,6 +10,7 @@ namespace safety {
 namespace {
 
 const std::string Journal = runtime::InSafetyFolder("journal");
+constexpr std::size_t MarkLength = 8;
 const std::string History = runtime::InSafetyFolder("history");
 
 }  // namespace
@@ -28,6 +29,10 @@ const std::vector<SafeguardRow>& Safeguards() {
       {Safeguard::Recovery, "Recovery"},
       {Safeguard::RecoverySync, "RecoverySync"},
       {Safeguard::TakingBack, "TakingBack"},
+      {Safeguard::DoneMark, "DoneMark"},
+      {Safeguard::NameCheck, "NameCheck"},
+      {Safeguard::FreshNames, "FreshNames"},
+      {Safeguard::SortFolderSync, "SortFolderSync"},
   };
   return rows;
 }
@@ -37,7 +42,9 @@ DisabledSafeguard::DisabledSafeguard(runtime::Disk& below, Safeguard guard)
 
 int DisabledSafeguard::Open(const std::string& name, Mode mode) {
   if (IsOff(Safeguard::Recovery) && name == Journal && mode == Mode::Read) return -ENOENT;
-  int handle = kit::PassingDisk::Open(name, mode);
+  const bool reused = IsOff(Safeguard::FreshNames) && mode == Mode::CreateNew;
+  int handle = kit::PassingDisk::Open(name, reused ? Mode::Create : mode);
+  if (reused && handle >= 0) Below().Truncate(handle, 0);
   journal_was_there_ = journal_was_there_ || (name == Journal && mode == Mode::Read && handle >= 0);
   return handle;
 }
@@ -45,7 +52,9 @@ int DisabledSafeguard::Open(const std::string& name, Mode mode) {
 std::int64_t DisabledSafeguard::WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) {
   const std::string& name = NameOf(handle);
   journal_written_ = journal_written_ || name == Journal;
-  if ((IsOff(Safeguard::JournalWrite) && name == Journal) || TakesBack(name)) return static_cast<std::int64_t>(count);
+  const bool skipped = (IsOff(Safeguard::JournalWrite) && name == Journal) ||
+                       (IsOff(Safeguard::DoneMark) && name == Journal && count == MarkLength) || TakesBack(name);
+  if (skipped) return static_cast<std::int64_t>(count);
   std::int64_t result = kit::PassingDisk::WriteAt(handle, source, count, offset);
   failed_ = failed_ || (result < 0 && result != -EINTR);
   return result;
@@ -68,7 +77,12 @@ int DisabledSafeguard::Sync(int handle) {
   return result;
 }
 
+int DisabledSafeguard::Identify(int handle, runtime::FileIdentity& identity) {
+  return IsOff(Safeguard::NameCheck) ? 0 : kit::PassingDisk::Identify(handle, identity);
+}
+
 int DisabledSafeguard::Rename(const std::string& from, const std::string& to) {
+  sorted_ = sorted_ || to.ends_with(".Dat");
   if (!IsOff(Safeguard::AsideRename)) return kit::PassingDisk::Rename(from, to);
   std::string content;
   {
@@ -86,7 +100,8 @@ int DisabledSafeguard::Rename(const std::string& from, const std::string& to) {
 int DisabledSafeguard::SyncFolder(const std::string& name) {
   bool skipped = (IsOff(Safeguard::SafetyFolderSync) && name == runtime::SafetyFolder) ||
                  (IsOff(Safeguard::CollectionFolderSync) && name.empty()) ||
-                 (IsOff(Safeguard::FolderSyncEachRun) && journal_was_there_);
+                 (IsOff(Safeguard::FolderSyncEachRun) && journal_was_there_) ||
+                 (IsOff(Safeguard::SortFolderSync) && sorted_);
   return skipped ? 0 : kit::PassingDisk::SyncFolder(name);
 }
 

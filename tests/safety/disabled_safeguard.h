@@ -23,6 +23,10 @@ enum class Safeguard {
   Recovery,
   RecoverySync,
   TakingBack,
+  DoneMark,
+  NameCheck,       // the name of the master file leads to the open one
+  FreshNames,      // temporary files take the place of any that are there
+  SortFolderSync,  // of the replaced key and count files
 };
 
 struct SafeguardRow {
@@ -39,6 +43,7 @@ class DisabledSafeguard final : public kit::PassingDisk {
   std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override;
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
+  int Identify(int handle, runtime::FileIdentity& identity) override;
   int Rename(const std::string& from, const std::string& to) override;
   int SyncFolder(const std::string& name) override;
 
@@ -51,6 +56,7 @@ class DisabledSafeguard final : public kit::PassingDisk {
   bool journal_was_there_ = false;
   bool journal_written_ = false;
   bool failed_ = false;
+  bool sorted_ = false;
 };
 
 DiskWrapper Without(Safeguard guard);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/safety/disabled_safeguard.h"
+#include "tests/safety/other_hands.h"
 #include "tests/safety/power_loss.h"
 
 namespace safety {
@@ -9,6 +10,10 @@ namespace {
 
 // The first complaint of any check of any scenario.
 std::string AnyComplaint(const DiskWrapper& wrapper) {
+  for (const std::string& complaint : {ReplacedMasterComplaint(wrapper), RestoredBackupComplaint(wrapper),
+                                       PlantedFileComplaint(wrapper), EndedSortComplaint(wrapper)}) {
+    if (!complaint.empty()) return complaint;
+  }
   for (const Scenario& scenario : Scenarios()) {
     for (const std::string& complaint :
          {PowerLossComplaint(scenario, wrapper), TakeBackComplaint(scenario, kit::Fault::ShortThenFull, wrapper)}) {

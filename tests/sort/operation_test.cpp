@@ -188,14 +188,14 @@ TEST(SortOperation, KeepsTheOrderOfRecordsThatAreEqualInALongKey) {
   EXPECT_EQ(FileOn(disk, "out"), "000000100000020000003");
 }
 
-TEST(SortOperation, PutsAPartFileOfAnEarlierStopOutOfTheWay) {
+TEST(SortOperation, LeavesTheTemporaryFilesOfAnEarlierStopToTheNextStart) {
   kit::Folder folder = OldFolder();
   folder[".reelora/Titlepra.Dat.new"] = std::string(5000, '?');
   folder[".reelora/Titlepra.Dat.runs.new"] = std::string(5000, '?');
   kit::MemoryDisk disk(folder);
   EXPECT_EQ(SortOn(disk, "Titlepra.Dat", TitlesStatement, {1, 100}).Status, Status::Done);
   EXPECT_EQ(FileOn(disk, "Titlepra.Dat"), Key("Solaris", "0000001"));
-  EXPECT_EQ(Leftovers(disk), "");
+  EXPECT_EQ(Leftovers(disk), ".reelora/Titlepra.Dat.new .reelora/Titlepra.Dat.runs.new ") << "those of the stop";
 }
 
 TEST(SortOperation, TellsHowMuchOfTheInputItHasRead) {

@@ -5,7 +5,7 @@ start
 click cmdNext
 click cmdDelete
 box question "Reelora Prima" "Are you sure you want to DELETE this record? This file will be removed permanently!!" Yes
-see file .reelora/journal "REELORA1Recpra.Dat\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00"
+see file .reelora/journal "REELDONERecpra.Dat\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00\x00"
 + "\x00\x00\x00\x00\x02\x00\x00\x00\x00\x00\x00\x00\x12\x05\x00\x00\x00\x00\x00\x00\x89\x02\x00\x00\x00\x00\x00\x00  "
 + "                                                                                                                  "
 + "                                                                                                                  "

@@ -1,0 +1,58 @@
+// Other people's hands: whatever they do to the folder, nothing is lost silently and nothing of theirs is written to.
+#include "tests/safety/other_hands.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "runtime/record_journal.h"
+#include "store/film_record.h"
+#include "tests/kit/films.h"
+#include "tests/safety/disabled_safeguard.h"
+
+namespace safety {
+namespace {
+
+TEST(OtherHands, AReplacedOrRemovedMasterFileStopsTheSave) { EXPECT_EQ(ReplacedMasterComplaint(), ""); }
+TEST(OtherHands, ARestoredBackupStays) { EXPECT_EQ(RestoredBackupComplaint(), ""); }
+TEST(OtherHands, APlantedFileIsNotWritten) { EXPECT_EQ(PlantedFileComplaint(), ""); }
+TEST(EndedSort, SurvivesALossOfPower) { EXPECT_EQ(EndedSortComplaint(), ""); }
+
+// The largest piece that is read or written at once.
+class Measuring final : public kit::PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+    Largest = std::max(Largest, count);
+    return PassingDisk::ReadAt(handle, target, count, offset);
+  }
+  std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override {
+    Largest = std::max(Largest, count);
+    return PassingDisk::WriteAt(handle, source, count, offset);
+  }
+  std::size_t Largest = 0;
+};
+
+constexpr int FarSlot = 5000;
+
+TEST(FarSlot, IsWrittenAndRecoveredInPieces) {
+  const std::string name = "Recpra.Dat", film = kit::FilmBytes(7, 1);
+  kit::MemoryDisk memory(kit::Folder{{name, kit::Films(1, 2) + std::string(100, 'x')}});
+  const kit::Folder before = memory.Content();
+  DisabledSafeguard unmarked(memory, Safeguard::DoneMark);
+  Measuring disk(unmarked);
+  const runtime::OpenFile file(disk, name, runtime::Disk::Mode::Create);
+  runtime::RecordJournal(disk).Write(file, FarSlot, film);
+  const std::string written = memory.Content().at(name);
+  std::string expected = before.at(name);
+  expected.resize((FarSlot - 1) * store::RecordLength, ' ');
+  ASSERT_EQ(written, expected + film);
+
+  runtime::OpenFile(memory, name, runtime::Disk::Mode::ReadWrite).Truncate(1'000'000);
+  runtime::RecordJournal(disk).Recover(file, store::RecordLength);
+  EXPECT_EQ(memory.Content().at(name), before.at(name)) << "the gap is not cut back";
+  EXPECT_LE(disk.Largest, 64U * 1024);
+}
+
+}  // namespace
+}  // namespace safety
