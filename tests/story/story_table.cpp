@@ -124,7 +124,7 @@ std::vector<Story> ExpandTable(std::vector<Line> lines) {
   Filler filler(table);
   std::vector<Story> stories;
   for (const auto& row : table.Rows) {
-    Story& one = stories.emplace_back(runtime::ToUtf8(row[0]), std::vector<Line>());
+    Story& one = stories.emplace_back(Story{runtime::ToUtf8(row[0]), {}});
     for (std::size_t index = at; index < lines.size(); ++index) one.Lines.push_back(filler.Fill(lines[index], row));
   }
   for (const std::string& column : table.Columns) {
