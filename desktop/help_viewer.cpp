@@ -80,7 +80,7 @@ void HelpViewer::SetUpKeys() {
   // The underlined letter leads to the line: without words in it the button has nothing to do.
   search_.setShortcut({});
   auto key = [this](const QKeySequence& keys, auto doing) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, doing);
+    connect(std::make_unique<QShortcut>(keys, this).release(), &QShortcut::activated, this, doing);
   };
   for (const char* keys : {"Ctrl+F", "Alt+S"}) key(QKeySequence(keys), [this] { GoToSearchLine(); });
   key(QKeySequence("Alt+Left"), [this] { GoBack(); });
