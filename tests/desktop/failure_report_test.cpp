@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
+#include <memory>
 #include <new>
 
 #include "app/program.h"
@@ -187,7 +188,7 @@ TEST(OutOfMemory, InTheEventLoopIsReportedToo) {
   int reports = 0;
   auto& application = dynamic_cast<Application&>(*QCoreApplication::instance());
   application.OnOutOfMemory([&] { ++reports; });
-  QApplication::postEvent(&hungry, new QEvent(QEvent::User));
+  QApplication::postEvent(&hungry, std::make_unique<QEvent>(QEvent::User).release());
   QApplication::processEvents();
   application.OnOutOfMemory({});
   EXPECT_EQ(reports, 1);
