@@ -97,17 +97,33 @@ OpenFile CreateFresh(Disk& disk, const std::string& base) {
   }
 }
 
-void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
+namespace {
+
+enum class Durable { Yes, No };
+
+// Writes the content to a temporary file and renames that to the target; name: of the temporary file's base.
+void WriteAndRename(Disk& disk, std::string_view name, const std::string& target, std::string_view content,
+                    Durable durable) {
   MakeSafetyFolder(disk);
   const OpenFile aside = CreateFresh(disk, InSafetyFolder(name));
   try {
     aside.Write(content, 0);
-    aside.Sync();
-    RetryInterrupted(name, [&] { return disk.Rename(aside.Name(), std::string(name)); });
+    if (durable == Durable::Yes) aside.Sync();
+    RetryInterrupted(target, [&] { return disk.Rename(aside.Name(), target); });
   } catch (const Failure&) {
     Discard(disk, aside.Name());
     throw;
   }
+}
+
+}  // namespace
+
+void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
+  WriteAndRename(disk, name, std::string(name), content, Durable::Yes);
+}
+
+void ReplaceUnsynced(Disk& disk, std::string_view name, std::string_view content) {
+  WriteAndRename(disk, name, InSafetyFolder(name), content, Durable::No);
 }
 
 void Discard(Disk& disk, const std::string& name) {

@@ -67,6 +67,9 @@ OpenFile CreateFresh(Disk& disk, const std::string& base);
 // Writes a whole file to a temporary one, syncs it and puts it in place of the named one; a stop at any moment leaves
 // the old file or the new one. The new one is sure to stay once the folders are synced.
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);
+// The same for a file of the safety folder and without a sync: a kill leaves the old file or the new one, a loss of
+// power soon after perhaps neither. For a file that has a checksum.
+void ReplaceUnsynced(Disk& disk, std::string_view name, std::string_view content);
 // Removes a temporary file; a failure is ignored, since the file does no harm.
 void Discard(Disk& disk, const std::string& name);
 // Discards what a stop left in the safety folder.
