@@ -1,10 +1,9 @@
 // Leaving the program by the close box or Exit.
+#include "screen/closing.h"
+
 #include "screen/frmPage1.h"
 
-namespace {
-constexpr std::string_view UnsavedQuestion =
-    "You have not saved your work. To save your work hit Yes, else hit No and quit";
-}
+using screen::UnsavedQuestion;
 
 void frmPage1::frmPage1_Unload() {
   if (EditMode == 1) {

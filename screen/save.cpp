@@ -1,46 +1,15 @@
 // Save: the texts of the boxes go into the record and onto the disk, and the screen returns to view.
-#include "runtime/text.h"
 #include "screen/frmPage1.h"
 #include "screen/record_boxes.h"
+#include "store/article.h"
 #include "store/master_file.h"
 
 using store::FilmField;
 
-namespace {
-
-// The leading articles, all tried, even after a match.
-struct ArticleRow {
-  std::string_view Article;  // with its blank
-  std::string_view Suffix;
-};
-// clang-format off
-constexpr ArticleRow Articles[] = {
-  { "The ", ", The" },
-  { "An ",  ", An" },
-  { "A ",   ", A" },
-  { "THE ", ", THE" },
-  { "AN ",  ", AN" },
-  { "A ",   ", A" },  // again: catches an A exposed by the rows above
-};
-// clang-format on
-
-// The rest of a title always comes from the box, not from the field that an earlier test has changed.
-void MoveArticle(frmPage1& window) {
-  for (const ArticleRow& row : Articles) {
-    if (!window.CurrentFilm.Get(FilmField::Title).starts_with(row.Article)) continue;
-    std::string_view text = window.txtTitle.Text();
-    std::string_view rest =
-        text.substr(std::min(row.Article.size(), text.size()), static_cast<std::size_t>(window.TitleEnd));
-    window.CurrentFilm.Set(FilmField::Title, std::string(rest).append(row.Suffix));
-  }
-}
-
-}  // namespace
-
 void frmPage1::SaveRecord() {
   CurrentFilm.Set(FilmField::Title, txtTitle.Text());
-  TitleEnd = static_cast<std::int64_t>(runtime::Position(CurrentFilm.Get(FilmField::Title), "  "));
-  MoveArticle(*this);
+  TitleEnd = static_cast<std::int64_t>(store::TitleEndOf(CurrentFilm));
+  store::MoveArticle(CurrentFilm, txtTitle.Text(), static_cast<std::size_t>(TitleEnd));
   for (const screen::RecordBox& row : screen::RecordBoxes) {
     if (row.Field != FilmField::Title) CurrentFilm.Set(row.Field, (this->*row.Box).Text());
   }
