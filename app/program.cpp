@@ -23,6 +23,7 @@ Program::Program(forms::Desk& desk, runtime::Disk& disk)
       Info(Windows, Opening),
       QuickStart(Windows, Opening),
       Copy(Windows, RecordScreen),
+      drafts_(RecordScreen),
       reserve_(std::make_unique_for_overwrite<char[]>(ReserveBytes)) {
   Opening.frmOpener = &Opener;
   Opening.frmInfo = &Info;
@@ -36,7 +37,10 @@ Program::Program(forms::Desk& desk, runtime::Disk& disk)
 }
 
 void Program::StartOpener() {
-  Deliver([this] { Opener.Show(); });
+  Deliver([this] {
+    drafts_.AskAboutDrafts();
+    Opener.Show();
+  });
 }
 
 void Program::StartRecordScreen() {
@@ -47,6 +51,11 @@ void Program::Deliver(const std::function<void()>& event) {
   if (ended_) return;
   try {
     event();
+    drafts_.AfterEvent();
+  } catch (const forms::SessionEnded&) {
+    ended_ = true;
+    Windows.Desk.Closed();
+    return;
   } catch (const runtime::Failure& failure) {
     Stop(failure);
     return;
@@ -68,4 +77,15 @@ void Program::Stop(const runtime::Failure& failure) {
   ended_ = true;
   stopped_ = failure;
   Windows.Desk.FailureReport(failure);
+}
+
+void Program::EndSession(bool save) {
+  Deliver([this, save] {
+    if (save) {
+      RecordScreen.SaveRecord();
+    } else {
+      drafts_.GiveUp();
+    }
+    Windows.Desk.End();
+  });
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/draft_keeper.h"
 #include "filecopy/frmCopy.h"
 #include "forms/window_stack.h"
 #include "opening/frmInfo.h"
@@ -28,7 +29,7 @@ class Program {
   frmQuickStart QuickStart;
   frmCopy Copy;
 
-  // Shows the opening window, as when a user starts the program.
+  // Asks about drafts and shows the opening window, as when a user starts the program.
   void StartOpener();
   // Shows the record screen directly.
   void StartRecordScreen();
@@ -38,6 +39,11 @@ class Program {
   // Stops the program; memory ran out in an event or outside of all.
   void RunOutOfMemory();
 
+  // The end of the session, as closing with that answer: the open film is saved or given up, and the program ends.
+  void EndSession(bool save);
+
+  // Whether a film is open for typing.
+  bool HasOpenFilm() const { return !ended_ && RecordScreen.EditMode == 1; }
   bool Ended() const { return ended_; }
   // The failure that stopped the program, if any.
   const std::optional<runtime::Failure>& Stopped() const { return stopped_; }
@@ -45,6 +51,7 @@ class Program {
  private:
   void Stop(const runtime::Failure& failure);
 
+  DraftKeeper drafts_;
   bool ended_ = false;
   std::optional<runtime::Failure> stopped_;
   // Given up when memory runs out, so that the report can be shown.

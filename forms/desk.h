@@ -17,6 +17,11 @@ namespace forms {
 enum class Icon { None, Warning, Question };
 enum class Buttons { Ok, YesNo };
 enum class Answer { Ok, Yes, No };
+// What happens to a film that was being typed when the program stopped. Later: it is asked about at the next start.
+enum class DraftAnswer { Keep, Drop, Later };
+
+// Thrown by a box that the end of the session closes unanswered: the event goes no further.
+struct SessionEnded {};
 
 class Desk {
  public:
@@ -25,10 +30,14 @@ class Desk {
   // Shows the box and waits for its answer.
   Answer MessageBox(Icon icon, std::string_view title, std::string_view text, Buttons buttons = Buttons::Ok) {
     ++boxes_shown_;
-    return AskMessageBox(icon, title, text, buttons);
+    Answer answer = AskMessageBox(icon, title, text, buttons);
+    if (answer == Answer::No) ++no_answers_;
+    return answer;
   }
   // How many message boxes have come up so far.
   unsigned BoxesShown() const { return boxes_shown_; }
+  // How many of them were answered No.
+  unsigned NoAnswers() const { return no_answers_; }
 
   // The answer as typed, "" on Cancel.
   virtual std::string InputBox(std::string_view title, std::string_view prompt) = 0;
@@ -59,6 +68,13 @@ class Desk {
     static_cast<void>(drive);
     static_cast<void>(bytes);
   }
+  // One plain box at the start: whether to keep the film of that title.
+  virtual DraftAnswer AskDraft(std::string_view title) {
+    static_cast<void>(title);
+    return DraftAnswer::Later;
+  }
+  // Something that the user should know and need not answer.
+  virtual void Notice(std::string_view text) { static_cast<void>(text); }
   // A handler ends the program: no event is delivered any more.
   void End() { ended_ = true; }
   bool Ended() const { return ended_; }
@@ -72,6 +88,7 @@ class Desk {
 
  private:
   unsigned boxes_shown_ = 0;
+  unsigned no_answers_ = 0;
   bool ended_ = false;
 };
 
