@@ -13,6 +13,7 @@
 #include "desktop/front_request.h"
 #include "desktop/put_back_notice.h"
 #include "desktop/qt_desk.h"
+#include "desktop/session_end.h"
 #include "desktop/stack_view.h"
 #include "runtime/disk.h"
 #include "runtime/folder_lock.h"
@@ -63,6 +64,7 @@ int Run(desktop::Application& application, const QStringList& arguments) {
       if (desk.StartAgain()) StartAgain(arguments, folder);
       std::_Exit(Failed);
     });
+    desktop::SessionEnd session_end(program, view, desk);
     program.StartOpener();
     view.Sync();
     if (!program.Ended()) QApplication::exec();

@@ -8,6 +8,7 @@ namespace desktop {
 
 inline const QString ReportNotice = QStringLiteral("report");
 inline const QString CopyNotice = QStringLiteral("copy");
+inline const QString DraftNotice = QStringLiteral("draft");
 inline const QString CharacterNotice = QStringLiteral("characters");
 
 QString SavedText(const QString& path);

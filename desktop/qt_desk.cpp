@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "desktop/control_view.h"
+#include "desktop/draft_box.h"
 #include "desktop/drives.h"
 #include "desktop/failure_box.h"
 #include "desktop/input_dialog.h"
@@ -40,7 +41,10 @@ QWidget* QtDesk::FrontWindow() {
 
 forms::Answer QtDesk::AskMessageBox(forms::Icon icon, std::string_view title, std::string_view text,
                                     forms::Buttons buttons) {
-  return desktop::MessageBox(icon, TitleOf(title), Shown(text).remove('\r'), buttons, FrontWindow()).Ask();
+  forms::Answer answer =
+      desktop::MessageBox(icon, TitleOf(title), Shown(text).remove('\r'), buttons, FrontWindow()).Ask();
+  StopIfSessionEnded();
+  return answer;
 }
 
 std::string QtDesk::InputBox(std::string_view title, std::string_view prompt) {
@@ -48,18 +52,24 @@ std::string QtDesk::InputBox(std::string_view title, std::string_view prompt) {
     Beep();
     if (view_) view_->Notices().Show(NotStoredText(characters), {}, CharacterNotice);
   });
-  return dialog.exec() == QDialog::Accepted ? Stored(dialog.Answer()) : std::string();
+  int closed = dialog.exec();
+  StopIfSessionEnded();
+  return closed == QDialog::Accepted ? Stored(dialog.Answer()) : std::string();
 }
 
 void QtDesk::Beep() { QApplication::beep(); }
 
 std::optional<std::uint32_t> QtDesk::ColourDialog(std::uint32_t start) {
   QColor colour = QColorDialog::getColor(ToColour(start), FrontWindow());
+  StopIfSessionEnded();
   if (!colour.isValid()) return std::nullopt;
   return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
 }
 
-void QtDesk::PrinterDialog() { printer_.SetUp(FrontWindow()); }
+void QtDesk::PrinterDialog() {
+  printer_.SetUp(FrontWindow());
+  StopIfSessionEnded();
+}
 
 void QtDesk::Print(const runtime::PrintJob& job) {
   PrintedTo printed = printer_.Print(job, Now(), [this](double done) { Progress("Printing the report", done); });
@@ -109,6 +119,26 @@ void QtDesk::Copied(std::string_view file, char drive, std::int64_t bytes) {
   std::optional<std::string> folder = DriveFolder(drive);
   QString disk = folder ? DiskName(*folder) : QString();
   view_->Notices().Show(CopiedText(Shown(file), disk, drive, bytes), {}, CopyNotice);
+}
+
+void QtDesk::Notice(std::string_view text) {
+  if (view_) view_->Notices().Show(Shown(text), {}, DraftNotice);
+}
+
+forms::DraftAnswer QtDesk::AskDraft(std::string_view title) {
+  forms::DraftAnswer answer = DraftBox(Shown(OwnTitle), Shown(title), FrontWindow()).Ask();
+  StopIfSessionEnded();
+  return answer;
+}
+
+// Every event loop ends, those of boxes too.
+void QtDesk::EndSession() {
+  session_ended_ = true;
+  QApplication::exit(0);
+}
+
+void QtDesk::StopIfSessionEnded() const {
+  if (session_ended_) throw forms::SessionEnded{};
 }
 
 // Not quit(): that would ask the windows first, and they leave the answer to the form.

@@ -19,6 +19,10 @@ class QtDesk final : public forms::Desk {
   explicit QtDesk(std::string folder);
   // The view to repaint; boxes open over its front window.
   void DrawOn(StackView& view) { view_ = &view; }
+  // The program ends now. A box that a handler has put up closes and throws SessionEnded; a handler without one runs to
+  // its end.
+  void EndSession();
+  bool SessionHasEnded() const { return session_ended_; }
 
   std::string InputBox(std::string_view title, std::string_view prompt) override;
   void Beep() override;
@@ -33,6 +37,8 @@ class QtDesk final : public forms::Desk {
   void RepaintNow() override;
   void Progress(std::string_view work, double done) override;
   void Copied(std::string_view file, char drive, std::int64_t bytes) override;
+  void Notice(std::string_view text) override;
+  forms::DraftAnswer AskDraft(std::string_view title) override;
   void Closed() override;
   void FailureReport(const runtime::Failure& failure) override;
 
@@ -46,9 +52,11 @@ class QtDesk final : public forms::Desk {
  private:
   QWidget* FrontWindow();
   void ShowPrinted(const PrintedTo& printed);
+  void StopIfSessionEnded() const;
 
   std::string folder_;
   StackView* view_ = nullptr;
+  bool session_ended_ = false;
   RunPrinter printer_;
   std::unique_ptr<HelpViewer> help_;
   std::chrono::steady_clock::time_point painted_;
