@@ -2,6 +2,7 @@
 #include "runtime/record_journal.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <string>
 
 #include "runtime/journal_block.h"
@@ -113,7 +114,7 @@ void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_v
   folders_synced_ = true;
   if (!HasItsName(disk_, file)) {
     MarkDone(journal);
-    throw Failure{PathError, file.Name()};
+    throw Failure{PathError, file.Name(), ESTALE};
   }
   try {
     WriteNew(file, block);
