@@ -6,6 +6,8 @@
 
 #include "desktop/failure_texts.h"
 #include "desktop/text.h"
+#include "runtime/disk.h"
+#include "store/draft.h"
 
 namespace desktop {
 namespace {
@@ -24,6 +26,13 @@ QString HeadOf(const runtime::Failure& failure) {
   return head;
 }
 
+QString SafeOf(const FailureTexts& texts, const QString& folder) {
+  QString safe = Shown(texts.Safe);
+  runtime::RealDisk disk(folder.toStdString());
+  if (!store::DraftNames(disk).empty()) safe += " The film that was being typed is kept: the next start asks about it.";
+  return safe;
+}
+
 QString BodyOf(const runtime::Failure& failure, const QString& folder) {
   const FailureTexts& texts = TextsOf(failure);
   QStringList parts;
@@ -34,7 +43,7 @@ QString BodyOf(const runtime::Failure& failure, const QString& folder) {
   if (!texts.Means.empty()) parts << QStringLiteral("What it means: %1").arg(Shown(texts.Means));
   if (QString reason = ReasonOf(failure); !reason.isEmpty())
     parts.last() += QStringLiteral(" The system says: %1.").arg(reason);
-  parts << QStringLiteral("What is safe: %1").arg(Shown(texts.Safe));
+  parts << QStringLiteral("What is safe: %1").arg(SafeOf(texts, folder));
   parts << QStringLiteral("What to do next: %1").arg(Shown(texts.Next));
   return parts.join(QStringLiteral("\n\n"));
 }

@@ -14,7 +14,10 @@
 #include "desktop/failure_texts.h"
 #include "desktop/qt_desk.h"
 #include "desktop/stack_view.h"
+#include "runtime/disk.h"
+#include "store/draft.h"
 #include "tests/kit/films.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/kit/memory_disk.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/kit/quiet_desk.h"
@@ -77,6 +80,18 @@ TEST(FailureTexts, KnowTheFilesOfTheCollection) {
     EXPECT_EQ(GroupOf(setting), FileGroup::Settings) << setting;
   EXPECT_EQ(GroupOf(".reelora/journal"), FileGroup::Any);
   EXPECT_EQ(GroupOf(""), FileGroup::Any);
+}
+
+TEST(FailureReport, SaysThatTheFilmBeingTypedIsKept) {
+  kit::FreshFolder folder;
+  runtime::RealDisk disk(folder.Path());
+  auto told = [&] {
+    FailureBox box({runtime::DiskFull, "Recpra.Dat", ENOSPC}, QString::fromStdString(folder.Path()), nullptr);
+    return box.informativeText().contains("The film that was being typed is kept");
+  };
+  EXPECT_FALSE(told());
+  store::WriteDraft(disk, store::FreeDraftName(disk), {});
+  EXPECT_TRUE(told());
 }
 
 TEST(FailureReport, KeepsItsTwoLinesAndAddsPathMeaningReasonAndAdvice) {
