@@ -12,6 +12,7 @@
 
 #include "desktop/failure_box.h"
 #include "desktop/help_viewer.h"
+#include "desktop/notice_line.h"
 #include "desktop/picture.h"
 #include "desktop/text.h"
 #include "tests/desktop/drawn_check.h"
@@ -196,6 +197,24 @@ void WidgetPlayer::FailurePicture(const runtime::Failure& failure, const std::st
   box.show();
   QApplication::processEvents();
   if (!desktop::SavePicture(box, path)) throw Unplayable{"expected a picture in " + path + ", got none"};
+}
+
+void WidgetPlayer::NoticePicture(const std::string& text, const std::string& buttons, const std::string& path) {
+  const QString key = QStringLiteral("picture");
+  std::vector<desktop::NoticeLine::Action> actions;
+  for (const QString& caption : desktop::Shown(buttons).split('|', Qt::SkipEmptyParts))
+    actions.push_back({caption, {}});
+  view_.Notices().Show(desktop::Shown(text), std::move(actions), key);
+  QApplication::processEvents();
+  Picture(path);
+  view_.ClearNotice(key);
+}
+
+void WidgetPlayer::WorkPicture(const std::string& work, int percent, const std::string& path) {
+  view_.Notices().Progress(desktop::Shown(work), percent / 100.0);
+  QApplication::processEvents();
+  Picture(path);
+  view_.EndProgress();
 }
 
 }  // namespace story

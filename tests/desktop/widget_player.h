@@ -27,6 +27,8 @@ class WidgetPlayer final : public Player {
   void PagePicture(const runtime::PrintJob& job, std::size_t page, const std::string& path) override;
   void HelpPicture(const std::string& folder, int topic, const std::string& path) override;
   void FailurePicture(const runtime::Failure& failure, const std::string& path) override;
+  void NoticePicture(const std::string& text, const std::string& buttons, const std::string& path) override;
+  void WorkPicture(const std::string& work, int percent, const std::string& path) override;
 
  private:
   // The part of a control that gets mouse events; nullptr if it is not visible.

@@ -54,6 +54,14 @@ class Player {
   virtual void FailurePicture(const runtime::Failure& failure, const std::string& path) {
     static_cast<void>(failure), static_cast<void>(path);
   }
+  // The same of the window in front with a notice below it; buttons: captions with a bar in between, "" for none.
+  virtual void NoticePicture(const std::string& text, const std::string& buttons, const std::string& path) {
+    static_cast<void>(text), static_cast<void>(buttons), static_cast<void>(path);
+  }
+  // The same with the progress of long work, in percent.
+  virtual void WorkPicture(const std::string& work, int percent, const std::string& path) {
+    static_cast<void>(work), static_cast<void>(percent), static_cast<void>(path);
+  }
 };
 
 // Called after the program is made and before it is started; the player goes before the program does.

@@ -128,13 +128,16 @@ class Performance {
   }
 
   // picture NAME: the window in front; picture page P NAME: a page of the last document; picture help N NAME: the help
-  // viewer at that topic; picture failure "FAILURE" "FILE" ERROR NAME: the failure report.
+  // viewer at that topic; picture failure "FAILURE" "FILE" ERROR NAME: the failure report; picture notice "TEXT"
+  // "BUTTONS" NAME and picture work "WORK" PERCENT NAME: the window with a notice or with the progress of long work.
   void TakePicture(const Line& line) {
     std::string path = (options_.Pictures / (line.Arguments.back().Text + ".png")).string();
     if (line.Arguments.size() == 1) return run_->Player->Picture(path);
     if (line.Text(0) == "help") return run_->Player->HelpPicture(world_.Folder.string(), line.Number32(1), path);
     if (line.Text(0) == "failure")
       return run_->Player->FailurePicture({line.Text(1), line.Text(2), line.Number32(3)}, path);
+    if (line.Text(0) == "notice") return run_->Player->NoticePicture(line.Text(1), line.Text(2), path);
+    if (line.Text(0) == "work") return run_->Player->WorkPicture(line.Text(1), line.Number32(2), path);
     int page = line.Number32(1);
     if (!world_.Document || page < 1 || page > static_cast<int>(world_.Document->Pages.size()))
       throw Difference{line.Number, Differs("page " + line.Text(1), "a document without it")};

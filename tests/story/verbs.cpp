@@ -43,6 +43,8 @@ constexpr VerbRow Verbs[] = {
   { "picture",       "page",    Role::Action, "nw" },
   { "picture",       "help",    Role::Action, "nw" },
   { "picture",       "failure", Role::Action, "ttnw" },
+  { "picture",       "notice",  Role::Action, "ttw" },
+  { "picture",       "work",    Role::Action, "tnw" },
   { "picture",       "",        Role::Action, "w" },
 
   { "box",           "",        Role::Effect, "weew" },

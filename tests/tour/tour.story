@@ -77,6 +77,14 @@ restart
 click mnuCopy
 pick File1 "Recpra.Dat"
 picture 15_copy_files
+close frmCopy
+picture notice "Saved as /home/anna/Documents/Reelora Prima Full List.pdf" "Open|Show folder" 34_notice_report_saved
+picture notice "Sent to the printer Office" "" 35_notice_report_sent
+picture notice "Record 12 held Alien." "Put back" 36_notice_film_overwritten
+picture notice "Alien is back in record 12." "" 37_notice_film_put_back
+picture notice "Copied Recpra.Dat to the disk BACKUP in drive a: 63,602 bytes" "" 38_notice_copied
+picture notice "A line break cannot be stored" "" 39_notice_character
+picture work "Sorting Titles" 40 40_notice_sorting
 picture help 220 16_help_on_save
 picture failure "Disk full" "Recpra.Dat" 28 17_failure_disk_full
 picture failure "Path/File access error" "Recpra.Dat" 13 18_failure_no_permission
