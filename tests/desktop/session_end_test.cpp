@@ -9,7 +9,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <array>
 #include <csignal>
+#include <string>
 
 #include "app/program.h"
 #include "desktop/draft_box.h"
@@ -34,6 +36,15 @@ void Press(QMessageBox& box, const QString& caption) {
     if (button->text().remove('&') == caption) return button->click();
   FAIL() << "no button " << caption.toStdString();
 }
+
+constexpr std::array Signals = {SIGTERM, SIGINT, SIGHUP};
+
+// A shell lets background programs ignore SIGINT, and what is ignored stays so.
+struct DefaultSignals {
+  DefaultSignals() {
+    for (int signal : Signals) std::signal(signal, SIG_DFL);
+  }
+};
 
 class Session : public testing::Test {
  protected:
@@ -61,6 +72,7 @@ class Session : public testing::Test {
   ::Program Program{Desk, Disk};
   frmPage1& Screen = Program.RecordScreen;
   StackView View{Program.Windows, [this](const std::function<void()>& event) { Program.Deliver(event); }};
+  DefaultSignals Defaults;
   SessionEnd End{Program, View, Desk};
 };
 
@@ -121,7 +133,9 @@ TEST_P(SessionSignal, LeavesTheQuestionOfAHandlerUnanswered) {
   EXPECT_FALSE(HasFilm());
 }
 
-INSTANTIATE_TEST_SUITE_P(Signals, SessionSignal, testing::Values(SIGTERM, SIGINT, SIGHUP));
+INSTANTIATE_TEST_SUITE_P(Each, SessionSignal, testing::ValuesIn(Signals), [](const auto& info) {
+  return std::string(info.param == SIGTERM ? "SIGTERM" : info.param == SIGINT ? "SIGINT" : "SIGHUP");
+});
 
 TEST_F(Session, IsNotAskedAboutWhileAHandlerRuns) {
   TypeTitle();

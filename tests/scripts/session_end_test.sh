@@ -12,7 +12,8 @@ server=
 running=
 trap 'kill $running $server 2>/dev/null; wait 2>/dev/null; rm -rf -- "$work"' EXIT
 exec {display_pipe}<> <(:)
-Xvfb -displayfd "$display_pipe" -screen 0 1280x900x24 >"$work/server" 2>&1 &
+# Without -noreset the server starts over when its last program goes, and refuses one that comes meanwhile.
+Xvfb -noreset -displayfd "$display_pipe" -screen 0 1280x900x24 >"$work/server" 2>&1 &
 server=$!
 read -r -t 30 -u "$display_pipe" number || { echo "skipped: Xvfb does not start"; exit 0; }
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work
