@@ -1,9 +1,9 @@
-// A search that finds nothing, for one field and for six, side by side with a plain sequential read of the file, GNU
-// grep over the same bytes and an SQLite scan. Usage: find_bench [RECPRA_DAT [FILMS...]]
+// The thirteen searches for a text that no film contains, side by side with a plain sequential read of the file, GNU
+// grep over the same bytes and an SQLite scan. Usage: find_bench [--large] [RECPRA_DAT]
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstdio>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -11,19 +11,28 @@
 
 #include "app/program.h"
 #include "bench/measured.h"
+#include "bench/table.h"
+#include "find/field_search.h"
 #include "store/master_file.h"
 #include "tests/kit/collection.h"
 #include "tests/kit/quiet_desk.h"
 #include "tools/film_generator.h"
 #ifdef REELORA_SQLITE
 #include <sqlite3.h>
-#include "tests/kit/source_tree.h"
 #endif
 
 namespace {
 
 namespace files = std::filesystem;
-constexpr int Runs = 5;
+constexpr std::int64_t FilmsInAll = 15'000'000;
+constexpr std::int64_t NoTableFrom = 2'000'000;
+// A smaller file is read before a search has shown the screen again.
+constexpr std::int64_t GoalFrom = 100'000;
+constexpr double Goal = 1.15;
+// Rows of the table of searches.
+constexpr std::size_t Title = 0;
+constexpr std::size_t Director = 1;
+constexpr std::size_t Star = 2;
 constexpr const char* Sought = "qzxjwv";  // in no film
 
 double ReadPlainly(const std::string& path) {
@@ -44,13 +53,13 @@ double Grep(const std::string& path) {
 }
 
 // Runs the handler as a user does. No film contains the text, so it reads the whole file and resets the screen.
-double Search(const std::string& folder, void (frmPage1::*handler)()) {
+double Search(const std::string& folder, const find::FieldSearch& search) {
   kit::QuietDesk desk;
   runtime::RealDisk disk(folder);
   Program program(desk, disk);
   program.StartRecordScreen();
   desk.NextAnswer = Sought;
-  double seconds = bench::Timed([&] { program.Deliver([&] { (program.RecordScreen.*handler)(); }); });
+  double seconds = bench::Timed([&] { program.Deliver([&] { (program.RecordScreen.*search.Item).Click(); }); });
   if (!desk.Reported.empty()) throw std::runtime_error(desk.Reported + " " + desk.ReportedFile);
   return seconds;
 }
@@ -93,35 +102,39 @@ double ScanTable(const std::string& folder) {
 void Compare(const std::string& source, const files::path& folder, std::int64_t films) {
   const std::string path = folder / "Recpra.Dat";
   tools::GenerateFilms(source, path, films);
-  auto best = [](auto work) { return bench::Best(Runs, [work] { return std::vector<double>{work()}; }); };
-  double read = best([&] { return ReadPlainly(path); }).Seconds();
-  double grep = best([&] { return Grep(path); }).Seconds();
-  bench::Measured director = best([&] { return Search(folder, &frmPage1::mnuFindDirector_Click); });
-  bench::Measured star = best([&] { return Search(folder, &frmPage1::mnuFindStar_Click); });
-  std::printf("%8lld films: plain read %7.2f ms, grep -i -c %7.2f ms", static_cast<long long>(films), read * 1e3,
-              grep * 1e3);
+  std::vector<bench::Contestant> contestants;
+  for (const find::FieldSearch& search : find::Searches)
+    contestants.emplace_back([&] { return Search(folder, search); });
+  const std::size_t searches = contestants.size();
+  contestants.emplace_back([&] { return ReadPlainly(path); });
+  contestants.emplace_back([&] { return Grep(path); });
 #ifdef REELORA_SQLITE
-  files::remove(folder / "films.db");
-  MakeTable(folder);
-  std::printf(", SQLite like %7.2f ms", best([&] { return ScanTable(folder); }).Seconds() * 1e3);
+  if (films < NoTableFrom) {
+    MakeTable(folder);
+    contestants.emplace_back([&] { return ScanTable(folder); });
+  }
 #endif
-  auto report = [&](const char* name, const bench::Measured& search) {
-    std::printf("\n  %-8s %7.2f ms, %.2f x the plain read (goal 1.25), %.2f x grep, peak %.1f MiB", name,
-                search.Seconds() * 1e3, search.Seconds() / read, search.Seconds() / grep,
-                double(search.PeakBytes) / (1 << 20));
+  const int rounds = static_cast<int>(std::clamp<std::int64_t>(FilmsInAll / films, 5, 50));
+  const std::vector<double> seconds = bench::Race(rounds, contestants);
+  auto print = [&](std::size_t search, std::size_t other, const char* baseline, std::optional<double> goal) {
+    std::string name = "search by " + std::string(find::Searches[search].Kind) + " through " + bench::Grouped(films);
+    bench::PrintSeconds({name + " films", seconds[search], baseline, seconds[other], goal});
   };
-  report("Director", director);
-  report("Star", star);
-  std::printf("\n");
+  // The others look in one field each, as Director does.
+  auto slowest = std::max_element(seconds.begin() + Star + 1, seconds.begin() + searches) - seconds.begin();
+  for (std::size_t search : {Title, Director, Star, static_cast<std::size_t>(slowest)})
+    print(search, searches, "one plain read", films < GoalFrom ? std::nullopt : std::optional(Goal));
+  constexpr const char* Others[] = {"grep -i -c", "SQLite like '%x%'"};
+  for (std::size_t other = searches + 1; other < seconds.size(); ++other)
+    print(Director, other, Others[other - searches - 1], std::nullopt);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string source = argc > 1 ? argv[1] : kit::SampleFile().string();
-  std::vector<std::int64_t> sizes;
-  for (int index = 2; index < argc; ++index) sizes.push_back(std::atoll(argv[index]));
-  if (sizes.empty()) sizes = {32767, 100000, 1000000};
-  const kit::Collection collection;
-  for (std::int64_t films : sizes) Compare(source, collection.Folder(), films);
+  const bench::Films films(argc, argv);
+  for (std::int64_t count : films.Sizes) {
+    const kit::Collection collection;
+    Compare(films.Source, collection.Folder(), count);
+  }
 }

@@ -1,16 +1,16 @@
-// The child sends its seconds through a pipe; its memory comes with its exit status.
+// The memory of a child process comes with its exit status.
 #include "bench/measured.h"
 
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <exception>
 #include <iostream>
-#include <numeric>
+#include <limits>
 #include <stdexcept>
 
 #include "runtime/failure.h"
@@ -18,43 +18,20 @@
 namespace bench {
 namespace {
 
-double SecondsOf(const std::vector<double>& parts) { return std::accumulate(parts.begin(), parts.end(), 0.0); }
-
-// In the child: never returns.
-[[noreturn]] void Send(int pipe, const std::function<std::vector<double>()>& work) {
+// Returns whether the work succeeded.
+bool Done(const std::function<void()>& work) {
   try {
-    std::vector<double> parts = work();
-    std::size_t bytes = parts.size() * sizeof(double);
-    _exit(::write(pipe, parts.data(), bytes) == static_cast<ssize_t>(bytes) ? 0 : 1);
+    work();
+    return true;
   } catch (const runtime::Failure& failure) {
     std::cerr << failure.Name << ": " << failure.File << "\n";
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
   }
-  _exit(1);
-}
-
-Measured Once(const std::function<std::vector<double>()>& work) {
-  std::array<int, 2> ends{};
-  if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
-  pid_t child = ::fork();
-  if (child < 0) throw std::runtime_error("no process");
-  if (child == 0) Send(ends[1], work);
-  ::close(ends[1]);
-  Measured measured;
-  double part = 0;
-  while (::read(ends[0], &part, sizeof part) == static_cast<ssize_t>(sizeof part)) measured.Parts.push_back(part);
-  ::close(ends[0]);
-  int status = 0;
-  rusage usage{};
-  if (::wait4(child, &status, 0, &usage) != child || status != 0) throw std::runtime_error("a measured run has failed");
-  measured.PeakBytes = std::int64_t{usage.ru_maxrss} * 1024;
-  return measured;
+  return false;
 }
 
 }  // namespace
-
-double Measured::Seconds() const { return SecondsOf(Parts); }
 
 double Timed(const std::function<void()>& call) {
   auto begin = std::chrono::steady_clock::now();
@@ -68,24 +45,22 @@ double ProcessorSeconds(const std::function<void()>& call) {
   return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-Measured Best(int runs, const std::function<std::vector<double>()>& work) {
-  Measured best = Once(work);
-  for (int run = 1; run < runs; ++run) {
-    Measured other = Once(work);
-    if (other.Seconds() < best.Seconds()) best = other;
-  }
+std::vector<double> Race(int rounds, std::span<const Contestant> contestants) {
+  std::vector<double> best(contestants.size(), std::numeric_limits<double>::infinity());
+  for (int round = 0; round < rounds; ++round)
+    for (std::size_t at = 0; at < contestants.size(); ++at) best[at] = std::min(best[at], contestants[at]());
   return best;
 }
 
-Measured BestInOne(int runs, const std::function<std::vector<double>()>& work) {
-  return Once([&] {
-    std::vector<double> best = work();
-    for (int run = 1; run < runs; ++run) {
-      std::vector<double> other = work();
-      if (SecondsOf(other) < SecondsOf(best)) best = other;
-    }
-    return best;
-  });
+std::int64_t PeakBytes(const std::function<void()>& work) {
+  std::cout.flush();
+  pid_t child = ::fork();
+  if (child < 0) throw std::runtime_error("no process");
+  if (child == 0) ::_exit(Done(work) ? 0 : 1);
+  int status = 0;
+  rusage usage{};
+  if (::wait4(child, &status, 0, &usage) != child || status != 0) throw std::runtime_error("a measured run has failed");
+  return std::int64_t{usage.ru_maxrss} * 1024;
 }
 
 }  // namespace bench

@@ -1,29 +1,24 @@
-// Measures time and memory of a piece of work in a process of its own.
+// Measures the time and the memory of pieces of work.
 #pragma once
 
+#include <cstdint>
 #include <functional>
-#include <string>
+#include <span>
 #include <vector>
 
 namespace bench {
-
-// Seconds of each part of the work, and the peak memory of its process.
-struct Measured {
-  std::vector<double> Parts;
-  std::int64_t PeakBytes = 0;
-  double Seconds() const;
-};
 
 // Seconds that the call takes.
 double Timed(const std::function<void()>& call);
 // The same in processor time.
 double ProcessorSeconds(const std::function<void()>& call);
 
-// Runs the work in a process of its own, `runs` times; returns the fastest. work: returns the seconds of its
-// parts; the same number every time. Throws std::runtime_error if a run fails.
-Measured Best(int runs, const std::function<std::vector<double>()>& work);
+// A piece of work that measures itself: returns its seconds.
+using Contestant = std::function<double()>;
+// Runs all in turn, `rounds` times, so that whatever else the machine does slows all of them; the fastest of each.
+std::vector<double> Race(int rounds, std::span<const Contestant> contestants);
 
-// The same with all runs in one process, as in a long-running program.
-Measured BestInOne(int runs, const std::function<std::vector<double>()>& work);
+// The peak memory of a process that does nothing but the work. Throws std::runtime_error if the work fails.
+std::int64_t PeakBytes(const std::function<void()>& work);
 
 }  // namespace bench

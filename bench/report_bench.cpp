@@ -1,59 +1,46 @@
 // The full and the abridged list of 32,766 films: on the bare forms, on the real window with drawing, and the making of
-// the PDF apart; in seconds of processor time. Without a display the window is drawn offscreen.
-// Usage: report_bench [RECPRA_DAT]
+// the PDF apart; in processor time. Without a display the window is drawn offscreen.
+// Usage: report_bench [--large] [RECPRA_DAT]
 #include <QApplication>
 #include <QBuffer>
+#include <QPainter>
 #include <QPdfWriter>
 #include <chrono>
-#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <optional>
+#include <vector>
 
 #include "app/program.h"
 #include "bench/measured.h"
+#include "bench/table.h"
 #include "desktop/page_painter.h"
 #include "desktop/stack_view.h"
 #include "runtime/print_job.h"
+#include "runtime/text.h"
+#include "store/film_record.h"
+#include "store/master_file.h"
 #include "tests/kit/collection.h"
 #include "tests/kit/quiet_desk.h"
-#include "tests/kit/source_tree.h"
 #include "tests/kit/unsynced_disk.h"
 #include "tools/film_generator.h"
 
 namespace {
 
 constexpr int Films = 32766;
+constexpr int Rounds = 3;
 constexpr std::chrono::milliseconds DisplayFrame(16);
-
-// The bytes of a job's text, and the memory used for it.
-struct JobBytes {
-  std::size_t Text = 0;
-  std::size_t Held = 0;
-};
-JobBytes BytesOf(const runtime::PrintJob& job) {
-  JobBytes bytes;
-  for (const auto& page : job.Pages) {
-    bytes.Held += sizeof page + page.Lines.capacity() * sizeof page.Lines.front();
-    for (const auto& line : page.Lines) {
-      bytes.Text += line.Text.size();
-      if (line.Text.capacity() > std::string().capacity()) bytes.Held += line.Text.capacity() + 1;
-    }
-  }
-  return bytes;
-}
 
 // Keeps the last document and paints like the real desk.
 class ReportDesk final : public kit::QuietDesk {
  public:
   desktop::StackView* View = nullptr;
   std::optional<runtime::PrintJob> Document;
-  int Frames = 0;
 
   void Print(const runtime::PrintJob& job) override { Document = job; }
   void Repaint() override {
     if (!View || std::chrono::steady_clock::now() - painted_ < DisplayFrame) return;
     View->Paint();
-    ++Frames;
     painted_ = std::chrono::steady_clock::now();
   }
 
@@ -75,31 +62,74 @@ struct Reports {
   }
 };
 
-void MeasureReport(const std::filesystem::path& folder, const char* name, forms::MenuItem screen::PageControls::*item) {
-  double bare = 0;
-  {
-    Reports reports(folder);
-    bare = reports.Run(reports.Running.RecordScreen.*item);
-    const runtime::PrintJob& job = *reports.Desk.Document;
-    JobBytes bytes = BytesOf(job);
-    std::printf("%-9s %zu pages, %.1f MB of text in %.1f MB\n", name, job.Pages.size(),
-                static_cast<double>(bytes.Text) / 1e6, static_cast<double>(bytes.Held) / 1e6);
-    std::printf("%-9s bare forms  %5.3f s, %6.0f films a second (goal for the full list: 1 s)\n", name, bare,
-                Films / bare);
-    QBuffer pdf;
-    pdf.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&pdf);
-    double painted = bench::ProcessorSeconds([&] { desktop::PaintPages(job, writer); });
-    std::printf("%-9s PDF of %4.1f MB %5.1f us a film (goal for the full list: 150)\n", name,
-                static_cast<double>(pdf.size()) / 1e6, painted / Films * 1e6);
-  }
+using Item = forms::MenuItem screen::PageControls::*;
+
+double OnBareForms(const std::filesystem::path& folder, Item item) {
+  Reports reports(folder);
+  return reports.Run(reports.Running.RecordScreen.*item);
+}
+
+double OnRealWindow(const std::filesystem::path& folder, Item item) {
   Reports reports(folder);
   desktop::StackView view(reports.Running.Windows, [&](const auto& event) { reports.Running.Deliver(event); });
   reports.Desk.View = &view;
   view.Paint();
-  double drawn = reports.Run(reports.Running.RecordScreen.*item);
-  std::printf("%-9s real window %5.3f s, %d frames: %.2f times the bare forms (goal: 1.5)\n", name, drawn,
-              reports.Desk.Frames, drawn / bare);
+  return reports.Run(reports.Running.RecordScreen.*item);
+}
+
+// Each film read in key order, its fields copied into plain strings.
+double CopyFields(const std::filesystem::path& folder) {
+  return bench::ProcessorSeconds([&] {
+    runtime::RealDisk disk(folder);
+    runtime::Files files(disk);
+    store::OpenMaster(files, 1);
+    store::FilmRecord film;
+    std::vector<std::string> texts(std::size(store::FilmFields));
+    for (std::int64_t record = 1; files.Get(1, record, film.Bytes.data()); ++record)
+      for (std::size_t field = 0; field < texts.size(); ++field)
+        texts[field] = runtime::Trim(film.Get(store::FilmField(field)));
+  });
+}
+
+double PaintPdf(const std::function<void(QPdfWriter&)>& paint) {
+  QBuffer pdf;
+  pdf.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pdf);
+  return bench::ProcessorSeconds([&] { paint(writer); });
+}
+
+// The same lines, each drawn with one call and in one font.
+void PaintPlainly(const runtime::PrintJob& job, QPdfWriter& writer) {
+  QPainter painter(&writer);
+  painter.setFont(QFont("Liberation Mono", job.FontSize));
+  const int height = painter.fontMetrics().height();
+  for (const runtime::PrintedPage& page : job.Pages) {
+    if (&page != &job.Pages.front()) writer.newPage();
+    int y = 0;
+    for (const runtime::PrintedLine& line : page.Lines)
+      painter.drawText(0, y += height, QString::fromLatin1(line.PlainText()));
+  }
+}
+
+void MeasureReport(const std::filesystem::path& folder, const std::string& name, Item item) {
+  const bench::Contestant contestants[] = {
+      [&] { return OnBareForms(folder, item); },
+      [&] { return OnRealWindow(folder, item); },
+      [&] { return CopyFields(folder); },
+  };
+  const std::vector<double> seconds = bench::Race(Rounds, contestants);
+  const std::string report = "report: " + name + " of " + bench::Grouped(Films) + " films";
+  bench::PrintSeconds({report + ", bare forms", seconds[0], "reading the films, copying their fields", seconds[2]});
+  bench::PrintSeconds({report + ", real window", seconds[1], "on the bare forms", seconds[0], 1.5});
+  Reports reports(folder);
+  reports.Run(reports.Running.RecordScreen.*item);
+  const runtime::PrintJob& job = *reports.Desk.Document;
+  const bench::Contestant painters[] = {
+      [&] { return PaintPdf([&](QPdfWriter& writer) { desktop::PaintPages(job, writer); }); },
+      [&] { return PaintPdf([&](QPdfWriter& writer) { PaintPlainly(job, writer); }); },
+  };
+  const std::vector<double> painted = bench::Race(1, painters);
+  bench::PrintSeconds({"PDF of that report", painted[0], "its lines drawn plainly, in one font", painted[1]});
 }
 
 }  // namespace
@@ -108,13 +138,11 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  const bench::Films films(argc, argv);
   const kit::Collection collection;
   const std::filesystem::path& folder = collection.Folder();
-  tools::GenerateFilms(argc > 1 ? argv[1] : kit::SampleFile().string(), folder / "Recpra.Dat", Films);
-  {
-    Reports sorting(folder);
-    sorting.Run(sorting.Running.RecordScreen.mnuSort);
-  }
-  MeasureReport(folder, "full", &screen::PageControls::mnuAll);
-  MeasureReport(folder, "abridged", &screen::PageControls::mnuShort);
+  tools::GenerateFilms(films.Source, folder / "Recpra.Dat", Films);
+  OnBareForms(folder, &screen::PageControls::mnuSort);
+  MeasureReport(folder, "full list", &screen::PageControls::mnuAll);
+  MeasureReport(folder, "abridged list", &screen::PageControls::mnuShort);
 }

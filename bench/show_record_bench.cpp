@@ -1,5 +1,5 @@
 // ShowRecord of 32,767 films on the bare forms, side by side with copying the same 35 texts of each into plain strings.
-// Usage: show_record_bench [RECPRA_DAT]
+// Usage: show_record_bench [--large] [RECPRA_DAT]
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -8,10 +8,10 @@
 
 #include "app/program.h"
 #include "bench/measured.h"
+#include "bench/table.h"
 #include "store/film_codes.h"
 #include "tests/kit/collection.h"
 #include "tests/kit/quiet_desk.h"
-#include "tests/kit/source_tree.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ void CopyTexts(const store::FilmRecord& film, std::size_t number, Texts& texts) 
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::vector<store::FilmRecord> films = LoadFilms(argc > 1 ? argv[1] : kit::SampleFile().string());
+  std::vector<store::FilmRecord> films = LoadFilms(bench::Films(argc, argv).Source);
   if (films.empty()) {
     std::fprintf(stderr, "no films to show\n");
     return 1;
@@ -58,26 +58,24 @@ int main(int argc, char** argv) {
   window.ViewState = 0;
   window.RecordCount = Films;
 
-  double shown = 1e9;
-  double copied = 1e9;
   Texts texts;
-  std::size_t copied_bytes = 0;
-  for (int round = 0; round < Rounds; ++round) {
-    shown = std::min(shown, bench::Timed([&] {
-                       for (std::size_t number = 0; number < Films; ++number) {
-                         window.CurrentFilm = films[number];
-                         window.CurrentRecNo = static_cast<std::int64_t>(number) + 1;
-                         window.ShowRecord();
-                       }
-                     }));
-    copied = std::min(copied, bench::Timed([&] {
-                        for (std::size_t number = 0; number < Films; ++number) {
-                          CopyTexts(films[number], number + 1, texts);
-                          copied_bytes += texts[0].size();
-                        }
-                      }));
-  }
-  std::printf("ShowRecord  %6.2f us a film\n", shown / Films * 1e6);
-  std::printf("copying     %6.2f us a film (%zu bytes of titles)\n", copied / Films * 1e6, copied_bytes);
-  std::printf("ratio       %6.2f (goal: at most 4)\n", shown / copied);
+  const bench::Contestant contestants[] = {
+      [&] {
+        return bench::Timed([&] {
+          for (std::size_t number = 0; number < Films; ++number) {
+            window.CurrentFilm = films[number];
+            window.CurrentRecNo = static_cast<std::int64_t>(number) + 1;
+            window.ShowRecord();
+          }
+        });
+      },
+      [&] {
+        return bench::Timed([&] {
+          for (std::size_t number = 0; number < Films; ++number) CopyTexts(films[number], number + 1, texts);
+        });
+      },
+  };
+  const std::vector<double> seconds = bench::Race(Rounds, contestants);
+  bench::PrintSeconds(
+      {"walk: a film shown on the bare forms", seconds[0] / Films, "copying its 35 texts", seconds[1] / Films, 4});
 }

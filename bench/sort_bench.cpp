@@ -1,92 +1,87 @@
-// Measures the sort run on master files of N films next to a plain read, GNU sort and SQLite; prints times, ratios and
-// peak memory. The files are made in FOLDER from the films of SOURCE. Each contestant runs several times in a process
-// of its own; GNU sort starts again each time, which is a good part of its time if films are few. Usage: sort_bench
-// SOURCE FOLDER N...
+// The sort run on master files of several sizes, side by side with a plain read, its floor, GNU sort and SQLite, and
+// its peak memory. GNU sort starts again each time, which is a good part of its time if films are few. Usage:
+// sort_bench [--large] [RECPRA_DAT]
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
-#include <cstring>
 #include <exception>
 #include <filesystem>
-#include <iostream>
-#include <stdexcept>
 
 #include "bench/sort_contestants.h"
+#include "bench/table.h"
 #include "runtime/failure.h"
-#include "tests/kit/source_tree.h"
+#include "tests/kit/collection.h"
 #include "tools/film_generator.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::int64_t FilmsInAll = 7'000'000;
 constexpr std::int64_t NoContestantsFrom = 2'000'000;
+constexpr double MostMemory = 256 * 1024 * 1024;
 
-void Print(const char* what, const bench::Measured& measured, double read_seconds) {
-  std::printf("  %-34s %10.6f s  %7.2f x read  %6.1f MiB\n", what, measured.Seconds(),
-              measured.Seconds() / read_seconds, static_cast<double>(measured.PeakBytes) / (1024 * 1024));
-}
+// The most plain reads that a sort should take, and with its syncs.
+struct Goals {
+  std::int64_t Films;
+  std::optional<double> Reads, SyncedReads;
+};
+// clang-format off
+constexpr Goals AllGoals[] = {
+  {     3'200, 8,            std::nullopt },
+  { 1'000'000, 4.5,          5            },
+  { 9'999'999, 8,            std::nullopt },
+};
+// clang-format on
 
-void PrintParts(const bench::Measured& sorted, double films) {
-  std::printf("  pass by pass, ns a film:          ");
-  for (double part : sorted.Parts) std::printf(" %8.1f", part / films * 1e9);
-  std::printf("\n");
+Goals GoalsFor(std::int64_t films) {
+  const auto* found = std::find_if(std::begin(AllGoals), std::end(AllGoals),
+                                   [films](const Goals& goals) { return goals.Films == films; });
+  return found == std::end(AllGoals) ? Goals{films, std::nullopt, std::nullopt} : *found;
 }
 
 void Measure(const std::string& source, const std::string& folder, std::int64_t films) {
-  const int runs = static_cast<int>(std::clamp<std::int64_t>(FilmsInAll / films, 5, 300));
   tools::GenerateFilms(source, folder + "/Recpra.Dat", films);
-  std::printf("%lld films\n", static_cast<long long>(films));
-  bench::Measured read = bench::BestInOne(runs, [&] { return bench::ReadMaster(folder); });
-  Print("(a) plain read of the master file", read, read.Seconds());
-  bench::Measured sorted = bench::BestInOne(runs, [&] { return bench::SortPasses(folder, false); });
-  Print("sort run, four passes", sorted, read.Seconds());
-  PrintParts(sorted, static_cast<double>(films));
-  Print("the same with its syncs", bench::BestInOne(2, [&] { return bench::SortPasses(folder, true); }),
-        read.Seconds());
+  const std::int64_t peak = bench::PeakBytes([&] { bench::SortPasses(folder, false); });
+  std::vector<bench::Contestant> contestants = {
+      [&] { return bench::ReadMaster(folder); },       [&] { return bench::SortPasses(folder, false); },
+      [&] { return bench::SortFloor(folder, false); }, [&] { return bench::SortPasses(folder, true); },
+      [&] { return bench::SortFloor(folder, true); },
+  };
   if (films < NoContestantsFrom) {
     bench::PrepareLines(folder);
-    bench::Measured lines = bench::BestInOne(runs, [&] { return bench::SortLines(folder); });
-    Print("(b) GNU sort, one pass", lines, read.Seconds());
-    std::printf("  (b) / sort run: %.2f\n", lines.Seconds() / sorted.Seconds());
+    contestants.emplace_back([&] { return bench::SortLines(folder); });
 #ifdef REELORA_SQLITE
     bench::PrepareTable(folder);
-    bench::Measured indexes = bench::BestInOne(runs, [&] { return bench::MakeIndexes(folder); });
-    Print("(c) SQLite, four indexes", indexes, read.Seconds());
-    std::printf("  (c) / sort run: %.2f\n", indexes.Seconds() / sorted.Seconds());
+    contestants.emplace_back([&] { return bench::MakeIndexes(folder); });
 #endif
   }
-  std::fflush(stdout);
-}
-
-std::int64_t Number(const char* text) {
-  std::int64_t number = 0;
-  const char* end = text + std::strlen(text);
-  auto [stop, error] = std::from_chars(text, end, number);
-  if (error != std::errc() || stop != end || number < 1) throw std::invalid_argument("not a number of films");
-  return number;
+  const int rounds = static_cast<int>(std::clamp<std::int64_t>(FilmsInAll / films, 5, 300));
+  const std::vector<double> seconds = bench::Race(rounds, contestants);
+  const std::string name = "sort in four passes, " + bench::Grouped(films) + " films";
+  const std::string synced = name + ", with its syncs";
+  const Goals goals = GoalsFor(films);
+  bench::PrintSeconds({name, seconds[1], "one plain read", seconds[0], goals.Reads});
+  bench::PrintSeconds({name, seconds[1], "four reads and the writing, one thread", seconds[2]});
+  bench::PrintSeconds({synced, seconds[3], "one plain read", seconds[0], goals.SyncedReads});
+  bench::PrintSeconds({synced, seconds[3], "four reads and the writing, with syncs", seconds[4]});
+  constexpr const char* Others[] = {"GNU sort, one pass", "SQLite, four indexes"};
+  for (std::size_t other = 5; other < seconds.size(); ++other)
+    bench::PrintSeconds({name, seconds[1], Others[other - 5], seconds[other]});
+  bench::PrintBytes({name + ": peak memory", static_cast<double>(peak), "256 MiB", MostMemory, 1});
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 4) {
-    std::cerr << "usage: sort_bench SOURCE FOLDER N...\n";
-    return 2;
-  }
   try {
-    fs::path folder = fs::path(argv[2]) / "sort_bench";
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    fs::copy(kit::DeliveredFolder() / "UPPER.ALT", folder);
-    for (int argument = 3; argument < argc; ++argument) Measure(argv[1], folder.string(), Number(argv[argument]));
-    fs::remove_all(folder);
+    const bench::Films films(argc, argv);
+    for (std::int64_t count : films.Sizes) {
+      const kit::Collection collection;
+      Measure(films.Source, collection.Folder().string(), count);
+    }
     return 0;
   } catch (const runtime::Failure& failure) {
-    std::cerr << failure.Name << ": " << failure.File << "\n";
+    std::fprintf(stderr, "%s: %s\n", std::string(failure.Name).c_str(), failure.File.c_str());
   } catch (const std::exception& error) {
-    std::cerr << error.what() << "\n";
+    std::fprintf(stderr, "%s\n", error.what());
   }
   return 1;
 }

@@ -34,35 +34,72 @@ constexpr Pass Passes[] = {
 // clang-format on
 
 // Old outputs are removed first: some file systems write a replacing file out at once, which is a sync too.
-std::vector<double> SortPassesOn(Disk& disk) {
-  std::vector<double> seconds;
-  sort::Sorter sorter(disk);
+void RemoveOutputs(Disk& disk) {
   for (const Pass& pass : Passes) disk.Remove(std::string(pass.Output));
-  for (const Pass& pass : Passes) {
-    sort::Result result;
-    seconds.push_back(Timed([&] { result = sorter.Sort(store::MasterFileName, pass.Output, pass.Statement); }));
-    if (result.Status != sort::Status::Done) throw std::runtime_error("the sort has failed");
-  }
-  return seconds;
 }
+
+void ReadAll(const OpenFile& file) {
+  std::string block(128 * 1024, '\0');
+  std::int64_t offset = 0;
+  while (std::size_t length = file.Read(block.data(), block.size(), offset))
+    offset += static_cast<std::int64_t>(length);
+}
+
+void WriteAll(Disk& disk, const std::string& name, std::int64_t length, const std::string& block) {
+  OpenFile file(disk, name, Disk::Mode::Create);
+  for (std::int64_t offset = 0; offset < length; offset += static_cast<std::int64_t>(block.size())) {
+    auto rest = static_cast<std::size_t>(length - offset);
+    file.Write(std::string_view(block).substr(0, rest), offset);
+  }
+  file.Sync();
+}
+
+// A folder's disk, with its syncs or without.
+class Folder {
+ public:
+  Folder(const std::string& path, bool synced) : real_(path), unsynced_(real_), synced_(synced) {}
+  Disk& Files() { return synced_ ? static_cast<Disk&>(real_) : unsynced_; }
+
+ private:
+  runtime::RealDisk real_;
+  kit::UnsyncedDisk unsynced_;
+  bool synced_;
+};
 
 }  // namespace
 
-std::vector<double> ReadMaster(const std::string& folder) {
-  runtime::RealDisk disk(folder);
-  OpenFile master(disk, std::string(store::MasterFileName), Disk::Mode::Read);
-  std::string block(128 * 1024, '\0');
-  return {Timed([&] {
-    std::int64_t offset = 0;
-    while (std::size_t length = master.Read(block.data(), block.size(), offset))
-      offset += static_cast<std::int64_t>(length);
-  })};
+double ReadMaster(const std::string& path) {
+  Folder folder(path, false);
+  OpenFile master(folder.Files(), std::string(store::MasterFileName), Disk::Mode::Read);
+  return Timed([&] { ReadAll(master); });
 }
 
-std::vector<double> SortPasses(const std::string& folder, bool synced) {
-  runtime::RealDisk real(folder);
-  kit::UnsyncedDisk unsynced(real);
-  return SortPassesOn(synced ? static_cast<Disk&>(real) : unsynced);
+double SortFloor(const std::string& path, bool synced) {
+  Folder folder(path, synced);
+  Disk& disk = folder.Files();
+  std::vector<std::int64_t> lengths;
+  for (const Pass& pass : Passes)
+    lengths.push_back(OpenFile(disk, std::string(pass.Output), Disk::Mode::Read).Length());
+  RemoveOutputs(disk);
+  const std::string block(256 * 1024, 'x');
+  return Timed([&] {
+    for (std::size_t pass = 0; pass < lengths.size(); ++pass) {
+      ReadAll(OpenFile(disk, std::string(store::MasterFileName), Disk::Mode::Read));
+      WriteAll(disk, std::string(Passes[pass].Output), lengths[pass], block);
+    }
+  });
+}
+
+double SortPasses(const std::string& path, bool synced) {
+  Folder folder(path, synced);
+  RemoveOutputs(folder.Files());
+  return Timed([&] {
+    sort::Sorter sorter(folder.Files());
+    for (const Pass& pass : Passes) {
+      sort::Result result = sorter.Sort(store::MasterFileName, pass.Output, pass.Statement);
+      if (result.Status != sort::Status::Done) throw std::runtime_error("the sort has failed");
+    }
+  });
 }
 
 void PrepareLines(const std::string& folder) {
@@ -87,12 +124,12 @@ void PrepareLines(const std::string& folder) {
   }
 }
 
-std::vector<double> SortLines(const std::string& folder) {
+double SortLines(const std::string& folder) {
   std::string command = "cd '" + folder + "' && LC_ALL=C exec sort -f --parallel=2 -o sorted " + std::string(LinesFile);
   int status = 0;
   double seconds = Timed([&] { status = std::system(command.c_str()); });
   if (status != 0) throw std::runtime_error("GNU sort has failed");
-  return {seconds};
+  return seconds;
 }
 
 }  // namespace bench

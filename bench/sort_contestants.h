@@ -7,24 +7,26 @@
 
 namespace bench {
 
-// All use the files of one folder, which contains the master file, and free their memory. Each call is one piece of
-// work for Best and returns the seconds of its parts.
+// All use the files of one folder, which contains the master file, and free their memory. Each returns its seconds.
 
 // A plain sequential read of the master file.
-std::vector<double> ReadMaster(const std::string& folder);
-// The four passes, one part each. Synced: with the syncs of the real disk.
-std::vector<double> SortPasses(const std::string& folder, bool synced);
+double ReadMaster(const std::string& folder);
+// The four passes. Synced: with the syncs of the real disk.
+double SortPasses(const std::string& folder, bool synced);
+// What four passes cannot go without: four plain reads, each followed by a plain writing of its output, in one thread.
+// Needs the outputs of a sort.
+double SortFloor(const std::string& folder, bool synced);
 
 // The lines of the first pass, title and number, in record order.
 void PrepareLines(const std::string& folder);
 // GNU sort with two threads on those lines, as a process.
-std::vector<double> SortLines(const std::string& folder);
+double SortLines(const std::string& folder);
 
 #ifdef REELORA_SQLITE
 // A table of the films in record order, a column for each field.
 void PrepareTable(const std::string& folder);
-// The four indexes on that table, one part each, without syncs.
-std::vector<double> MakeIndexes(const std::string& folder);
+// The four indexes on that table, without syncs.
+double MakeIndexes(const std::string& folder);
 #endif
 
 }  // namespace bench

@@ -1,5 +1,6 @@
 // The start of a process up to its shown window, side by side with the smallest program of the toolkit that shows 200
-// widgets; on collections of several sizes. Usage: start_bench [RECPRA_DAT]
+// widgets; on collections of several sizes, offscreen and on the display if there is one.
+// Usage: start_bench [--large] [RECPRA_DAT]
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -8,22 +9,21 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QWidget>
-#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 
 #include "app/program.h"
 #include "bench/measured.h"
+#include "bench/table.h"
 #include "desktop/application_look.h"
 #include "desktop/qt_desk.h"
 #include "desktop/stack_view.h"
 #include "tests/kit/collection.h"
-#include "tests/kit/source_tree.h"
 #include "tools/film_generator.h"
 
 namespace {
 
-constexpr int Runs = 9;
+constexpr int Rounds = 21;
 constexpr int PlainWidgets = 200;
 
 // Shows a window in this process.
@@ -68,45 +68,49 @@ int StartProgram(int argc, char** argv, const std::string& folder) {
   });
 }
 
-// Runs this program again to show one window and end; the seconds it took, and its peak memory in MiB.
-bench::Measured Start(const std::string& window, const std::string& folder) {
-  return bench::Best(Runs, [&] {
-    double seconds = bench::Timed([&] {
-      pid_t process = ::fork();
-      if (process == 0) {
-        ::execl("/proc/self/exe", "start_bench", window.c_str(), folder.c_str(), nullptr);
-        ::_exit(1);
-      }
-      int status = 0;
-      if (::waitpid(process, &status, 0) != process || status != 0) throw std::runtime_error("a start has failed");
-    });
-    rusage usage{};
-    ::getrusage(RUSAGE_CHILDREN, &usage);
-    return std::vector<double>{seconds, double(usage.ru_maxrss) / 1024};
+// Runs this program again to show one window and end; returns its seconds, and in memory its peak in bytes.
+double Start(const std::string& window, const std::string& folder, double& memory) {
+  rusage usage{};
+  const double seconds = bench::Timed([&] {
+    pid_t process = ::fork();
+    if (process == 0) {
+      ::execl("/proc/self/exe", "start_bench", window.c_str(), folder.c_str(), nullptr);
+      ::_exit(1);
+    }
+    int status = 0;
+    if (::wait4(process, &status, 0, &usage) != process || status != 0) throw std::runtime_error("a start has failed");
   });
+  memory = static_cast<double>(usage.ru_maxrss) * 1024;
+  return seconds;
 }
 
-void Compare(const std::string& source, const std::filesystem::path& folder) {
-  const bench::Measured plain = Start("--plain", folder);
-  std::printf("200 plain widgets      %6.1f ms, %.1f MiB\n", plain.Parts[0] * 1e3, plain.Parts[1]);
-  for (std::int64_t films : {100, 3200, 100000}) {
-    tools::GenerateFilms(source, folder / "Recpra.Dat", films);
-    const bench::Measured ours = Start("--program", folder);
-    std::printf("program, %7lld films  %6.1f ms, %.1f MiB; ratios %.2f and %.2f (goal: at most 1.5)\n",
-                static_cast<long long>(films), ours.Parts[0] * 1e3, ours.Parts[1], ours.Parts[0] / plain.Parts[0],
-                ours.Parts[1] / plain.Parts[1]);
-  }
+void Compare(const std::string& folder, const std::string& name) {
+  double plain_memory = 0;
+  double our_memory = 0;
+  const bench::Contestant contestants[] = {
+      [&] { return Start("--plain", folder, plain_memory); },
+      [&] { return Start("--program", folder, our_memory); },
+  };
+  const std::vector<double> seconds = bench::Race(Rounds, contestants);
+  bench::PrintSeconds({name, seconds[1], "a program of 200 plain widgets", seconds[0], 1.2});
+  bench::PrintBytes({name + ": peak memory", our_memory, "that program", plain_memory});
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const std::string first = argc > 1 ? argv[1] : kit::SampleFile().string();
-  if (first == "--plain" || first == "--program") {
-    int status = first == "--plain" ? StartPlain(argc, argv) : StartProgram(argc, argv, argv[2]);
-    return status;
-  }
+  const std::string_view first = argc > 1 ? argv[1] : "";
+  if (first == "--plain") return StartPlain(argc, argv);
+  if (first == "--program") return StartProgram(argc, argv, argv[2]);
+  const bench::Films films(argc, argv);
   const kit::Collection collection;
-  Compare(first, collection.Folder());
+  for (std::int64_t count : {100, 3200, 100000}) {
+    tools::GenerateFilms(films.Source, collection.Folder() / "Recpra.Dat", count);
+    const std::string name = "start to the shown window, " + bench::Grouped(count) + " films";
+    if (!qEnvironmentVariableIsEmpty("DISPLAY")) Compare(collection.Folder(), name + ", on the display");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Compare(collection.Folder(), name);
+    platform.isNull() ? qunsetenv("QT_QPA_PLATFORM") : qputenv("QT_QPA_PLATFORM", platform);
+  }
 }

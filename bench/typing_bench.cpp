@@ -1,16 +1,16 @@
 // A character typed into an open film on the real window, up to the painted window, with and without the draft; in
-// milliseconds of real time. Without a display the window is drawn offscreen. Usage: typing_bench [FOLDER], an empty
-// folder on the disk to measure.
+// seconds of real time. Without a display the window is drawn offscreen.
 #include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <optional>
+#include <stdexcept>
 #include <vector>
 
 #include "app/program.h"
 #include "bench/measured.h"
+#include "bench/table.h"
 #include "desktop/stack_view.h"
 #include "tests/kit/collection.h"
 #include "tests/kit/no_drafts_disk.h"
@@ -33,16 +33,16 @@ class Typist {
     view_->Paint();
   }
 
-  // Milliseconds of one character.
+  // Seconds of one character.
   double Type(int number) {
     if (number % TitleWidth == 0) view_->Deliver([this] { program_->RecordScreen.txtTitle.SetText(""); });
-    return 1e3 * bench::Timed([&] {
-             for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-               QKeyEvent event(type, Qt::Key_A, Qt::NoModifier, "a");
-               QApplication::sendEvent(view_->Front()->focusWidget(), &event);
-             }
-             view_->Paint();
-           });
+    return bench::Timed([&] {
+      for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_A, Qt::NoModifier, "a");
+        QApplication::sendEvent(view_->Front()->focusWidget(), &event);
+      }
+      view_->Paint();
+    });
   }
   bool Typed() const { return program_->RecordScreen.txtTitle.Text().ends_with("a"); }
 
@@ -54,18 +54,14 @@ class Typist {
   std::optional<desktop::StackView> view_;
 };
 
-struct Times {
-  double Median = 1e9, Most = 0;
-};
-
-// The median of the fastest round, and its slowest character but one in a hundred.
-void Measure(const std::filesystem::path& folder, bool drafts, Times& best) {
+// The median of a character.
+double Measure(const std::filesystem::path& folder, bool drafts) {
   Typist typist(folder, drafts);
   std::vector<double> times;
   for (int number = 0; number < Characters; ++number) times.push_back(typist.Type(number));
-  if (!typist.Typed()) std::printf("nothing was typed\n");
-  std::sort(times.begin(), times.end());
-  if (times[Characters / 2] < best.Median) best = {times[Characters / 2], times[Characters * 99 / 100]};
+  if (!typist.Typed()) throw std::runtime_error("nothing was typed");
+  std::nth_element(times.begin(), times.begin() + Characters / 2, times.end());
+  return times[Characters / 2];
 }
 
 }  // namespace
@@ -75,16 +71,10 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   const kit::Collection collection;
-  std::filesystem::path folder = argc > 1 ? std::filesystem::path(argv[1]) : collection.Folder();
-  if (argc > 1) std::filesystem::copy(collection.Folder(), folder, std::filesystem::copy_options::overwrite_existing);
-  Times with, without;
-  for (int round = 0; round < Rounds; ++round) {
-    Measure(folder, false, without);
-    Measure(folder, true, with);
-  }
-  std::printf("a character  with the draft     median %.3f ms, 99 of 100 below %.3f ms\n", with.Median, with.Most);
-  std::printf("             without the draft  median %.3f ms, 99 of 100 below %.3f ms\n", without.Median,
-              without.Most);
-  std::printf("ratio        %.2f, the draft costs %.3f ms (goal: a character at most 1 ms)\n",
-              with.Median / without.Median, with.Median - without.Median);
+  const bench::Contestant contestants[] = {
+      [&] { return Measure(collection.Folder(), true); },
+      [&] { return Measure(collection.Folder(), false); },
+  };
+  const std::vector<double> seconds = bench::Race(Rounds, contestants);
+  bench::PrintSeconds({"a character typed, to the painted window", seconds[0], "without the draft", seconds[1]});
 }
