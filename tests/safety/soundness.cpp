@@ -16,6 +16,11 @@ namespace {
 
 const std::string MasterName(store::MasterFileName);
 
+// A file of the safety folder, or one that a stopped copy has left.
+bool IsOurs(const std::string& name) {
+  return kit::FolderOf(name) == runtime::SafetyFolder || name.ends_with(runtime::AsideEnding);
+}
+
 bool IsIn(std::string_view history, std::string_view record) {
   constexpr std::size_t EntryLength = store::HistoryHeadLength + store::RecordLength;
   for (; history.size() >= EntryLength; history.remove_prefix(EntryLength)) {
@@ -46,7 +51,7 @@ std::string FilmLost(const kit::Folder& before, const kit::Folder& found) {
 kit::Folder Visible(const kit::Folder& content) {
   kit::Folder visible;
   std::copy_if(content.begin(), content.end(), std::inserter(visible, visible.end()),
-               [](const auto& file) { return kit::FolderOf(file.first).empty(); });
+               [](const auto& file) { return !IsOurs(file.first); });
   return visible;
 }
 

@@ -10,7 +10,7 @@
 
 namespace safety {
 
-// The folder without the safety folder.
+// The folder without the safety folder and without what stopped copies have left.
 kit::Folder Visible(const kit::Folder& content);
 
 // Wraps the disk; empty: none.
