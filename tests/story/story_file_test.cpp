@@ -94,6 +94,7 @@ TEST(StoryLine, RefusesArgumentsThatAVerbDoesNotTake) {
 TEST(StoryLine, KnowsWhatEachLineDoes) {
   EXPECT_EQ(ParseLine("key Titlepra.Dat \"Alien\" 1", 1).As, Role::SetUp);
   EXPECT_EQ(ParseLine("key Shift+Tab", 1).As, Role::Action);
+  EXPECT_EQ(ParseLine("key Down 3", 1).Number32(1), 3);
   EXPECT_EQ(ParseLine("start opener", 1).As, Role::Action);
   EXPECT_EQ(ParseLine("close", 1).As, Role::Action);
   EXPECT_EQ(ParseLine("close frmInfo", 1).As, Role::Action);

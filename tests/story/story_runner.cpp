@@ -114,7 +114,11 @@ class Performance {
         {"dblclick", [](Player& player, const Line& action) { player.DblClick(action.Text(0)); }},
         {"move", [](Player& player, const Line& action) { player.Move(action.Text(0)); }},
         {"pick", [](Player& player, const Line& action) { player.Pick(action.Text(0), action.Text(1)); }},
-        {"key", [](Player& player, const Line& action) { player.Key(action.Text(0)); }},
+        {"key",
+         [](Player& player, const Line& action) {
+           int times = action.Arguments.size() > 1 ? action.Number32(1) : 1;
+           for (int pressed = 0; pressed < times; ++pressed) player.Key(action.Text(0));
+         }},
         {"type", [](Player& player, const Line& action) { player.Type(action.Text(0)); }},
         {"clear", [](Player& player, const Line&) { player.Clear(); }},
         {"close",

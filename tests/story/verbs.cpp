@@ -36,6 +36,7 @@ constexpr VerbRow Verbs[] = {
   { "move",          "",        Role::Action, "w" },
   { "pick",          "",        Role::Action, "wt" },
   { "key",           "",        Role::Action, "e" },
+  { "key",           "",        Role::Action, "en" },
   { "type",          "",        Role::Action, "t" },
   { "clear",         "",        Role::Action, "" },
   { "close",         "",        Role::Action, "" },
