@@ -31,3 +31,13 @@ target_compile_options(reelora_options INTERFACE $<$<BOOL:${REELORA_SANITIZE}>:-
 add_library(reelora_test_options INTERFACE)
 target_link_libraries(reelora_test_options INTERFACE reelora_common_options)
 target_compile_options(reelora_test_options INTERFACE $<$<CONFIG:Release>:-O1>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 warns falsely about strings whose header is precompiled.
+  target_compile_options(reelora_test_options INTERFACE -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
+endif()
+
+# Precompiled for the tests. A compiler cache is faster than precompiled headers, and together they do not work.
+set(common_headers <algorithm> <array> <functional> <map> <optional> <sstream> <string> <string_view> <vector>)
+if(CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
