@@ -59,50 +59,56 @@ store::FilmRecord ReadSlot(const runtime::OpenFile& master, std::int64_t slot) {
   return film;
 }
 
-void List(const std::vector<store::KeptFilm>& films, const runtime::OpenFile& master, std::ostream& out) {
-  if (films.empty()) {
-    out << "No film has been overwritten.\n";
-    return;
+int List(runtime::Disk& disk, const runtime::OpenFile& master, std::ostream& out, std::ostream& errors) {
+  if (std::int64_t entries = store::CountHistory(disk); entries > LongestHistory) {
+    errors << "The history is damaged: it has " << entries << " entries.\n";
+    return 1;
   }
-  out << "   No.  overwritten          record  film, and what stands there now\n";
-  for (const store::KeptFilm& kept : films) {
+  bool any = false;
+  store::EachKeptFilm(disk, 0, [&](const store::KeptFilm& kept) {
+    if (!any) out << "   No.  overwritten          record  film, and what stands there now\n";
+    any = true;
     store::FilmRecord current = ReadSlot(master, kept.Slot);
     out << std::setw(6) << kept.Number << "  " << Printable(kept.When) << std::setw(8) << kept.Slot << "  "
         << TitleOf(kept.Film) << (current.Bytes == kept.Film.Bytes ? " - this film" : " - " + TitleOf(current)) << "\n";
-  }
+  });
+  if (!any) out << "No film has been overwritten.\n";
+  return 0;
 }
 
 int Undo(runtime::Disk& disk, std::int64_t number, std::ostream& out, std::ostream& errors) {
-  for (const store::KeptFilm& kept : store::ReadHistory(disk)) {
-    if (kept.Number != number) continue;
-    runtime::Files files(disk);
-    store::PutBack(files, kept);
-    out << "Record " << kept.Slot << " holds " << TitleOf(kept.Film)
-        << " again. Sort in the program, so that views and lists show it.\n";
-    return 0;
+  std::optional<store::KeptFilm> kept = store::ReadKeptFilm(disk, number);
+  if (!kept) {
+    errors << "There is no entry " << number << ".\n";
+    return 1;
   }
-  errors << "There is no entry " << number << ".\n";
-  return 1;
+  runtime::Files files(disk);
+  store::PutBack(files, *kept);
+  out << "Record " << kept->Slot << " holds " << TitleOf(kept->Film)
+      << " again. Sort in the program, so that views and lists show it.\n";
+  return 0;
 }
 
 }  // namespace
 
-int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& errors) {
+std::unique_ptr<runtime::Disk> RealDiskIn(const std::string& folder) {
+  return std::make_unique<runtime::RealDisk>(folder);
+}
+
+int RunHistoryCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& errors,
+                      const DiskIn& disk_in) {
   std::optional<Request> request = ParseArguments(arguments);
   if (!request) {
     errors << Usage;
     return 2;
   }
   try {
-    runtime::RealDisk disk(request->Folder);
-    disk.NewFilesLike(std::string(store::MasterFileName));
-    runtime::OpenFile master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
-    if (!request->Undo) {
-      List(store::ReadHistory(disk), master, out);
-      return 0;
-    }
+    const std::unique_ptr<runtime::Disk> disk = disk_in(request->Folder);
+    disk->NewFilesLike(std::string(store::MasterFileName));
+    runtime::OpenFile master(*disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
+    if (!request->Undo) return List(*disk, master, out, errors);
     runtime::FolderLock lock(request->Folder);
-    if (lock.Held()) return Undo(disk, *request->Undo, out, errors);
+    if (lock.Held()) return Undo(*disk, *request->Undo, out, errors);
     errors << "This collection is already open.\n";
   } catch (const runtime::Failure& failure) {
     errors << failure.Name << ": " << request->Folder << "/" << failure.File << "\n";

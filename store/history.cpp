@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
 
 #include "runtime/clock.h"
@@ -15,6 +16,9 @@ namespace {
 constexpr std::size_t StampWidth = 19;
 constexpr std::size_t SlotWidth = HistoryHeadLength - StampWidth;  // blanks included
 constexpr std::size_t EntryLength = HistoryHeadLength + RecordLength;
+
+// A file cannot have more.
+constexpr std::int64_t LastNumber = INT64_MAX / static_cast<std::int64_t>(EntryLength);
 
 constexpr int MasterNo = 1;
 
@@ -29,6 +33,34 @@ bool IsFilm(std::string_view record) {
 bool IsSlot(std::string_view text) {
   bool number = std::all_of(text.begin(), text.end(), [](char digit) { return digit >= '0' && digit <= '9'; });
   return number && text.find_first_not_of('0') != std::string_view::npos;
+}
+
+// Nothing if there is none.
+std::optional<runtime::OpenFile> OpenHistory(runtime::Disk& disk) {
+  try {
+    return runtime::OpenFile(disk, HistoryName(), runtime::Disk::Mode::Read);
+  } catch (const runtime::Failure& failure) {
+    if (failure.Name != runtime::FileNotFound) throw;
+  }
+  return std::nullopt;
+}
+
+// False past the end, or if the file ends in it.
+bool ReadEntry(const runtime::OpenFile& history, std::int64_t number, std::string& entry) {
+  entry.resize(EntryLength);
+  return history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) == EntryLength;
+}
+
+// Nothing if it was never finished.
+std::optional<KeptFilm> Parsed(std::string_view entry, std::int64_t number) {
+  std::string_view slot = runtime::Trim(entry.substr(StampWidth, SlotWidth));
+  if (!IsSlot(slot)) return std::nullopt;
+  KeptFilm kept;
+  kept.Number = number;
+  kept.When = entry.substr(0, StampWidth);
+  kept.Slot = static_cast<std::int64_t>(runtime::NumericValue(slot));
+  entry.copy(kept.Film.Bytes.data(), RecordLength, HistoryHeadLength);
+  return kept;
 }
 
 }  // namespace
@@ -57,35 +89,30 @@ bool KeepOverwritten(runtime::Disk& disk, std::int64_t slot, std::string_view ol
 }
 
 std::int64_t CountHistory(runtime::Disk& disk) {
-  try {
-    runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Read);
-    return history.Length() / static_cast<std::int64_t>(EntryLength);
-  } catch (const runtime::Failure& failure) {
-    if (failure.Name != runtime::FileNotFound) throw;
+  std::optional<runtime::OpenFile> history = OpenHistory(disk);
+  return history ? history->Length() / static_cast<std::int64_t>(EntryLength) : 0;
+}
+
+void EachKeptFilm(runtime::Disk& disk, std::int64_t after, const std::function<void(const KeptFilm&)>& visit) {
+  std::optional<runtime::OpenFile> history = OpenHistory(disk);
+  if (!history) return;
+  std::string entry;
+  for (std::int64_t number = after + 1; ReadEntry(*history, number, entry); ++number) {
+    if (std::optional<KeptFilm> kept = Parsed(entry, number)) visit(*kept);
   }
-  return 0;
 }
 
 std::vector<KeptFilm> ReadHistory(runtime::Disk& disk, std::int64_t after) {
   std::vector<KeptFilm> films;
-  try {
-    runtime::OpenFile history(disk, HistoryName(), runtime::Disk::Mode::Read);
-    std::string entry(EntryLength, '\0');
-    for (std::int64_t number = after + 1;; ++number) {
-      if (history.Read(entry.data(), entry.size(), (number - 1) * static_cast<std::int64_t>(EntryLength)) < EntryLength)
-        return films;
-      std::string_view slot = runtime::Trim(std::string_view(entry).substr(StampWidth, SlotWidth));
-      if (!IsSlot(slot)) continue;
-      KeptFilm& kept = films.emplace_back();
-      kept.Number = number;
-      kept.When = entry.substr(0, StampWidth);
-      kept.Slot = static_cast<std::int64_t>(runtime::NumericValue(slot));
-      entry.copy(kept.Film.Bytes.data(), RecordLength, HistoryHeadLength);
-    }
-  } catch (const runtime::Failure& failure) {
-    if (failure.Name != runtime::FileNotFound) throw;
-  }
+  EachKeptFilm(disk, after, [&](const KeptFilm& kept) { films.push_back(kept); });
   return films;
+}
+
+std::optional<KeptFilm> ReadKeptFilm(runtime::Disk& disk, std::int64_t number) {
+  std::optional<runtime::OpenFile> history = OpenHistory(disk);
+  std::string entry;
+  if (!history || number < 1 || number > LastNumber || !ReadEntry(*history, number, entry)) return std::nullopt;
+  return Parsed(entry, number);
 }
 
 void PutBack(runtime::Files& files, const KeptFilm& kept) {

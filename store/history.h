@@ -6,6 +6,8 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,9 +38,12 @@ struct KeptFilm {
 
 // How many entries there are, unfinished ones included.
 std::int64_t CountHistory(runtime::Disk& disk);
-// Those after that number, the oldest first, without unfinished entries; none if there is no history. Any other failure
-// of its file is thrown.
+// Visits those after that number, the oldest first, without unfinished entries; none if there is no history. Any other
+// failure of its file is thrown.
+void EachKeptFilm(runtime::Disk& disk, std::int64_t after, const std::function<void(const KeptFilm&)>& visit);
 std::vector<KeptFilm> ReadHistory(runtime::Disk& disk, std::int64_t after = 0);
+// The entry of that number; nothing if there is none or if it is unfinished.
+std::optional<KeptFilm> ReadKeptFilm(runtime::Disk& disk, std::int64_t number);
 
 // Writes the film into its slot again, as safely as a save: the slot's present film goes to the history. Number 1 may
 // have the master file open. "Bad record number" if the master file has no such slot, "File not found" if there is

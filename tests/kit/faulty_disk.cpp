@@ -132,6 +132,7 @@ int FaultyDisk::SyncFolder(const std::string& name) {
 }
 
 std::vector<std::string> FaultyDisk::List(const std::string& folder) {
+  if (planned_ && plan_.As == Fault::Interrupted) return below_.List(folder);
   std::vector<std::string> names;
   int error = Made([&] {
     names = below_.List(folder);

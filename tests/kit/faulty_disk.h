@@ -32,7 +32,7 @@ struct FaultPlan {
   bool FromThenOn = false;
 };
 
-// Close cannot fail; List fails as empty.
+// Close cannot fail; List fails as empty and is never interrupted.
 class FaultyDisk final : public runtime::Disk {
  public:
   explicit FaultyDisk(MemoryDisk& below) : below_(below) {}

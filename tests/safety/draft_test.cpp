@@ -155,6 +155,50 @@ TEST_P(TypedFilms, OutliveAKillWhileTheyAreKept) {
   }
 }
 
+// The draft has reached the disk; the power fails while the film is kept.
+TEST_P(TypedFilms, OutliveALossOfPowerWhileTheyAreKept) {
+  constexpr std::size_t MostStates = 64;
+  kit::MemoryDisk typed(Tested.Before);
+  {
+    kit::DraftDesk desk;
+    Program program(desk, typed);
+    Play(program, Tested, Tested.Events.size());
+  }
+  kit::MemoryDisk memory(typed.Content());
+  ASSERT_TRUE(StartAndKeep(memory));
+  for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
+    for (const kit::Folder& state : memory.AfterPowerLoss(moment, MostStates)) {
+      kit::MemoryDisk left(state);
+      ASSERT_TRUE(StartAndKeep(left));
+      ASSERT_EQ(left.Content().at(Master), SavedAfter.back()) << "at moment " << moment;
+      ASSERT_FALSE(HasDraft(left));
+    }
+  }
+}
+
+// The disk fails from a call on while the film is typed; the save then stops by name and the old film stays.
+TEST_P(TypedFilms, AreNotSavedOnADiskThatHasFailed) {
+  const std::size_t typed = Calls();
+  for (kit::Fault fault : {kit::Fault::Full, kit::Fault::Error, kit::Fault::Refused}) {
+    for (std::size_t at = typed - 1; at + 12 > typed; --at) {
+      SCOPED_TRACE(std::string(kit::NameOf(fault)) + " from call " + std::to_string(at));
+      kit::MemoryDisk memory(Tested.Before);
+      kit::FaultyDisk faulty(memory, {fault, at, true});
+      kit::DraftDesk desk;
+      Program program(desk, faulty);
+      Play(program, Tested, Tested.Events.size());
+      ASSERT_FALSE(program.Stopped()) << "stopped by a draft";
+      ASSERT_EQ(desk.Notices.size(), 1u);
+      program.Deliver([&] { program.RecordScreen.cmdSave_Click(); });
+      ASSERT_TRUE(program.Stopped());
+      ASSERT_NE(desk.Reported, "");
+      ASSERT_EQ(memory.Content().at(Master), Tested.Before.at(Master));
+      kit::MemoryDisk left(memory.Content());
+      ASSERT_TRUE(StartAndKeep(left));
+    }
+  }
+}
+
 // The disk fails while the film is typed and saved: the next start has it, or the save went through.
 TEST_P(TypedFilms, OutliveAFailedSave) {
   std::size_t typing = Calls();

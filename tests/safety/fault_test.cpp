@@ -7,8 +7,8 @@
 #include "runtime/text.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
-#include "tests/kit/faulty_disk.h"
 #include "tests/kit/films.h"
+#include "tests/safety/fault_rows.h"
 #include "tests/safety/power_loss.h"
 #include "tests/safety/scenario.h"
 #include "tests/safety/scenario_run.h"
@@ -16,27 +16,6 @@
 
 namespace safety {
 namespace {
-
-// Failure: what the program must report; "" if the user must not notice the fault.
-struct FaultRow {
-  std::string Name;
-  kit::Fault As;
-  bool FromThenOn;
-  std::string_view Failure;
-};
-const FaultRow Faults[] = {
-    {"disk full", kit::Fault::Full, false, runtime::DiskFull},
-    {"disk full from then on", kit::Fault::Full, true, runtime::DiskFull},
-    {"error", kit::Fault::Error, false, runtime::DeviceError},
-    {"error from then on", kit::Fault::Error, true, runtime::DeviceError},
-    {"refused", kit::Fault::Refused, false, runtime::PathError},
-    {"refused from then on", kit::Fault::Refused, true, runtime::PathError},
-    {"half a write, then disk full", kit::Fault::ShortThenFull, false, runtime::DiskFull},
-    {"half a write, then disk full from then on", kit::Fault::ShortThenFull, true, runtime::DiskFull},
-    {"interrupted", kit::Fault::Interrupted, false, ""},
-    {"short", kit::Fault::Short, false, ""},
-    {"short from then on", kit::Fault::Short, true, ""},
-};
 
 // The screen shows the films of the master file, one after the other.
 void ExpectFilmsOnScreen(Program& program, const std::string& master) {
@@ -69,7 +48,7 @@ class EveryCall : public testing::TestWithParam<Scenario> {
 TEST_P(EveryCall, FailsNamedAndLeavesTheOldOrTheNew) {
   for (const FaultRow& fault : Faults) {
     for (std::size_t at = 0; at < Calls; ++at) {
-      SCOPED_TRACE(Tested.Name + ", " + fault.Name + " at call " + std::to_string(at));
+      SCOPED_TRACE(Tested.Name + ", " + std::string(fault.Name) + " at call " + std::to_string(at));
       kit::MemoryDisk memory(Tested.Before);
       kit::FaultyDisk faulty(memory, {fault.As, at, fault.FromThenOn});
       ScenarioRun run = RunScenario(Tested, faulty);
@@ -77,6 +56,8 @@ TEST_P(EveryCall, FailsNamedAndLeavesTheOldOrTheNew) {
         ASSERT_FALSE(fault.Failure.empty()) << "stopped by " << run.Stopped->Name;
         ASSERT_EQ(run.Stopped->Name, fault.Failure);
         ASSERT_EQ(run.Reported, fault.Failure);
+      } else if (!run.Refused.empty()) {
+        ASSERT_FALSE(fault.Failure.empty()) << "refused: " << run.Refused;
       } else {
         ASSERT_EQ(run.Steps, Tested.Steps.size());
       }

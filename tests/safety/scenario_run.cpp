@@ -11,7 +11,12 @@ ScenarioRun RunScenario(const Scenario& scenario, runtime::Disk& disk,
     run.Started = !started.Program.Stopped();
     for (const Step& step : scenario.Steps) {
       if (started.Program.Stopped()) break;
-      step(started.Program);
+      try {
+        step(started.Program);
+      } catch (const Refused& refused) {
+        run.Refused = refused.Told;
+        break;
+      }
       if (started.Program.Stopped()) break;
       ++run.Steps;
       if (finished) finished(run.Steps);

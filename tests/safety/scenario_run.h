@@ -15,6 +15,7 @@ struct ScenarioRun {
   std::size_t Steps = 0;  // finished, each without a failure
   std::optional<runtime::Failure> Stopped;
   std::string Reported;  // by the failure report
+  std::string Refused;   // what the user was told of a step that could not be done; the steps after it are left out
   bool Killed = false;
 };
 
