@@ -2,12 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <optional>
 #include <random>
 
 #include "store/film_record.h"
 #include "store/master_file.h"
 #include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
+#include "tests/safety/reading.h"
 #include "tests/safety/steps.h"
 
 namespace safety {
@@ -30,6 +32,31 @@ void Look(Program& program, int steps) {
   for (int step = 0; step < steps; ++step) program.Deliver([&] { screen.UserClick(screen.cmdPrevious); });
 }
 
+// Sorts a master file of these bytes; then browses, searches, lists and prints.
+void ExpectOnlyReadByAll(const std::string& master) {
+  kit::Folder folder = kit::FolderOfFilms(0);
+  folder[Master] = master;
+  kit::MemoryDisk unsorted(folder);
+  StartedProgram sorting(unsorted);
+  SortFilms()(sorting.Program);
+  ASSERT_FALSE(sorting.Program.Stopped()) << sorting.Program.Stopped()->Name;
+  folder = unsorted.Content();
+  ASSERT_EQ(folder.at(Master), master);
+  kit::MemoryDisk disk(folder);
+  ReadersDesk desk(static_cast<unsigned>(master.size()));
+  std::optional<Program> program;
+  for (Reader reader : Readers()) {
+    if (!program || program->Ended()) {
+      program.reset();
+      program.emplace(desk, disk);
+      program->StartRecordScreen();
+    }
+    Click(*program, reader);
+  }
+  ASSERT_EQ(disk.Content(), folder);
+  ASSERT_EQ(disk.Moments(), 0U);
+}
+
 // Starts on a master file of these bytes, steps forward and back.
 void ExpectOnlyRead(const std::string& master) {
   kit::Folder folder = kit::FolderOfFilms(0);
@@ -47,8 +74,12 @@ TEST(Feeding, AMasterFileOfEveryLengthUpToThreeRecords) {
   std::string films = kit::FilmBytes(1, 0) + kit::FilmBytes(2, 0) + kit::FilmBytes(3, 0);
   for (std::size_t length = 0; length <= films.size(); ++length) {
     SCOPED_TRACE(length);
+    const std::string garbled = RandomBytes(random, length);
     ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(films.substr(0, length)));
-    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(RandomBytes(random, length)));
+    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(garbled));
+    if (length % 3 == 0) {
+      ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(length % 2 == 0 ? films.substr(0, length) : garbled));
+    }
   }
 }
 
@@ -57,7 +88,11 @@ TEST(Feeding, AMasterFileOfAThousandRandomLengths) {
   for (int trial = 0; trial < 1000; ++trial) {
     std::size_t length = 3 * store::RecordLength + random() % 100000;
     SCOPED_TRACE(length);
-    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(RandomBytes(random, length)));
+    const std::string garbled = RandomBytes(random, length);
+    ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(garbled));
+    if (trial % 10 == 0) {
+      ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(garbled));
+    }
   }
 }
 
