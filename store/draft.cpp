@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 
 #include "runtime/checksum.h"
 #include "runtime/whole_io.h"
@@ -16,6 +17,7 @@ namespace {
 constexpr std::string_view Mark = "REELDRF1";
 constexpr std::string_view FirstName = "draft";
 constexpr std::size_t TitleWidth = 64;
+constexpr std::int64_t LastSlot = std::numeric_limits<std::int32_t>::max();  // as far as the screen counts
 constexpr int MasterNo = 1;
 
 struct DraftHead {
@@ -49,7 +51,8 @@ std::optional<Draft> Parsed(std::string_view bytes) {
   DraftHead head{};
   std::memcpy(&head, bytes.data(), sizeof head);
   bool intact = sum == runtime::Checksum(bytes.substr(0, BodyLength)) && bytes.starts_with(Mark) && head.Slot >= 1 &&
-                head.TitleLength >= 0 && head.TitleLength <= static_cast<std::int64_t>(TitleWidth);
+                head.Slot <= LastSlot && head.TitleLength >= 0 &&
+                head.TitleLength <= static_cast<std::int64_t>(TitleWidth);
   if (!intact) return std::nullopt;
   Draft draft;
   draft.Slot = head.Slot;

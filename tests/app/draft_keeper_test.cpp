@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <limits>
 
 #include "app/program.h"
 #include "store/master_file.h"
@@ -224,6 +225,17 @@ TEST_F(Drafts, OfASavedFilmAreNotAskedAbout) {
   next.Program.StartOpener();
   EXPECT_EQ(next.Desk.Asked, std::vector<std::string>());
   EXPECT_FALSE(HasDraft());
+}
+
+TEST_F(Drafts, OfASlotThatNoFileHasAreNone) {
+  StopInEdit("Kept");
+  store::Draft draft = *Left();
+  draft.Slot = std::numeric_limits<std::int64_t>::max();
+  store::WriteDraft(Memory, "draft", draft);
+  EXPECT_FALSE(Left());
+  ProgramRun next(Disk);
+  next.Program.StartOpener();
+  EXPECT_TRUE(next.Desk.Asked.empty());
 }
 
 TEST_F(Drafts, AreNotAskedAboutByTheRecordScreen) {
