@@ -26,6 +26,16 @@ add_library(reelora_options INTERFACE)
 target_link_libraries(reelora_options INTERFACE reelora_common_options)
 # Only here: optimized, a sanitized test takes three times as long to compile.
 target_compile_options(reelora_options INTERFACE $<$<BOOL:${REELORA_SANITIZE}>:-O1>)
+# libFuzzer needs to know what an input reaches. Counters alone cost the sanitized tests little.
+set(libfuzzer OFF)
+if(REELORA_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  set(libfuzzer ON)
+  set(coverage -fsanitize-coverage=inline-8bit-counters,pc-table)
+  if(REELORA_FUZZ)
+    set(coverage -fsanitize=fuzzer-no-link)
+  endif()
+  target_compile_options(reelora_options INTERFACE ${coverage})
+endif()
 
 # Tests compile with -O1 for speed; the code under test is built as shipped.
 add_library(reelora_test_options INTERFACE)

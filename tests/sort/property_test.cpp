@@ -12,6 +12,7 @@
 #include "store/film_record.h"
 #include "tests/kit/source_tree.h"
 #include "tests/sort/calls.h"
+#include "tests/sort/plain_sort.h"
 #include "tests/story/sort_reference.h"
 #include "tools/film_text.h"
 
@@ -150,17 +151,6 @@ TEST(SortProperty, OneSorterSeesWhatHasChangedSinceItsLastSort) {
   }
 }
 
-// Any statement on records of twelve bytes, sorted in the plainest way.
-struct AnyStatement {
-  std::string Text;
-  std::vector<KeyField> Fields;
-  std::vector<OutputPiece> Pieces;
-  bool Weighted = false;
-  std::string Relation;  // "" for none
-  RecordSpan Tested;
-  std::string Constant;
-};
-
 constexpr std::size_t SmallRecord = 12;
 
 RecordSpan RandomSpan(Chance& chance) {
@@ -168,106 +158,49 @@ RecordSpan RandomSpan(Chance& chance) {
   return {offset, 1 + chance.Below(SmallRecord - offset)};
 }
 
-std::string Written(const RecordSpan& span) {
-  return std::to_string(span.Offset + 1) + "," + std::to_string(span.Width);
-}
-
-// Without its test.
-AnyStatement RandomSort(Chance& chance) {
-  AnyStatement any;
-  std::string fields;
-  for (std::size_t count = 1 + chance.Below(3); count > 0; --count) {
-    KeyField field{RandomSpan(chance), chance.Below(2) == 0};
-    fields += (fields.empty() ? "" : ",") + Written(field.Span) + (field.Descending ? ",C,D" : ",C,A");
-    any.Fields.push_back(field);
-  }
-  std::string pieces;
-  for (std::size_t count = 1 + chance.Below(4); count > 0; --count) {
-    OutputPiece piece{OutputPiece::Kind(chance.Below(3)), RandomSpan(chance)};
-    bool bytes = piece.As == OutputPiece::Kind::Bytes;
-    std::string text = bytes ? Written(piece.Span) : piece.As == OutputPiece::Kind::LineEnd ? "CRLF" : "Arrn";
-    pieces += (pieces.empty() ? "" : ",") + text;
-    any.Pieces.push_back(piece);
-  }
-  any.Text = "S(" + fields + ") OUTREC(" + pieces + ") Record(12)";
-  any.Weighted = chance.Below(2) == 0;
-  if (any.Weighted) any.Text += " ALTSEQ(UPPER.ALT)";
+// Any statement on records of twelve bytes, without a test.
+Statement RandomSort(Chance& chance) {
+  Statement any;
+  any.RecordLength = SmallRecord;
+  for (std::size_t count = 1 + chance.Below(3); count > 0; --count)
+    any.Fields.push_back({RandomSpan(chance), chance.Below(2) == 0});
+  for (std::size_t count = 1 + chance.Below(4); count > 0; --count)
+    any.Output.push_back({OutputPiece::Kind(chance.Below(3)), RandomSpan(chance)});
+  if (chance.Below(2) == 0) any.WeightsFile = "UPPER.ALT";
   return any;
 }
 
-AnyStatement WithRandomTest(AnyStatement any, Chance& chance) {
+Statement WithRandomTest(Statement any, Chance& chance) {
+  any.Include.reset();
   if (chance.Below(2) == 0) return any;
-  constexpr const char* Relations[] = {"EQ", "NE", "GT", "GE", "LT", "LE"};
-  any.Relation = Relations[chance.Below(6)];
-  any.Tested = RandomSpan(chance);
-  any.Tested.Width = std::min<std::size_t>(any.Tested.Width, 3);
-  any.Constant = chance.Text(chance.Below(4), "aAbB ");
-  any.Text += " Include(" + Written(any.Tested) + ",C," + any.Relation + ",\"" + any.Constant + "\")";
+  IncludeTest& test = any.Include.emplace();
+  test.Span = RandomSpan(chance);
+  const std::size_t relation = 1 + chance.Below(6);  // neither none of the three nor all
+  test.KeepsLess = (relation & 1) != 0;
+  test.KeepsEqual = (relation & 2) != 0;
+  test.KeepsGreater = (relation & 4) != 0;
+  test.Span.Width = std::min<std::size_t>(test.Span.Width, 3);
+  test.Constant = chance.Text(chance.Below(4), "aAbB ");
   return any;
-}
-
-int Compared(const AnyStatement& any, std::string_view left, std::string_view right) {
-  const std::string weights = DeliveredWeights();
-  for (std::size_t at = 0; at < std::max(left.size(), right.size()); ++at) {
-    auto weigh = [&](std::string_view text) {
-      auto character = static_cast<unsigned char>(at < text.size() ? text[at] : ' ');
-      return any.Weighted ? static_cast<unsigned char>(weights[character]) : character;
-    };
-    if (weigh(left) != weigh(right)) return weigh(left) < weigh(right) ? -1 : 1;
-  }
-  return 0;
-}
-
-bool Kept(const AnyStatement& any, std::string_view record) {
-  if (any.Relation.empty()) return true;
-  int order = Compared(any, record.substr(any.Tested.Offset, any.Tested.Width), any.Constant);
-  if (any.Relation == "EQ") return order == 0;
-  if (any.Relation == "NE") return order != 0;
-  if (any.Relation == "GT") return order > 0;
-  if (any.Relation == "GE") return order >= 0;
-  return any.Relation == "LT" ? order < 0 : order <= 0;
-}
-
-std::string ExpectedOutput(const AnyStatement& any, std::string_view input) {
-  std::vector<std::size_t> records;
-  auto record = [&](std::size_t index) { return input.substr(index * SmallRecord, SmallRecord); };
-  for (std::size_t index = 0; (index + 1) * SmallRecord <= input.size(); ++index) {
-    if (Kept(any, record(index))) records.push_back(index);
-  }
-  std::stable_sort(records.begin(), records.end(), [&](std::size_t left, std::size_t right) {
-    for (const KeyField& field : any.Fields) {
-      int order = Compared(any, record(left).substr(field.Span.Offset, field.Span.Width),
-                           record(right).substr(field.Span.Offset, field.Span.Width));
-      if (order != 0) return field.Descending ? order > 0 : order < 0;
-    }
-    return false;
-  });
-  std::string output;
-  for (std::size_t index : records) {
-    for (const OutputPiece& piece : any.Pieces) {
-      std::string number = std::to_string(index + 1);
-      if (piece.As == OutputPiece::Kind::LineEnd) output += "\r\n";
-      if (piece.As == OutputPiece::Kind::RecordNumber) output += std::string(7 - number.size(), '0') + number;
-      if (piece.As == OutputPiece::Kind::Bytes) output += record(index).substr(piece.Span.Offset, piece.Span.Width);
-    }
-  }
-  return output;
 }
 
 TEST(SortProperty, AnyStatementDoesWhatItSays) {
   Chance chance(649);
+  const std::string delivered = DeliveredWeights();
+  Weights weights{};
+  std::copy(delivered.begin(), delivered.end(), weights.begin());
   for (int trial = 0; trial < 500; ++trial) {
     std::string input = chance.Text(chance.Below(400), "aAbB\xE9\xC9 ~");
     kit::MemoryDisk memory(FolderWith(input));
     SharedDisk disk(memory);
     Sorter sorter(disk, RandomLimits(chance));
-    AnyStatement sort = RandomSort(chance);
+    Statement sort = RandomSort(chance);
     for (int number = 0; number < 4; ++number) {
       if (number == 3) sort = RandomSort(chance);
-      AnyStatement any = WithRandomTest(sort, chance);
-      SCOPED_TRACE(any.Text);
-      ASSERT_EQ(SortWith(sorter, "out", any.Text).Status, Status::Done);
-      ASSERT_EQ(FileOn(memory, "out"), ExpectedOutput(any, input));
+      const Statement any = WithRandomTest(sort, chance);
+      SCOPED_TRACE(Written(any));
+      ASSERT_EQ(SortWith(sorter, "out", Written(any)).Status, Status::Done);
+      ASSERT_EQ(FileOn(memory, "out"), PlainlySorted(any, any.WeightsFile ? weights : PlainWeights(), input).Bytes);
     }
   }
 }
