@@ -21,6 +21,11 @@ if(REELORA_SANITIZE)
     target_compile_options(reelora_common_options INTERFACE -Wno-maybe-uninitialized)
   endif()
 endif()
+if(REELORA_COVERAGE)
+  # Atomic: the sort counts in several threads.
+  target_compile_options(reelora_common_options INTERFACE --coverage -O0 -fprofile-update=atomic)
+  target_link_options(reelora_common_options INTERFACE --coverage)
+endif()
 
 add_library(reelora_options INTERFACE)
 target_link_libraries(reelora_options INTERFACE reelora_common_options)
