@@ -26,6 +26,12 @@ std::string_view NameOf(Fault fault) {
   return Names[static_cast<std::size_t>(fault)];
 }
 
+void FaultyDisk::Arm(FaultPlan plan) {
+  plan_ = plan;
+  plan_.At += calls_;
+  planned_ = true;
+}
+
 bool FaultyDisk::IsDue() {
   if (killed_) throw Killed();
   std::size_t call = calls_++;

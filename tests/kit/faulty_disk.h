@@ -38,6 +38,8 @@ class FaultyDisk final : public runtime::Disk {
   explicit FaultyDisk(MemoryDisk& below) : below_(below) {}
   FaultyDisk(MemoryDisk& below, FaultPlan plan) : below_(below), plan_(plan), planned_(true) {}
 
+  // From now on; the plan's call is counted from here.
+  void Arm(FaultPlan plan);
   // Calls made so far.
   std::size_t Calls() const { return calls_; }
 
