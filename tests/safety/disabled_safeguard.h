@@ -27,6 +27,14 @@ enum class Safeguard {
   NameCheck,       // the name of the master file leads to the open one
   FreshNames,      // temporary files take the place of any that are there
   SortFolderSync,  // of the replaced key and count files
+  HistoryWrite,
+  RecoveryCut,  // of an append that stopped short
+  LeftoverRemoval,
+  DraftRename,  // the old draft is overwritten in place
+  CopySync,
+  CopyRename,  // the old copy is overwritten in place
+  CopyFolderSync,
+  CopyRemainsRemoval,
 };
 
 struct SafeguardRow {
@@ -44,11 +52,16 @@ class DisabledSafeguard final : public kit::PassingDisk {
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
   int Identify(int handle, runtime::FileIdentity& identity) override;
+  int Remove(const std::string& name) override;
   int Rename(const std::string& from, const std::string& to) override;
   int SyncFolder(const std::string& name) override;
 
  private:
   bool IsOff(Safeguard guard) const { return guard_ == guard; }
+  // The calls of that safeguard.
+  bool IsSkippedWrite(const std::string& name, std::size_t count) const;
+  bool IsSkippedSync(const std::string& name) const;
+  bool IsDoneInPlace(const std::string& from, const std::string& to) const;
   bool TakesBack(const std::string& name) const { return IsOff(Safeguard::TakingBack) && failed_ && name == master_; }
 
   const Safeguard guard_;

@@ -9,6 +9,7 @@
 #include "store/film_record.h"
 #include "tests/kit/films.h"
 #include "tests/safety/disabled_safeguard.h"
+#include "tests/safety/stopped_work.h"
 
 namespace safety {
 namespace {
@@ -16,6 +17,8 @@ namespace {
 TEST(OtherHands, AReplacedOrRemovedMasterFileStopsTheSave) { EXPECT_EQ(ReplacedMasterComplaint(), ""); }
 TEST(OtherHands, ARestoredBackupStays) { EXPECT_EQ(RestoredBackupComplaint(), ""); }
 TEST(OtherHands, APlantedFileIsNotWritten) { EXPECT_EQ(PlantedFileComplaint(), ""); }
+TEST(StoppedWork, CostsNoTypingOlderThanTheLastEvent) { EXPECT_EQ(StoppedTypingComplaint(), ""); }
+TEST(StoppedWork, LeavesNothingForEver) { EXPECT_EQ(RemainsComplaint(), ""); }
 TEST(EndedSort, SurvivesALossOfPower) { EXPECT_EQ(EndedSortComplaint(), ""); }
 
 // The largest piece that is read or written at once.

@@ -4,14 +4,16 @@
 #include "tests/safety/disabled_safeguard.h"
 #include "tests/safety/other_hands.h"
 #include "tests/safety/power_loss.h"
+#include "tests/safety/stopped_work.h"
 
 namespace safety {
 namespace {
 
 // The first complaint of any check of any scenario.
 std::string AnyComplaint(const DiskWrapper& wrapper) {
-  for (const std::string& complaint : {ReplacedMasterComplaint(wrapper), RestoredBackupComplaint(wrapper),
-                                       PlantedFileComplaint(wrapper), EndedSortComplaint(wrapper)}) {
+  for (const std::string& complaint :
+       {ReplacedMasterComplaint(wrapper), RestoredBackupComplaint(wrapper), PlantedFileComplaint(wrapper),
+        EndedSortComplaint(wrapper), StoppedTypingComplaint(wrapper), RemainsComplaint(wrapper)}) {
     if (!complaint.empty()) return complaint;
   }
   for (const Scenario& scenario : Scenarios()) {
@@ -19,6 +21,8 @@ std::string AnyComplaint(const DiskWrapper& wrapper) {
          {PowerLossComplaint(scenario, wrapper), TakeBackComplaint(scenario, kit::Fault::ShortThenFull, wrapper)}) {
       if (!complaint.empty()) return scenario.Name + ": " + complaint;
     }
+  }
+  for (const Scenario& scenario : Scenarios()) {
     for (kit::Fault fault : {kit::Fault::Kill, kit::Fault::KillHalfway, kit::Fault::Error}) {
       std::string complaint = PowerLossAfterFaultComplaint(scenario, fault, wrapper);
       if (!complaint.empty()) return scenario.Name + ": " + complaint;
