@@ -163,12 +163,12 @@ class PaperTest : public testing::Test {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
-  // Fails every write past the first few thousand bytes while it lives.
+  // Fails every write past the first bytes of a file while it lives.
   class SmallDisk {
    public:
-    SmallDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit SmallDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
       getrlimit(RLIMIT_FSIZE, &old_);
-      rlimit small{4096, old_.rlim_max};
+      rlimit small{bytes, old_.rlim_max};
       setrlimit(RLIMIT_FSIZE, &small);
     }
     ~SmallDisk() {
@@ -180,8 +180,8 @@ class PaperTest : public testing::Test {
     rlimit old_{};
     void (*handler_)(int);
   };
-  bool FailsOnASmallDisk(OldFile old_file) {
-    SmallDisk disk;
+  bool FailsOnASmallDisk(OldFile old_file, rlim_t bytes = 4096) {
+    SmallDisk disk(bytes);
     try {
       PrintOnPaper(JobOf(30, 60, 80), printer, Noon, old_file);
     } catch (const runtime::Failure& failure) {
@@ -257,6 +257,27 @@ TEST_F(PaperTest, AFolderThatCannotBeMadeIsAPrinterError) {
 TEST_F(PaperTest, APageThatCannotBeWrittenLeavesNoFile) {
   EXPECT_TRUE(FailsOnASmallDisk(OldFile::Keep));
   EXPECT_EQ(Files(), QStringList());
+}
+
+// The disk is full at each write of a report, wherever it ends in the file.
+TEST_F(PaperTest, AFullDiskAtAnyWriteLeavesNoPartOfAReport) {
+  QString path = home.filePath("old.pdf");
+  printer.setOutputFileName(path);
+  PrintOnPaper(JobOf(1, 5, 40), printer, Noon);
+  const QByteArray old = BytesOf(path);
+  PrintOnPaper(JobOf(30, 60, 80), printer, Noon, OldFile::Replace);
+  const auto whole = static_cast<rlim_t>(QFileInfo(path).size());
+  ASSERT_GT(whole, 20000U);
+  for (rlim_t bytes = 0; bytes < whole; bytes += whole / 24) {
+    SCOPED_TRACE(bytes);
+    QFile restored(path);
+    ASSERT_TRUE(restored.open(QIODevice::WriteOnly) && restored.write(old) == old.size());
+    restored.close();
+    EXPECT_TRUE(FailsOnASmallDisk(OldFile::Replace, bytes));
+    EXPECT_EQ(BytesOf(path), old);
+    EXPECT_TRUE(FailsOnASmallDisk(OldFile::Keep, bytes));
+    EXPECT_EQ(QDir(home.path()).entryList({"*.pdf*"}, QDir::Files | QDir::Hidden), QStringList("old.pdf"));
+  }
 }
 
 TEST_F(PaperTest, AFileThatTheUserAgreedToReplaceIsReplaced) {

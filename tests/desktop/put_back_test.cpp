@@ -7,6 +7,7 @@
 #include "desktop/stack_view.h"
 #include "desktop/text.h"
 #include "store/master_file.h"
+#include "tests/kit/faulty_disk.h"
 #include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
 #include "tests/kit/quiet_desk.h"
@@ -121,6 +122,43 @@ TEST_F(PutBack, AnotherRecordOnTheScreenStays) {
   PressPutBack();
   EXPECT_EQ(Record(2), kit::FilmBytes(2, 0));
   EXPECT_EQ(Screen().txtTitle.Text(), TitleOf(3));
+}
+
+// Each disk call of the button fails: the film is back or the program stops by name, and the next start puts it back.
+TEST(PutBackOnABadDisk, LeavesTheOldOrTheNewFilm) {
+  constexpr int Record = 2;
+  const std::string master(store::MasterFileName), film = kit::FilmBytes(Record, 0);
+  for (kit::Fault fault : {kit::Fault::Full, kit::Fault::Error, kit::Fault::Refused, kit::Fault::ShortThenFull}) {
+    bool reached = true;
+    for (std::size_t call = 0; reached; ++call) {
+      SCOPED_TRACE(std::string(kit::NameOf(fault)) + " at call " + std::to_string(call));
+      kit::MemoryDisk memory(kit::FolderOfFilms(3));
+      kit::FaultyDisk disk(memory);
+      kit::QuietDesk desk;
+      ::Program program(desk, disk);
+      PutBackNotice notice(program);
+      StackView view(program.Windows, [&](const std::function<void()>& event) { notice.Deliver(event); });
+      notice.DrawOn(view);
+      view.Deliver([&] { program.StartRecordScreen(); });
+      desk.NextAnswer = std::to_string(Record);
+      view.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.mnuFile); });
+      view.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.cmdDelete); });
+      const std::string deleted = memory.Content().at(master);
+      const std::size_t calls = disk.Calls();
+      disk.Arm({fault, call});
+      view.Notices().ActionButton(0).click();
+      reached = disk.Calls() > calls + call;
+      const std::string found = memory.Content().at(master);
+      std::string restored = deleted;
+      restored.replace((Record - 1) * store::RecordLength, film.size(), film);
+      if (program.Stopped()) {
+        ASSERT_NE(desk.Reported, "");
+        ASSERT_TRUE(found == deleted || found == restored);
+      } else {
+        ASSERT_EQ(found, restored);
+      }
+    }
+  }
 }
 
 }  // namespace
