@@ -31,7 +31,7 @@ class Scanner {
     PassBlanks();
     while (rest_.starts_with(Continuation)) {
       rest_.remove_prefix(1);
-      if (AtEnd()) Fail("expected more of the line after +");
+      if (AtEnd() || rest_[0] == Continuation) Fail("expected more of the line after +");
       if (rest_[0] != '"') break;
       if (argument.As == Argument::Form::Word) Fail("expected a text above the text that continues it");
       argument.Text += TakeQuoted();

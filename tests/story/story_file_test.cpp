@@ -165,6 +165,8 @@ TEST(StoryText, RefusesABrokenContinuation) {
   EXPECT_EQ(RefusalOfText("click\n+ \"a\"\n").What, "expected a text above the text that continues it");
   EXPECT_EQ(RefusalOfText("type \"a\n+ b\"\n").What, "expected a closing quote, got the end of the line");
   EXPECT_EQ(RefusalOfText("type \"a\"\n+\n").What, "expected more of the line after +");
+  EXPECT_EQ(RefusalOfText("type \"a\"\n+\n+ \"b\"\n").What, "expected more of the line after +");
+  EXPECT_EQ(RefusalOfText("see key\n+\n+ 1\n").What, "expected more of the line after +");
 }
 
 TEST(StoryText, LeavesSignsOfTheTableAlone) {
