@@ -2,70 +2,8 @@
 # Types a film into the real program and ends it by signals, a kill included, with and without a box: each signal but
 # the kill ends it with status 0, and the next start offers what was typed. Usage: session_end_test.sh REELORA_PRIMA
 set -uo pipefail
-program=$(readlink -f -- "$1")
-source_folder=$(cd -- "$(dirname -- "$0")/../.." && pwd)
-for tool in Xvfb xdotool; do
-  command -v "$tool" >/dev/null || { echo "skipped: $tool is missing"; exit 0; }
-done
-work=$(mktemp -d)
-server=
-running=
-trap 'kill $running $server 2>/dev/null; wait 2>/dev/null; rm -rf -- "$work"' EXIT
-exec {display_pipe}<> <(:)
-# Without -noreset the server starts over when its last program goes, and refuses one that comes meanwhile.
-Xvfb -noreset -displayfd "$display_pipe" -screen 0 1280x900x24 >"$work/server" 2>&1 &
-server=$!
-read -r -t 30 -u "$display_pipe" number || { echo "skipped: Xvfb does not start"; exit 0; }
-export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work
-
-collection=$work/films
-mkdir -- "$collection"
-find "$source_folder/delivered" -maxdepth 1 -type f -exec cp -t "$collection" -- {} +
-printf 'NO\r\n' >"$collection/Fo"
-printf 'NO\r\n' >"$collection/Fo1"
-draft=$collection/.reelora/draft
-passed=0
-failed=0
-
-check() {
-  local name=$1
-  shift
-  if "$@"; then passed=$((passed + 1)); else failed=$((failed + 1)); echo "FAILED: $name"; fi
-}
-# until_true COMMAND...: polls for ten seconds.
-until_true() {
-  local tries
-  for ((tries = 0; tries < 200; ++tries)); do
-    "$@" && return
-    sleep 0.05
-  done
-  echo "gave up: $*"
-  return 1
-}
-# The title of the window with the keyboard begins so.
-in_front() { xdotool getwindowfocus getwindowname 2>/dev/null | grep -q -- "^$1"; }
-typed() { grep -q -- "$1" "$draft" 2>/dev/null; }
-# A shell lets background programs ignore SIGINT; the program would respect that.
-start() {
-  (cd -- "$collection" && exec env --default-signal=INT "$program") >"$work/output" 2>&1 &
-  running=$!
-}
-# Presses Start and types the beginning of a new film.
-type_film() {
-  until_true in_front "Reelora Prima version" && xdotool key alt+s
-  until_true in_front "Reelora Prima Record" && xdotool key alt+w
-  until_true in_front "Reelora Record Prima" && xdotool type --delay 20 "$1"
-  until_true typed "$1"
-}
-# ended_by SIGNAL STATUS
-ended_by() {
-  local status
-  kill "-$1" "$running"
-  wait "$running" 2>/dev/null
-  status=$?
-  running=
-  [ "$status" = "$2" ] || { echo "status $status"; return 1; }
-}
+. "$(dirname -- "$0")/real_program.sh"
+real_program "$1"
 
 start
 check "a film is typed" type_film Alien
@@ -105,5 +43,4 @@ check "and the film is kept" until_true grep -q Casablanca "$collection/Recpra.D
 check "in a slot of its own" [ "$(stat -c %s "$collection/Recpra.Dat")" = $((3 * 649)) ]
 check "SIGTERM ends the program" ended_by TERM 0
 
-echo "$passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+finish
