@@ -48,10 +48,10 @@ finish() {
   [ "$failed" -eq 0 ]
 }
 
-# until_true COMMAND...: polls for ten seconds.
+# until_true COMMAND...: polls for half a minute.
 until_true() {
   local tries
-  for ((tries = 0; tries < 200; ++tries)); do
+  for ((tries = 0; tries < 600; ++tries)); do
     "$@" && return
     sleep 0.05
   done
