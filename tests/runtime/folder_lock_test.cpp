@@ -73,6 +73,13 @@ TEST(FolderLock, IsForEveryUserWhateverTheMask) {
   EXPECT_EQ(status.st_mode & 0777, 0666U);
 }
 
+TEST(FolderLock, NeverFollowsALink) {
+  const kit::FreshFolder folder;
+  std::filesystem::create_directory(folder.Path() / ".reelora");
+  std::filesystem::create_symlink("/dev/null", folder.Path() / ".reelora/lock");
+  EXPECT_FALSE(FolderLock(folder.Path().string()).Held());
+}
+
 TEST(FolderLock, DoesNotStandInTheWayWhereNoneCanBeMade) { EXPECT_TRUE(FolderLock("/nowhere/at/all").Held()); }
 
 }  // namespace

@@ -73,6 +73,8 @@ TEST_F(RealDiskTest, ALinkInPlaceOfTheSafetyFolderIsNeverFollowed) {
   fs::create_directory_symlink("elsewhere", Path(".reelora"));
   EXPECT_EQ(FailureOf([&] { ReplaceFile(disk_, "Last", "7"); }), "Path/File access error: .reelora");
   EXPECT_EQ(disk_.Open(".reelora/journal", Mode::Create), -ELOOP);
+  EXPECT_EQ(disk_.List(".reelora"), std::vector<std::string>());
+  EXPECT_EQ(disk_.Rename(".reelora/theirs.new", "Last"), -ELOOP);
   RemoveLeftovers(disk_);
   Discard(disk_, ".reelora/theirs.new");
   EXPECT_EQ(story::ReadBytes(Path("elsewhere/theirs.new")), "theirs");

@@ -6,6 +6,7 @@
 
 #include "runtime/files.h"
 #include "runtime/whole_io.h"
+#include "tests/kit/faulty_disk.h"
 #include "tests/kit/memory_disk.h"
 #include "tests/kit/refusing_disk.h"
 
@@ -71,6 +72,15 @@ TEST_F(FilesByNumber, AWriteIsReadAtOnceWhateverWasReadAhead) {
   EXPECT_EQ(Read(1, 2), "bbbb");
   Files.Put(1, 3, "yyyy");
   EXPECT_EQ(Read(1, 3), "yyyy");
+}
+
+TEST_F(FilesByNumber, AReplacementThatFailsLeavesNoTemporaryFile) {
+  const kit::Folder before = Memory.Content();
+  for (std::size_t call = 0; call < 4; ++call) {
+    kit::FaultyDisk full(Memory, {kit::Fault::Full, call});
+    EXPECT_THROW(runtime::ReplaceFile(full, "Data", "new"), runtime::Failure) << call;
+    EXPECT_EQ(Memory.Content(), before) << call;
+  }
 }
 
 TEST_F(FilesByNumber, LeftoversGoAndNothingElse) {

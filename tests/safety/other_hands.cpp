@@ -32,6 +32,8 @@ std::string AfterTheSave(kit::MemoryDisk& memory, StartedProgram& started, const
   if (!started.Program.Stopped()) return "the save was acknowledged";
   const runtime::Failure& failure = *started.Program.Stopped();
   if (failure.Name != runtime::PathError || failure.File != Master) return "the failure is not named";
+  if (!memory.Content().at(runtime::InSafetyFolder("journal")).starts_with("REELDONE"))
+    return "the next start would write the film into the other file";
   return Visible(memory.Content()) == left ? "" : "the folder was changed";
 }
 
