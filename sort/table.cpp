@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "runtime/large_array.h"
 #include "sort/blocks.h"
 
 namespace sort {
@@ -24,10 +25,10 @@ Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, Work
       workers_(workers),
       block_length_(std::max(BlockBytes, layout.EntryLength())),
       blocks_(std::make_unique_for_overwrite<char[]>((workers ? 2 : 1) * block_length_)),
-      entries_(std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(room) * layout.EntryLength())),
+      entries_(runtime::MakeLargeArray<char>(static_cast<std::size_t>(room) * layout.EntryLength())),
       included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),
-      items_(std::make_unique_for_overwrite<Item[]>(static_cast<std::size_t>(room))),
-      scratch_(std::make_unique_for_overwrite<Item[]>(static_cast<std::size_t>(room) + 2)) {
+      items_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room))),
+      scratch_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room) + 2)) {
   const std::int64_t half = workers ? records / 2 : records;
   const auto half_room = static_cast<std::size_t>(workers ? room / 2 : room);
   parts_[0] = {0, half, 0, half_room, 0};
