@@ -7,6 +7,14 @@
 
 namespace find {
 
+// Compares a byte with the bits that differ by case masked out, so a few other bytes match too.
+struct CharacterTest {
+  unsigned char Mask = 0;
+  unsigned char Bits = 0;
+};
+// Two characters next to each other.
+using PairTest = std::array<CharacterTest, 2>;
+
 class FilmFilter {
  public:
   // Capitals: the text sought. Offset and width: the part of each record to search.
@@ -16,18 +24,10 @@ class FilmFilter {
   std::int64_t CountNonMatches(std::string_view records, std::int64_t limit) const;
 
  private:
-  // Compares a byte with the bits that differ by case masked out, so a few other bytes match too.
-  struct CharacterTest {
-    unsigned char Mask = 0;
-    unsigned char Bits = 0;
-  };
-  static CharacterTest TestOf(char capital);
-  bool MayContain(const char* record) const;
-
   bool matches_any_ = false;
   std::size_t offset_ = 0;
   std::size_t pairs_ = 0;
-  std::array<CharacterTest, 2> tests_{};
+  PairTest tests_{};
 };
 
 }  // namespace find
