@@ -97,8 +97,8 @@ const std::vector<BrokenDisk>& BrokenDisks() {
       {"LostDoneMark", Over<LostDoneMark>, "the block of the journal is not marked done"},
       {"LostDraft", Over<LostDraft>, "what was typed is in no draft"},
       {"StrayFile", Over<StrayFile>, "stray was changed"},
-      {"Throwing", Over<Throwing>, "an exception has left the program: thrown by a disk"},
-      {"OutOfMemory", Over<OutOfMemory>, "the program stops: Out of memory"},
+      {"Throwing", Over<Throwing>, "an exception has left the program: thrown by a disk", true},
+      {"OutOfMemory", Over<OutOfMemory>, "the program stops: Out of memory", true},
   };
   return disks;
 }

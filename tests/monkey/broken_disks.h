@@ -12,6 +12,7 @@ struct BrokenDisk {
   std::string Name;
   safety::DiskWrapper Wrapper;
   std::string Finding;  // how it begins
+  bool Stops = false;   // what is found ends the program
 };
 
 const std::vector<BrokenDisk>& BrokenDisks();

@@ -26,6 +26,13 @@ constexpr std::string_view LineFiles[] = {"AutoSave",    "AutoSort", "BGColor", 
 constexpr std::string_view KeyFiles[] = {store::TitleKeys.Name, store::DVDKeys.Name, store::LaserKeys.Name,
                                          store::VHSKeys.Name};
 
+// All but "Out of memory", which no small collection explains.
+constexpr std::string_view FailureNames[] = {
+    runtime::Overflow,      runtime::FileNotFound,    runtime::InputPastEnd, runtime::BadRecordNumber,
+    runtime::BadFileNumber, runtime::FileAlreadyOpen, runtime::TypeMismatch, runtime::DiskFull,
+    runtime::DeviceError,   runtime::PathError,       runtime::PrinterError,
+};
+
 template <typename Names>
 bool IsOneOf(const Names& names, std::string_view name) {
   return std::find(std::begin(names), std::end(names), name) != std::end(names);
@@ -99,6 +106,11 @@ std::string JournalComplaint(const std::string& journal, const std::set<std::int
 bool HasSameBlock(std::string_view one, std::string_view other) {
   return one.size() == other.size() && other.size() > DoneMark.size() &&
          one.substr(DoneMark.size()) == other.substr(DoneMark.size());
+}
+
+std::string NameComplaint(const runtime::Failure& failure) {
+  if (IsOneOf(FailureNames, failure.Name)) return "";
+  return "the program stops: " + std::string(failure.Name) + ", " + failure.File;
 }
 
 std::string OtherFileComplaint(const std::string& name, const std::optional<std::string>& content, bool disturbed) {

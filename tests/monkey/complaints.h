@@ -1,5 +1,5 @@
-// What a look at a single file of the folder says; each returns what is wrong, "" if nothing. Disturbed: a fault may
-// have hit a disk call.
+// What a look at a single file of the folder or at a failure says; each returns what is wrong, "" if nothing.
+// Disturbed: a fault may have hit a disk call.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+
+#include "runtime/failure.h"
 
 namespace monkey {
 
@@ -24,6 +26,9 @@ std::string JournalComplaint(const std::string& journal, const std::set<std::int
 bool HasSameBlock(std::string_view one, std::string_view other);
 // A key file, a file of one line or a temporary one; any other file is written by nobody. Nothing: it was removed.
 std::string OtherFileComplaint(const std::string& name, const std::optional<std::string>& content, bool disturbed);
+
+// A failure that may stop the program.
+std::string NameComplaint(const runtime::Failure& failure);
 
 std::string SlotText(std::int64_t slot);
 // The record as a reader sees it; "" past the end of the file.

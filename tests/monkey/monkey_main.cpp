@@ -20,7 +20,7 @@ constexpr std::string_view Usage =
     "usage: reelora_monkey [--events N] [--seed S] [--run S] [--faults] [--desktop] [--story FILE]\n";
 constexpr int Found = 10;  // the status of a child that has found something
 constexpr int MostFindings = 5;
-constexpr int MostPlays = 1500, MostCrashes = 300;
+constexpr int MostPlays = 1500, MostOnWidgets = 300, MostCrashes = 100;
 constexpr unsigned RunSeconds = 120, CrashSeconds = 30;
 
 struct CommandLine {
@@ -101,7 +101,7 @@ int PlayRuns(const CommandLine& command, Progress& progress) {
         std::optional<Finding> again = Replay(script, command.How);
         return again && KindOf(again->What) == KindOf(run.Found->What);
       };
-      Tell(command, seed, *run.Found, Shrunk(run.Played, fails, command.How.MakePlayer ? MostCrashes : MostPlays));
+      Tell(command, seed, *run.Found, Shrunk(run.Played, fails, command.How.MakePlayer ? MostOnWidgets : MostPlays));
     } else {
       ++progress.Passed;
     }

@@ -1,11 +1,13 @@
 // The monkey finds what is broken, finds it again, and makes a story of it.
 #include <gtest/gtest.h>
 
+#include "tests/kit/fresh_folder.h"
 #include "tests/monkey/broken_disks.h"
 #include "tests/monkey/random_desk.h"
 #include "tests/monkey/run.h"
 #include "tests/monkey/shrink.h"
 #include "tests/story/story_file.h"
+#include "tests/story/story_runner.h"
 
 namespace monkey {
 namespace {
@@ -40,6 +42,12 @@ TEST_P(MonkeyOn, FindsItAgainInASmallStory) {
   std::vector<story::Story> stories = story::ParseStories(StoryOf(small, setting, run.Found->What));
   ASSERT_EQ(stories.size(), 1U);
   EXPECT_GE(stories[0].Lines.size(), 1 + small.Events.size());
+  if (GetParam().Stops) return;
+  kit::FreshFolder fresh;
+  const std::filesystem::path folder = fresh.Path() / "folder";
+  std::filesystem::create_directory(folder);
+  std::optional<story::Difference> difference = story::PlayLines(stories[0].Lines, folder, folder, {});
+  EXPECT_FALSE(difference) << difference->What;
 }
 
 INSTANTIATE_TEST_SUITE_P(A, MonkeyOn, testing::ValuesIn(BrokenDisks()),

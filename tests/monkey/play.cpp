@@ -1,20 +1,13 @@
 // Every event goes to the bare forms first; what hangs there is spared the widgets.
 #include "tests/monkey/play.h"
 
-#include <algorithm>
 #include <exception>
 
+#include "tests/monkey/complaints.h"
 #include "tests/monkey/session.h"
 
 namespace monkey {
 namespace {
-
-// All but "Out of memory", which no small collection explains.
-constexpr std::string_view FailureNames[] = {
-    runtime::Overflow,      runtime::FileNotFound,    runtime::InputPastEnd, runtime::BadRecordNumber,
-    runtime::BadFileNumber, runtime::FileAlreadyOpen, runtime::TypeMismatch, runtime::DiskFull,
-    runtime::DeviceError,   runtime::PathError,       runtime::PrinterError,
-};
 
 bool IsStart(Act act) { return act == Act::Restart || act == Act::RestartAtOpener; }
 
@@ -190,8 +183,7 @@ std::string Play::FailureComplaint() {
   if (bare_.Now->Desk.Reports != (stopped ? 1 : 0)) return "a stop without its one report";
   if (!stopped) return "";
   ++figures_.Failures[std::string(stopped->Name)];
-  bool is_named = std::find(std::begin(FailureNames), std::end(FailureNames), stopped->Name) != std::end(FailureNames);
-  return is_named ? "" : "the program stops: " + std::string(stopped->Name) + ", " + stopped->File;
+  return NameComplaint(*stopped);
 }
 
 std::string Play::DrawnComplaint() const {
