@@ -48,8 +48,9 @@ void DraftKeeper::AfterEvent() {
 
 store::Draft DraftKeeper::Typed() const {
   store::Draft draft;
-  draft.Slot = screen_.CurrentRecNo == 0 ? 1 : static_cast<std::int64_t>(screen_.CurrentRecNo);
-  draft.IsNew = screen_.NewMode == 1;
+  // No save can write a record below 0: what is typed there is kept as a new film.
+  draft.Slot = screen_.CurrentRecNo < 1 ? 1 : static_cast<std::int64_t>(screen_.CurrentRecNo);
+  draft.IsNew = screen_.NewMode == 1 || screen_.CurrentRecNo < 0;
   draft.Title = screen_.txtTitle.Text();
   for (const screen::RecordBox& row : screen::RecordBoxes) draft.Film.Set(row.Field, (screen_.*row.Box).Text());
   draft.Film.Set(store::FilmField::Tail, "\r\n");

@@ -85,6 +85,27 @@ TEST_F(Drafts, HoldWhatTheLastEventLeftInTheBoxes) {
   EXPECT_EQ(Slot(7), kit::FilmBytes(7, 0));
 }
 
+TEST_F(Drafts, OfARecordNumberThatNoSaveWritesAreKeptAsNewFilms) {
+  kit::Folder folder = kit::FolderOfFilms(9);
+  folder["Last"] = "-5\r\n";
+  kit::MemoryDisk memory(folder);
+  ProgramRun stopped(memory);
+  stopped.Program.StartRecordScreen();
+  stopped.Click(stopped.Screen.mnuLastEntry);
+  stopped.Click(stopped.Screen.cmdEdit);
+  stopped.Type(stopped.Screen.txtTitle, "Kept");
+  stopped.Click(stopped.Screen.cmdSave);
+  ASSERT_EQ(stopped.Desk.Reported, runtime::BadRecordNumber);
+
+  ProgramRun run(memory);
+  run.Desk.Draft = forms::DraftAnswer::Keep;
+  run.Program.StartOpener();
+  EXPECT_EQ(run.Desk.Asked, std::vector<std::string>{"Kept"});
+  const std::string master = memory.Content().at(Master);
+  EXPECT_EQ(master.substr(0, 9 * store::RecordLength), folder.at(Master));
+  EXPECT_EQ(master.substr(9 * store::RecordLength, 5), "Kept ");
+}
+
 TEST_F(Drafts, AreNotWrittenWhenNothingHasChanged) {
   ProgramRun run(Disk);
   run.Program.StartRecordScreen();

@@ -51,7 +51,7 @@ store::FilmRecord BoxesOf(const frmPage1& screen) {
   return film;
 }
 
-std::int64_t CurrentSlot(const frmPage1& screen) { return screen.CurrentRecNo == 0 ? 1 : screen.CurrentRecNo; }
+std::int64_t CurrentSlot(const frmPage1& screen) { return screen.CurrentRecNo < 1 ? 1 : screen.CurrentRecNo; }
 
 std::optional<store::Draft> DraftIn(const std::string& bytes) {
   kit::MemoryDisk disk(kit::Folder{{DraftBegin, bytes}});
