@@ -1,6 +1,9 @@
 // Sends a job to the queue or writes a PDF; the page painter draws it.
 #include "desktop/paper.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,6 +11,7 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 #include "desktop/page_painter.h"
 #include "desktop/text.h"
@@ -69,28 +73,42 @@ Painted PrintIntoFile(const runtime::PrintJob& job, QFileDevice& file, const QPr
   return painted == Painted::Done && !written ? Painted::Failed : painted;
 }
 
+// The permissions that a new file has where nobody asks for others.
+QFileDevice::Permissions UsualPermissions() {
+  const mode_t mask = umask(0);
+  umask(mask);
+  QFileDevice::Permissions usual = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+  if (!(mask & S_IRGRP)) usual |= QFileDevice::ReadGroup;
+  if (!(mask & S_IWGRP)) usual |= QFileDevice::WriteGroup;
+  if (!(mask & S_IROTH)) usual |= QFileDevice::ReadOther;
+  if (!(mask & S_IWOTH)) usual |= QFileDevice::WriteOther;
+  return usual;
+}
+
 // Adds " (2)" and so on to the name if it is taken.
-void OpenNew(QFile& file, const QFileInfo& wanted) {
+void NameNew(QTemporaryFile& file, const QFileInfo& wanted) {
   QString suffix = wanted.suffix().isEmpty() ? QString() : '.' + wanted.suffix();
   for (int number = 1;; ++number) {
     QString count = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
-    file.setFileName(QDir(wanted.path()).filePath(wanted.completeBaseName() + count + suffix));
-    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return;
-    if (!file.exists()) Fail(file);
+    QString name = QDir(wanted.path()).filePath(wanted.completeBaseName() + count + suffix);
+    if (QFileInfo::exists(name)) continue;
+    if (file.rename(name)) return;
+    if (!QFileInfo::exists(name)) Fail(file);
   }
 }
 
+// The file has no name until it is complete, so that a kill leaves none.
 PrintedTo PrintIntoNewFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& wanted,
                            const Progress& progress) {
-  QFile file;
-  OpenNew(file, QFileInfo(wanted));
+  QFileInfo target(wanted);
+  QTemporaryFile file(QDir(target.path()).filePath(".reelora-XXXXXX"));
+  if (!file.open()) Fail(file);
   Painted painted = PrintIntoFile(job, file, printer, progress);
-  if (painted == Painted::Done) return {file.fileName(), {}};
-  QString reason = file.error() == QFileDevice::NoError ? QString() : file.errorString();
-  // Not file.remove(), which fails if the file cannot be closed.
-  QFile::remove(file.fileName());
-  if (painted == Painted::Failed) Fail(reason);
-  return {};
+  if (painted == Painted::Nothing) return {};
+  if (painted == Painted::Failed || !file.setPermissions(UsualPermissions()) || fsync(file.handle()) != 0) Fail(file);
+  NameNew(file, target);
+  file.setAutoRemove(false);
+  return {file.fileName(), {}};
 }
 
 PrintedTo PrintOverFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& path,

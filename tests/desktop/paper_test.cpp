@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QProcess>
@@ -217,6 +218,26 @@ TEST_F(PaperTest, NoFileIsOverwritten) {
   EXPECT_EQ(Files().size(), 3);
   EXPECT_EQ(QFileInfo(first.filePath()).size(), first.size());
   EXPECT_TRUE(Files().contains("Test List 1970-01-01 12-00-00 (3).pdf"));
+}
+
+// A kill in the middle would leave what is there.
+TEST_F(PaperTest, AReportHasNoNameUntilItIsComplete) {
+  int looked = 0;
+  PrintOnPaper(JobOf(30, 60, 80), printer, Noon, OldFile::Keep, [&](double) {
+    ++looked;
+    EXPECT_EQ(Files(), QStringList());
+  });
+  EXPECT_GT(looked, 0);
+  EXPECT_EQ(Files().size(), 1);
+}
+
+TEST_F(PaperTest, AReportHasThePermissionsOfAnyNewFile) {
+  const mode_t old_mask = umask(027);
+  PrintOnPaper(JobOf(1, 5, 40), printer, Noon);
+  umask(old_mask);
+  struct stat facts {};
+  ASSERT_EQ(stat(QFile::encodeName(Folder().entryInfoList(QDir::Files).at(0).filePath()).constData(), &facts), 0);
+  EXPECT_EQ(facts.st_mode & 0777, 0640U);
 }
 
 TEST_F(PaperTest, AFileChosenInTheDialogGivesItsNameAndIsNotOverwritten) {
