@@ -21,6 +21,7 @@ const std::string HistoryName = runtime::InSafetyFolder(store::HistoryFile);
 const std::string DraftBegin = runtime::InSafetyFolder("draft");
 
 constexpr auto Length = static_cast<std::size_t>(store::RecordLength);
+constexpr auto TitleWidth = static_cast<std::size_t>(store::RowOf(store::FilmField::Title).Width);
 
 const std::string& ContentOf(const kit::Folder& folder, const std::string& name) {
   static const std::string None;
@@ -79,6 +80,30 @@ std::string KeptDraftComplaint(const std::vector<store::Draft>& drafts, const st
       return SlotText(slot) + " was changed by the start and is no draft";
   }
   return "";
+}
+
+// A record that was overwritten: it was no film, or the history has it.
+bool IsKept(const std::string& record, const std::string& history) {
+  return record.substr(0, TitleWidth).find_first_not_of(' ') == std::string::npos ||
+         history.find(record) != std::string::npos;
+}
+
+// A click that leaves the last field saves there, and its own handler may save again at another record.
+bool AreTwoSaves(const std::set<std::int64_t>& slots, const std::string& before, const std::string& after,
+                 const std::string& history, bool disturbed) {
+  for (std::int64_t first : slots) {
+    const std::size_t offset = static_cast<std::size_t>(first - 1) * Length;
+    if (offset + Length > before.size() || after.size() < before.size()) continue;
+    std::string between = before;
+    between.replace(offset, Length, after, offset, Length);
+    for (std::int64_t second : slots) {
+      if (IsKept(RecordIn(before, first), history) && IsKept(RecordIn(before, second), history) &&
+          SlotComplaint(before, between, first, disturbed).empty() &&
+          SlotComplaint(between, after, second, disturbed).empty())
+        return true;
+    }
+  }
+  return false;
 }
 
 bool IsSame(const store::FilmRecord& one, const store::FilmRecord& other) { return one.Bytes == other.Bytes; }
@@ -165,7 +190,7 @@ std::string Guard::MasterComplaint(const Change& change) const {
     if (other.empty()) return HistoryComplaint(history, longer, slot, before, after, change.Disturbed);
     complaint += "; as a write to " + SlotText(slot) + ": " + other;
   }
-  return complaint;
+  return change.By == Passed::Event && AreTwoSaves(slots_, before, after, longer, change.Disturbed) ? "" : complaint;
 }
 
 std::string Guard::DraftComplaint(const Change& change, const Program& program) const {
