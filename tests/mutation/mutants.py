@@ -49,7 +49,7 @@ class Mutant:
     column: int  # in the original, from 0
     was: str
     becomes: str
-    source: str  # the line
+    source: str  # the line, and the last one before it that is not indented
     kind: str  # "literal" or "row"
     span: tuple = (0, 0)  # its place in the line of the copy
 
@@ -93,6 +93,10 @@ class Source:
             if "\n" in token.text:
                 line += token.text.count("\n")
                 start = match.start() + token.text.rfind("\n") + 1
+
+    def around(self, line):
+        heads = (head for head in reversed(self.lines[: line - 1]) if head[:1].isalpha())
+        return next(heads, "") + "\n" + self.lines[line - 1]
 
     def literal(self, index):
         return self.tokens[index].kind in LITERALS + ("bool",)
@@ -223,6 +227,7 @@ class Copy:
     def _write_file(self, path, target):
         source = Source(str(path.relative_to(self.root)), path.read_text(encoding="utf-8"), self.frozen)
         self.constants[source.file] = source.constants
+        self.numbered = -(-self.numbered // 64) * 64  # a change of one file leaves the numbers of the others
         first = len(self.mutants)
         for index, token in enumerate(source.tokens):
             if token.kind == "directive" and "include" not in token.text and "pragma" not in token.text:
@@ -242,7 +247,7 @@ class Copy:
         """The mutant, or nothing where it must not be."""
         self.numbered += 1  # one that is left out keeps its number, so that the others do
         mutant = Mutant(self.numbered, source.file, token.line, token.column, was, becomes,
-                        source.lines[token.line - 1].strip(), kind)  # fmt: skip
+                        source.around(token.line), kind)  # fmt: skip
         why = token.why or ("refused" if mutant.key in self.refused else "")
         if why:
             self.left_out.append((source.file, token.line, was, why))

@@ -22,6 +22,9 @@ import time
 
 from mutants import FOLDERS, LEFT_OUT, Copy
 
+WORD = re.compile(r"[A-Za-z0-9]{3,}")
+LIKELY = 200  # stories that are played before the others, since they speak of what is altered
+LIKELY_ROWS = 25  # of one file
 LONGEST_PLAY = 300  # seconds for all stories of one mutant
 ERROR = re.compile(r"^([^\s:]+):(\d+):(\d+): (?:fatal )?(error|note): (.*)$")
 NOT_CONSTANT = re.compile(r"not usable in a constant|call to non-.constexpr|not a constant")
@@ -112,10 +115,15 @@ class Builder:
 class Stories:
     """The stories of the tree, and which mutants each of them reaches."""
 
-    def __init__(self, root, player):
+    def __init__(self, root, player, pattern):
         self.player, self.scratch = player, tempfile.mkdtemp(prefix="mutation-")
         files = sorted(str(path) for path in (root / "tests/stories").rglob("*.story"))
+        files = [file for file in files if re.search(pattern, file)]
         self.words = {file: pathlib.Path(file).read_text(encoding="utf-8") for file in files}
+        self.speaking = collections.defaultdict(set)
+        for file, text in self.words.items():
+            for word in WORD.findall(file.replace("_", " ") + text):
+                self.speaking[word].add(file)
         self.sights = {file: 1 + text.count("see ") for file, text in self.words.items()}
         result = self.start("\n".join(files), None, "--reached")
         self.time, self.reached, self.at_start = {}, {}, set()
@@ -140,6 +148,14 @@ class Stories:
         finally:
             shutil.rmtree(folder, ignore_errors=True)
 
+    def score(self, text):
+        """How much of the text each file of stories speaks of; rare words count more."""
+        score = collections.Counter()
+        for word in set(WORD.findall(text)):
+            for file in self.speaking.get(word, ()):
+                score[file] += 1 / len(self.speaking[word])
+        return score
+
     def order(self, mutant, killers):
         """The stories that reach the mutant, the likely killers first."""
         reaching = list(self.reached)
@@ -149,11 +165,14 @@ class Stories:
             reaching.sort(key=lambda story: self.time[story] / self.sights[story[0]])
         else:
             reaching.sort(key=lambda story: (len(self.reached[story]), self.time[story]))
-        words = [mutant.was.strip('" ')] + re.findall(r'(?<=")(?:\\.|[^"\\])+(?=")|[A-Za-z]\w{4,}', mutant.source)
         near = sorted(killers.found[mutant.file], key=lambda found: abs(found[0] - mutant.line))
-        likely = dict.fromkeys([killers.earlier.get(mutant.key)] + [story for _, story in near[:12]])
-        for word in dict.fromkeys(word for word in words if len(word) > 2):
-            likely |= dict.fromkeys([story for story in reaching if word in self.words[story[0]]][:15])
+        likely = [killers.earlier.get(mutant.key)] + [story for _, story in near[:12]]
+        score = self.score(mutant.source + mutant.was + mutant.file.replace("_", " "))
+        rows = collections.Counter()
+        for story in sorted(reaching, key=lambda story: -score[story[0]]):
+            rows[story[0]] += 1
+            if rows[story[0]] <= LIKELY_ROWS and len(likely) < LIKELY:
+                likely.append(story)
         possible = set(reaching)
         return list(dict.fromkeys([story for story in likely if story in possible] + reaching))
 
@@ -293,29 +312,37 @@ def main():
     options.add_argument("root", type=pathlib.Path)
     options.add_argument("build", type=pathlib.Path)
     options.add_argument("compiler", nargs="?", default="g++")
-    options.add_argument("--only", default="", help="judge the mutants of files with that in their names")
+    options.add_argument("--only", default="", help="judge the mutants of the files that match this pattern")
     options.add_argument("--floor", type=float, default=95, help="per cent that must be killed")
     options.add_argument("--units", action="store_true", help="play the unit tests on what the stories let live")
     options.add_argument("--most", type=int, help="play at most so many stories for each, for a quick look")
+    options.add_argument("--stories", default="", help="play only the stories whose paths match this pattern")
+    options.add_argument("--again", action="store_true", help="judge only what the run before let live")
     options.add_argument("--jobs", type=int, default=os.cpu_count())
     given = options.parse_args()
     builder = Builder(given.root.resolve(), given.build.resolve(), given.compiler)
     copy = builder.run()
     report = Report(copy, builder.root, read_excluded(builder.root / "tests/mutation/not_counted.txt"))
-    mutants = [m for m in copy.mutants if given.only in m.file and m.number not in report.reasons]
-    print(f"{len(mutants)} mutants", flush=True)
-    stories = Stories(builder.root, builder.tree / "mutation_player")
+    mutants = [m for m in copy.mutants if re.search(given.only, m.file) and m.number not in report.reasons]
+    earlier = builder.home / "results.json"
+    before = json.loads(earlier.read_text()) if given.again and earlier.exists() else {}
+    report.results = {m.number: "killed" for m in mutants if before.get(m.key) == "killed"}
+    living = [mutant for mutant in mutants if mutant.number not in report.results]
+    print(f"{len(living)} of {len(mutants)} mutants", flush=True)
+    stories = Stories(builder.root, builder.tree / "mutation_player", given.stories)
     killers = Killers(builder.home / "killers.json")
     try:
-        judge_all(Judge(stories, killers, given.most), mutants, report.results, "killed", given.jobs)
+        judge_all(Judge(stories, killers, given.most), living, report.results, "killed", given.jobs)
         if given.units:
             builder.target = "reelora_tests"
             builder.run()
             units = UnitTests(builder.tree / "reelora_tests", stories.at_start)
-            living = [mutant for mutant in mutants if report.results[mutant.number] != "killed"]
+            living = [mutant for mutant in living if report.results[mutant.number] != "killed"]
             judge_all(units, living, report.results, "unit test", given.jobs)
     finally:
         killers.save()
+        before |= {mutant.key: report.results[mutant.number] for mutant in mutants if mutant.number in report.results}
+        earlier.write_text(json.dumps(before))
         shutil.rmtree(stories.scratch, ignore_errors=True)
     text = report.text()
     (builder.home / "report.txt").write_text(text)
