@@ -55,9 +55,9 @@ bool LeavesOut(Except except, Occasion occasion) {
     case Except::AfterStart:
       return occasion != Occasion::Start;
     case Except::Always:
-      return true;
+      break;
   }
-  return false;
+  return true;
 }
 
 std::vector<forms::Control*> LabelsOf(frmPage1& window, Except ColouredLabel::*except, Occasion occasion) {
@@ -90,9 +90,9 @@ std::vector<forms::Control*> ControlsOf(frmPage1& window, Group group, Occasion 
     case Group::TextBoxBackground:
       return BoxesOf(window, true, occasion);
     case Group::TextBoxText:
-      return BoxesOf(window, false, occasion);
+      break;
   }
-  return {};
+  return BoxesOf(window, false, occasion);
 }
 
 }  // namespace prefs
