@@ -107,6 +107,45 @@ TEST_F(RealDiskTest, TheSafetyFolderIsForAllWhoCanWriteIntoTheFolder) {
   EXPECT_EQ(PermissionsOf(".reelora"), 0770U);
 }
 
+TEST_F(RealDiskTest, AHandleThatIsNotOpenIsAnErrorOfEachCall) {
+  FileIdentity identity;
+  FileTime time;
+  char byte = 0;
+  EXPECT_EQ(disk_.ReadAt(-1, &byte, 1, 0), -EBADF);
+  EXPECT_EQ(disk_.WriteAt(-1, &byte, 1, 0), -EBADF);
+  EXPECT_EQ(disk_.Length(-1), -EBADF);
+  EXPECT_EQ(disk_.Truncate(-1, 0), -EBADF);
+  EXPECT_EQ(disk_.Sync(-1), -EBADF);
+  EXPECT_EQ(disk_.Identify(-1, identity), -EBADF);
+  EXPECT_EQ(disk_.Modified(-1, time), -EBADF);
+  EXPECT_EQ(disk_.SetModified(-1, time), -EBADF);
+}
+
+TEST_F(RealDiskTest, ATimeThatTheSystemRefusesIsNoError) {
+  story::WriteBytes(Path("Recpra.Dat"), "films");
+  const OpenFile file(disk_, "Recpra.Dat", Mode::Create);
+  file.SetModified({86400, 0});
+  constexpr std::int32_t NoNanoseconds = 2'000'000'000;
+  file.SetModified({7, NoNanoseconds});
+  EXPECT_EQ(file.Modified().Seconds, 86400);
+}
+
+TEST_F(RealDiskTest, AMissingFolderIsEmptyAndCannotBeSynced) {
+  EXPECT_TRUE(disk_.List("missing").empty());
+  EXPECT_EQ(disk_.SyncFolder("missing"), -ENOENT);
+}
+
+TEST_F(RealDiskTest, AFolderOfADiskThatSyncsNoneIsNoError) {
+  if (!fs::exists("/proc/self")) GTEST_SKIP() << "no disk here that syncs no folders";
+  EXPECT_EQ(RealDisk("/proc").SyncFolder(""), 0);
+}
+
+TEST_F(RealDiskTest, NoFolderIsMadeInThePlaceOfAFile) {
+  story::WriteBytes(Path(".reelora"), "a file");
+  EXPECT_EQ(FailureOf([&] { MakeSafetyFolder(disk_); }), "Path/File access error: .reelora");
+  EXPECT_EQ(story::ReadBytes(Path(".reelora")), "a file");
+}
+
 // A file of a terabyte takes no room on the disk and must take none in memory.
 TEST_F(RealDiskTest, OfAHugeTextFileOnlyTheBeginningIsRead) {
   story::WriteBytes(Path("Last"), "7\r\n8\r\n");
