@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <limits>
+
+#include "runtime/checksum.h"
 #include "runtime/whole_io.h"
 #include "store/master_file.h"
 #include "tests/kit/films.h"
@@ -78,6 +82,32 @@ TEST_F(DraftFile, OfAnyWrongByteIsNoDraft) {
     wrong[at] = static_cast<char>(wrong[at] ^ 0x40);
     ASSERT_FALSE(ReadFrom(wrong)) << "at byte " << at;
   }
+}
+
+// A number of the head, by its offset, under a sum that is right.
+std::string WithNumber(std::string bytes, std::size_t at, std::int64_t number) {
+  std::memcpy(bytes.data() + at, &number, sizeof number);
+  const std::size_t body = bytes.size() - sizeof(std::uint64_t);
+  const std::uint64_t sum = runtime::Checksum(std::string_view(bytes).substr(0, body));
+  std::memcpy(bytes.data() + body, &sum, sizeof sum);
+  return bytes;
+}
+
+TEST_F(DraftFile, OfAMadNumberUnderARightSumIsNoDraft) {
+  constexpr std::size_t Mark = 0, Slot = 8, TitleLength = 24;
+  WriteDraft(Disk, Name, DraftOf(2, false, "Alien"));
+  const std::string bytes = Disk.Content().at(File);
+  ASSERT_EQ(ReadFrom(WithNumber(bytes, Slot, 7)).value().Slot, 7);
+  ASSERT_EQ(ReadFrom(WithNumber(bytes, TitleLength, 64)).value().Title.size(), 64U);
+  EXPECT_FALSE(ReadFrom(WithNumber(bytes, Mark, 0)));
+  for (std::int64_t slot : {std::int64_t{0}, std::int64_t{-1}, std::numeric_limits<std::int64_t>::max()})
+    EXPECT_FALSE(ReadFrom(WithNumber(bytes, Slot, slot))) << slot;
+  for (std::int64_t length : {-1, 65}) EXPECT_FALSE(ReadFrom(WithNumber(bytes, TitleLength, length))) << length;
+}
+
+TEST_F(DraftFile, OfAnotherNameIsNoDraft) {
+  kit::MemoryDisk disk(kit::Folder{{".reelora/journal", ""}, {".reelora/draft.new", ""}, {".reelora/draft7", ""}});
+  EXPECT_EQ(DraftNames(disk), std::vector<std::string>{"draft7"});
 }
 
 TEST_F(DraftFile, OfAnyOtherLengthIsNoDraft) {
