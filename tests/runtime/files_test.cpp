@@ -234,6 +234,9 @@ TEST_F(FilesTest, LengthsAreInBytes) {
   EXPECT_EQ(files.Length("Recpra.Dat"), 5);
   files.Put(1, 3, "CCCC");
   EXPECT_EQ(files.Length(1), 12);
+  files.OpenOutput(2, "Last");
+  files.WriteLine(2, " 7");
+  EXPECT_EQ(files.Length(2), 4);
 }
 
 }  // namespace

@@ -75,6 +75,8 @@ TEST_F(RealDiskTest, ALinkInPlaceOfTheSafetyFolderIsNeverFollowed) {
   EXPECT_EQ(disk_.Open(".reelora/journal", Mode::Create), -ELOOP);
   EXPECT_EQ(disk_.List(".reelora"), std::vector<std::string>());
   EXPECT_EQ(disk_.Rename(".reelora/theirs.new", "Last"), -ELOOP);
+  EXPECT_EQ(disk_.Rename(".reelora/theirs.new", "Last"), -ELOOP);
+  EXPECT_EQ(disk_.Rename("Last", ".reelora/theirs.new"), -ELOOP);
   RemoveLeftovers(disk_);
   Discard(disk_, ".reelora/theirs.new");
   EXPECT_EQ(story::ReadBytes(Path("elsewhere/theirs.new")), "theirs");

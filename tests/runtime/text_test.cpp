@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "runtime/failure.h"
 
 namespace runtime {
@@ -69,6 +71,13 @@ TEST(Text, TheNumericValueGoesAsFarAsTheNumberDoes) {
   EXPECT_EQ(NumericValue("-.5x"), -0.5);
   EXPECT_EQ(NumericValue("5."), 5);
   EXPECT_EQ(NumericValue("1e3"), 1);
+}
+
+TEST(Text, AValuePastAllNumbersIsEndlessOfItsSign) {
+  const std::string nines(400, '9');
+  EXPECT_EQ(NumericValue(nines), std::numeric_limits<double>::infinity());
+  EXPECT_EQ(NumericValue("-" + nines), -std::numeric_limits<double>::infinity());
+  EXPECT_EQ(NumericValue("0." + std::string(400, '0') + "1"), 0);
 }
 
 TEST(Text, WordsHaveNoValue) {
