@@ -10,6 +10,7 @@
 #include "runtime/files.h"
 #include "runtime/whole_io.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/passing_disk.h"
 #include "tests/story/world.h"
 
 namespace runtime {
@@ -140,6 +141,23 @@ TEST_F(RealDiskTest, AMissingFolderIsEmptyAndCannotBeSynced) {
 TEST_F(RealDiskTest, AFolderOfADiskThatSyncsNoneIsNoError) {
   if (!fs::exists("/proc/self")) GTEST_SKIP() << "no disk here that syncs no folders";
   EXPECT_EQ(RealDisk("/proc").SyncFolder(""), 0);
+}
+
+TEST_F(RealDiskTest, ATemporaryFileNeverTakesTheNameOfAnother) {
+  EXPECT_EQ(CreateFresh(disk_, "Last").Name(), "Last.new");
+  EXPECT_EQ(CreateFresh(disk_, "Last").Name(), "Last.2.new");
+  EXPECT_EQ(CreateFresh(disk_, "Last").Name(), "Last.3.new");
+}
+
+class DiskThatTakesNothing final : public kit::PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  std::int64_t WriteAt(int, const char*, std::size_t, std::int64_t) override { return 0; }
+};
+
+TEST_F(RealDiskTest, AWriteThatTakesNothingIsAnError) {
+  DiskThatTakesNothing disk(disk_);
+  EXPECT_EQ(FailureOf([&] { OpenFile(disk, "Last", Mode::Create).Write("7", 0); }), "Device I/O error: Last");
 }
 
 TEST_F(RealDiskTest, NoFolderIsMadeInThePlaceOfAFile) {
