@@ -3,14 +3,52 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QStyleFactory>
+#include <QIconEngine>
+#include <QPainter>
+#include <QProxyStyle>
+#include <memory>
 
 #include "desktop/artwork.h"
 
 namespace desktop {
+namespace {
+
+constexpr QStyle::StandardPixmap MenuArrow = QStyle::SP_ToolBarHorizontalExtensionButton;
+
+// The arrow of a menu bar that is too narrow, read when it is first painted.
+class LateArrow final : public QIconEngine {
+ public:
+  explicit LateArrow(const QStyle& style) : style_(style) {}
+  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
+    Read().paint(painter, area, Qt::AlignCenter, mode, state);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return Read().pixmap(size, mode, state);
+  }
+  QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return Read().actualSize(size, mode, state);
+  }
+  QIconEngine* clone() const override { return std::make_unique<LateArrow>(style_).release(); }
+
+ private:
+  QIcon Read() const { return style_.standardIcon(MenuArrow); }
+  const QStyle& style_;
+};
+
+// Every menu bar asks for its arrow at once, and the first picture file that is read loads all image plugins.
+class Style final : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+    if (which != MenuArrow) return QProxyStyle::standardIcon(which, option, widget);
+    return QIcon(std::make_unique<LateArrow>(*baseStyle()).release());
+  }
+};
+
+}  // namespace
 
 void SetUpLook() {
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(std::make_unique<Style>().release());
   QApplication::setQuitOnLastWindowClosed(false);
   QIcon icon;
   for (int side : {16, 32, 48, 128}) icon.addPixmap(Artwork("reelora", {side, side}, 1));
