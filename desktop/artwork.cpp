@@ -6,6 +6,9 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 #include <cmath>
+#include <map>
+#include <memory>
+#include <string>
 
 #include "desktop/text.h"
 
@@ -15,24 +18,33 @@ static void LoadPictures() { Q_INIT_RESOURCE(pictures); }
 namespace desktop {
 namespace {
 
-QString FileOf(std::string_view stem) {
+// A drawing is parsed once, however many sizes of it are drawn. nullptr if there is no such picture.
+QSvgRenderer* Drawing(std::string_view stem) {
   static const bool loaded = (LoadPictures(), true);
   static_cast<void>(loaded);
-  return QStringLiteral(":/pictures/%1.svg").arg(Shown(stem));
+  static std::map<std::string, std::unique_ptr<QSvgRenderer>, std::less<>> drawings;
+  auto found = drawings.find(stem);
+  if (found == drawings.end()) {
+    QString file = QStringLiteral(":/pictures/%1.svg").arg(Shown(stem));
+    found = drawings.emplace(stem, QFile::exists(file) ? std::make_unique<QSvgRenderer>(file) : nullptr).first;
+  }
+  return found->second.get();
 }
 
 }  // namespace
 
 QPixmap Artwork(std::string_view stem, QSize size, double ratio) {
-  if (size.isEmpty() || !QFile::exists(FileOf(stem))) return {};
+  if (size.isEmpty()) return {};
   QString key = QStringLiteral("%1 %2 %3 %4").arg(Shown(stem)).arg(size.width()).arg(size.height()).arg(ratio);
   QPixmap picture;
   if (QPixmapCache::find(key, &picture)) return picture;
+  QSvgRenderer* drawing = Drawing(stem);
+  if (!drawing) return {};
   picture =
       QPixmap(static_cast<int>(std::ceil(size.width() * ratio)), static_cast<int>(std::ceil(size.height() * ratio)));
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
-  QSvgRenderer(FileOf(stem)).render(&painter);
+  drawing->render(&painter);
   painter.end();
   picture.setDevicePixelRatio(ratio);
   QPixmapCache::insert(key, picture);
@@ -40,7 +52,8 @@ QPixmap Artwork(std::string_view stem, QSize size, double ratio) {
 }
 
 QSize ArtworkSize(std::string_view stem) {
-  return QFile::exists(FileOf(stem)) ? QSvgRenderer(FileOf(stem)).defaultSize() : QSize();
+  const QSvgRenderer* drawing = Drawing(stem);
+  return drawing ? drawing->defaultSize() : QSize();
 }
 
 }  // namespace desktop
