@@ -52,10 +52,11 @@ FormView::FormView(forms::Window& window, StackView& all)
   if (window.Modal) setWindowModality(Qt::ApplicationModal);
   input_.Watch(*this);
   input_.Watch(surface_);
-  menu_.Bar().setVisible(!menu_.Empty());
   setMinimumSize(Scaled(window, SmallestScale));
   resize(StartSize());
   LayOut();
+  // Not before its font is set, or it measures its items in the default font, too.
+  menu_.Bar().setVisible(!menu_.Empty());
   resize(width(), height() + surface_.y());
   move(screen()->availableGeometry().center() - rect().center());
 }

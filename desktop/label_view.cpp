@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QRegularExpression>
+#include <utility>
 
 #include "desktop/artwork.h"
 #include "desktop/text.h"
@@ -41,13 +42,17 @@ void LabelView::ApplyLook(const Grid& grid) {
   colours.setColor(QPalette::Window, ToColour(look.Back));
   setPalette(colours);
   setAutoFillBackground(!look.Transparent);
-  FitFont();
+  fitted_ = false;
 }
 
 void LabelView::ApplyContent() {
   QString wanted = tag_ ? Unpadded(label_.Caption()) : Shown(label_.Caption()).remove('\r');
-  if (wanted == text()) return;
-  setText(wanted);
+  if (wanted != text()) {
+    setText(wanted);
+    fitted_ = false;
+  }
+  // Each font size costs time when it is first used: an empty label needs none.
+  if (std::exchange(fitted_, true) || wanted.isEmpty()) return;
   FitFont();
 }
 

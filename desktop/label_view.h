@@ -23,6 +23,7 @@ class LabelView final : public QLabel, public ControlView {
   forms::Label& label_;
   bool tag_;
   QFont full_size_;
+  bool fitted_ = false;
 };
 
 // A bare strip of colour.
