@@ -19,7 +19,7 @@ TOKEN = re.compile(
 )
 LITERALS = ("text", "char", "number")
 LEFT_OUT = {
-    "directive": "in a macro or a directive",
+    "directive": "in a macro, a directive or an attribute",
     "case": "label of a case",
     "enum": "value of an enumerator",
     "check": "checked when compiled",
@@ -134,6 +134,8 @@ class Source:
                 self.leave_out(here, end, "check")
                 for position in range(here, end + 1):
                     self.tokens[self.code[position]].out = ""
+            elif word == "__attribute__":
+                self.leave_out(here, self.close_of(here + 1), "directive")
             elif word == "case":
                 self.leave_out(here, self.next_of(here, ":"), "case")
             elif word == "enum":

@@ -50,12 +50,13 @@ class Sources(unittest.TestCase):
 
     def test_what_must_stay_constant_is_left_out_and_named(self):
         text, copy = copied('static_assert(1 == 1);\nenum E { A = 7 };\nvoid F() { switch (x) { case 3: G(); } }\n'
-                            '#define H "h"\nvirtual void I() = 0;\nchar J[9];')  # fmt: skip
+                            '#define H "h"\nvirtual void I() = 0;\nchar J[9];\n'
+                            '__attribute__((target("avx2"))) void K();')  # fmt: skip
         self.assertEqual(copy.mutants, [])
         self.assertEqual([why for *_, why in copy.left_out],
-                         ["check", "check", "enum", "case", "directive", "pure", "frozen"])  # fmt: skip
+                         ["check", "check", "enum", "case", "directive", "pure", "frozen", "directive"])  # fmt: skip
         self.assertNotIn("static_assert", text)
-        self.assertEqual(text.count("\n"), 5)
+        self.assertEqual(text.count("\n"), 6)
 
     def test_a_frozen_constant_stays_as_it_is(self):
         source = "inline constexpr int Width = 649;"
