@@ -76,6 +76,14 @@ TEST_F(FocusTest, AMoveBackMadeByLostFocusWins) {
   EXPECT_EQ(Holder(), "First");
 }
 
+TEST_F(FocusTest, AMoveToAControlThatLostFocusDisablesEndsAtTheNextStop) {
+  ShowWithFocus(Window.First);
+  Window.First.LostFocus = [&] { Window.Third.Disable(); };
+  Window.Third.SetFocus();
+  EXPECT_EQ(Taken(), Events{"Push.GotFocus"});
+  EXPECT_EQ(Holder(), "Push");
+}
+
 TEST_F(FocusTest, AMoveToNowhereMadeByLostFocusDoesNotWin) {
   Window.Second.Hide();
   ShowWithFocus(Window.First);

@@ -227,6 +227,21 @@ TEST_F(FilesTest, ANumberReadsTheNewContentsOfAReplacedFile) {
   EXPECT_EQ(files.Length(2), 4);
 }
 
+TEST_F(FilesTest, ALineReaderAndOtherFilesStayAsTheyAreWhenAFileIsReplaced) {
+  Lay("Last", "5\r\n6\r\n");
+  Lay("DVDpra.Dat", "AAAABBBB");
+  files.OpenRandom(2, "DVDpra.Dat", 4);
+  files.OpenInput(3, "Last");
+  EXPECT_EQ(files.ReadItem(3), "5");
+  for (const char* name : {"Last", "DVDpra.Dat"}) {
+    Lay("aside", "7\r\n8\r\n9\r\n");
+    std::filesystem::rename(fresh.Path() / "aside", fresh.Path() / name);
+  }
+  files.Replaced("Last");
+  EXPECT_EQ(files.ReadItem(3), "6");
+  EXPECT_EQ(Record(2, 2), "BBBB");
+}
+
 TEST_F(FilesTest, LengthsAreInBytes) {
   Lay("Recpra.Dat", "AAAAB");
   files.OpenRandom(1, "Recpra.Dat", 4);

@@ -102,6 +102,14 @@ TEST_F(RealDiskTest, NewFilesTakeThePermissionsOfTheModel) {
   }
 }
 
+TEST_F(RealDiskTest, NewFilesAreForEveryoneWhereTheModelIsMissing) {
+  disk_.NewFilesLike("Recpra.Dat");
+  const mode_t mask = ::umask(0);
+  ReplaceFile(disk_, "Last", "7");
+  ::umask(mask);
+  EXPECT_EQ(PermissionsOf("Last"), 0666U);
+}
+
 TEST_F(RealDiskTest, TheSafetyFolderIsForAllWhoCanWriteIntoTheFolder) {
   ASSERT_EQ(::chmod(fresh_.Path().c_str(), 0770), 0);
   const mode_t mask = ::umask(077);

@@ -191,6 +191,38 @@ TEST(Recovery, PassesOverAJournalThatIsNotWhole) {
   }
 }
 
+TEST(Recovery, LeavesAFileAloneThatIsCutWhileItIsCompared) {
+  class Cutting final : public kit::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+      if (NameOf(handle) == Master) PassingDisk::Truncate(handle, 40);
+      return PassingDisk::ReadAt(handle, target, count, offset);
+    }
+  };
+  kit::Folder folder = Written();
+  folder[Master] = With(kit::Films(1, 8), 7, Mixed);
+  kit::MemoryDisk memory(folder);
+  Cutting disk(memory);
+  const OpenFile file(disk, Master, Disk::Mode::Create);
+  RecordJournal(disk).Recover(file, store::RecordLength);
+  EXPECT_EQ(memory.Content().at(Master), folder.at(Master).substr(0, 40));
+  EXPECT_EQ(memory.Content().at(Journal), folder.at(Journal));
+}
+
+// A gap is written and compared in pieces of 64 KiB.
+TEST(Recovery, TakesAStoppedAppendBackWhoseGapHasManyPieces) {
+  const std::string films = kit::Films(1, 2);
+  const kit::Folder appended = Stopped(films, 300);
+  const std::string whole = films + std::string(297 * store::RecordLength, ' ') + kit::FilmBytes(300, 1);
+  EXPECT_EQ(appended.at(Master), whole);
+  for (std::size_t part : {1000U, 70'000U, 140'000U})
+    EXPECT_EQ(Recovered(appended, whole.substr(0, films.size() + part)), films);
+  std::string other = whole;
+  other[70'000] = 'x';
+  EXPECT_EQ(Recovered(appended, other), other);
+}
+
 TEST(Recovery, LeavesAnotherFileAlone) {
   const std::string mixed = With(kit::Films(1, 8), 7, Mixed);
   kit::Folder folder = Written();

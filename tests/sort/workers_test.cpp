@@ -2,6 +2,7 @@
 #include "sort/workers.h"
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <array>
 #include <stdexcept>
@@ -29,6 +30,29 @@ TEST(SortWorkersTest, DoBothPartsOnTheCallersThreadWhereThereIsNoOther) {
   std::string parts;
   RunHalves(nullptr, [&](int worker) { parts += std::to_string(worker); });
   EXPECT_EQ(parts, "01");
+}
+
+// A thread with a stack this large cannot start.
+TEST(SortWorkersTest, DoBothPartsOnTheCallersThreadIfTheSystemRefusesAnother) {
+  pthread_attr_t usual, huge;
+  ASSERT_EQ(pthread_getattr_default_np(&usual), 0);
+  ASSERT_EQ(pthread_attr_init(&huge), 0);
+  ASSERT_EQ(pthread_attr_setstacksize(&huge, std::size_t{1} << 50), 0);
+  ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
+  Workers workers;
+  std::string parts;
+  std::thread::id second;
+  workers.RunHalves([&](int worker) {
+    parts += std::to_string(worker);
+    second = std::this_thread::get_id();
+  });
+  ASSERT_EQ(pthread_setattr_default_np(&usual), 0);
+  EXPECT_EQ(parts, "01");
+  EXPECT_EQ(second, std::this_thread::get_id());
+  workers.RunHalves([&](int worker) {
+    if (worker == 1) second = std::this_thread::get_id();
+  });
+  EXPECT_NE(second, std::this_thread::get_id());
 }
 
 TEST(SortWorkersTest, ThrowWhatEitherPartThrowsAndGoOnAfterwards) {

@@ -11,6 +11,7 @@
 #include "store/master_file.h"
 #include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
+#include "tests/kit/passing_disk.h"
 #include "tests/kit/refusing_disk.h"
 
 namespace store {
@@ -132,6 +133,20 @@ TEST_F(DraftFile, ThatCannotBeReadKeepsItsName) {
   WriteDraft(Disk, "draft", DraftOf(2, false, "Alien"));
   kit::RefusingDisk refusing(Disk, File);
   EXPECT_EQ(FreeDraftName(refusing), "draft2");
+}
+
+TEST_F(DraftFile, ThatIsCutWhileItIsReadIsNoDraft) {
+  class Cutting final : public kit::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+      PassingDisk::Truncate(handle, 40);
+      return PassingDisk::ReadAt(handle, target, count, offset);
+    }
+  };
+  WriteDraft(Disk, Name, DraftOf(2, false, "Alien"));
+  Cutting cutting(Disk);
+  EXPECT_FALSE(ReadDraft(cutting, Name));
 }
 
 class KeptDraft : public testing::Test {

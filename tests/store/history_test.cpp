@@ -89,6 +89,30 @@ TEST(History, HasHeadsOfOneLengthForEverySlotAndYear) {
   EXPECT_THROW(HistoryHead(now, 1'000'000'000), runtime::Failure);
 }
 
+TEST(History, PassesOverEntriesWhoseSlotIsNoNumber) {
+  constexpr int SlotPlace = 20;
+  const std::string entry = "2026-11-21 05:30:00 0000002 " + BytesOf(Film("Solaris"));
+  for (char wrong : {'/', ':', 'A', '\0', '-', ' '}) {
+    std::string garbled = entry;
+    garbled[SlotPlace + 3] = wrong;
+    MemoryDisk disk(Folder{{".reelora/history", garbled + entry}});
+    std::vector<KeptFilm> films = ReadHistory(disk);
+    ASSERT_EQ(films.size(), 1U) << wrong;
+    EXPECT_EQ(films[0].Number, 2);
+    EXPECT_EQ(films[0].Slot, 2);
+    EXPECT_FALSE(ReadKeptFilm(disk, 1));
+  }
+}
+
+TEST(History, HasNoEntryOutsideItsNumbers) {
+  MemoryDisk empty(Folder{}), disk(CutOff(RecordLength));
+  EXPECT_FALSE(ReadKeptFilm(empty, 1));
+  Save(disk, 2, "Brazil");
+  EXPECT_TRUE(ReadKeptFilm(disk, 1));
+  for (std::int64_t number : {std::int64_t{0}, std::int64_t{-1}, std::int64_t{2}, INT64_MIN, INT64_MAX})
+    EXPECT_FALSE(ReadKeptFilm(disk, number)) << number;
+}
+
 TEST(History, StaysInStepAfterLongSlotNumbers) {
   const std::vector<std::int64_t> slots = {1, 10'000'000, 123'456'789, 2};
   MemoryDisk disk(Folder{});
