@@ -11,6 +11,7 @@
 #include "tests/kit/draft_desk.h"
 #include "tests/kit/films.h"
 #include "tests/kit/passing_disk.h"
+#include "tests/kit/refusing_disk.h"
 
 namespace {
 
@@ -104,6 +105,26 @@ TEST_F(Drafts, OfARecordNumberThatNoSaveWritesAreKeptAsNewFilms) {
   const std::string master = memory.Content().at(Master);
   EXPECT_EQ(master.substr(0, 9 * store::RecordLength), folder.at(Master));
   EXPECT_EQ(master.substr(9 * store::RecordLength, 5), "Kept ");
+}
+
+TEST_F(Drafts, ThatCannotBeReadStayForALaterStart) {
+  StopInEdit("Kept");
+  kit::RefusingDisk refusing(Memory, DraftFile);
+  ProgramRun run(refusing);
+  run.Desk.Draft = forms::DraftAnswer::Drop;
+  run.Program.StartOpener();
+  EXPECT_EQ(run.Desk.Asked, std::vector<std::string>());
+  EXPECT_EQ(run.Desk.Reported, "");
+  EXPECT_TRUE(HasDraft());
+}
+
+TEST_F(Drafts, StayWhereNobodyCanBeAsked) {
+  StopInEdit("Kept");
+  kit::QuietDesk desk;
+  Program program(desk, Memory);
+  program.StartOpener();
+  EXPECT_TRUE(HasDraft());
+  EXPECT_EQ(Slot(7), kit::FilmBytes(7, 0));
 }
 
 TEST_F(Drafts, AreNotWrittenWhenNothingHasChanged) {

@@ -144,6 +144,15 @@ TEST_F(HistoryCommand, PassesOverAnEntryThatWasNeverFinished) {
   EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     4         2  Brazil - Ran"}));
 }
 
+TEST_F(HistoryCommand, ListsNoHistoryThatNobodyCanHaveMade) {
+  Put(2, Film("Brazil"));
+  std::filesystem::resize_file(HistoryPath(), (LongestHistory + 1) * 677);
+  EXPECT_EQ(Run({}), 1);
+  EXPECT_EQ(Complaints.str(), "The history is damaged: it has 1000001 entries.\n");
+  EXPECT_EQ(Out.str(), "");
+  EXPECT_EQ(Run({"undo", "1"}), 0);
+}
+
 TEST_F(HistoryCommand, RefusesArgumentsThatItDoesNotKnow) {
   for (const std::vector<std::string>& arguments :
        {std::vector<std::string>{"undo", "one"}, {"undo", "1x"}, {"a", "b"}, {"--help"}, {"a", "b", "undo", "1"}}) {

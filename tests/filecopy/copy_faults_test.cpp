@@ -65,6 +65,23 @@ TEST(EndOfACopy, IsUnconfirmedWhenTheFolderCannotBeSynced) {
   EXPECT_EQ(target.SyncFailures, 0) << "a failed sync was repeated";
 }
 
+TEST(FullDisk, ThatGainsNoRoomByTheTargetsRemovalIsReported) {
+  class AlwaysFull final : public kit::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    std::int64_t WriteAt(int, const char*, std::size_t, std::int64_t) override { return -ENOSPC; }
+  };
+  MemoryDisk source(Folder{{Name, "new"}}), memory(Folder{{Name, "old"}, {"Last", "1"}});
+  AlwaysFull target(memory);
+  try {
+    filecopy::CopyFile(source, Name, target, Name);
+    ADD_FAILURE() << "a copy without room";
+  } catch (const runtime::Failure& failure) {
+    EXPECT_EQ(failure.Name, runtime::DiskFull);
+  }
+  EXPECT_EQ(memory.Content(), (Folder{{"Last", "1"}}));
+}
+
 TEST(EndOfACopy, AnUnconfirmedCopyIsNotReportedAsAMissingDisk) {
   MemoryDisk hard(kit::FolderOfFilms(2)), floppy{Folder()};
   kit::AnsweringDesk desk;
