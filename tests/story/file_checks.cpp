@@ -107,6 +107,11 @@ void SeePages(const Scene& scene, const Line& line) {
   Compare(line, line.Text(1) + " pages", std::to_string(Document(scene, line).Pages.size()) + " pages");
 }
 
+std::string LookOf(const runtime::PrintedLine& line) {
+  if (line.Bold) return line.Underline ? "bold underlined" : "bold";
+  return line.Underline ? "underlined" : "plain";
+}
+
 void SeePage(const Scene& scene, const Line& line) {
   const auto& pages = Document(scene, line).Pages;
   int page = line.Number32(1);
@@ -118,18 +123,26 @@ void SeePage(const Scene& scene, const Line& line) {
     Compare(line, line.Text(3) + " lines", std::to_string(lines.size()) + " lines");
     return;
   }
-  if (!line.Arguments[2].Is("line") || line.Arguments.size() != 5)
-    throw Difference{line.Number, Differs("line L \"text\" or lines N", line.Notation())};
+  bool looks = line.Arguments[2].Is("look");
+  if ((!looks && !line.Arguments[2].Is("line")) || line.Arguments.size() != 5)
+    throw Difference{line.Number, Differs("line L \"text\", look L \"look\" or lines N", line.Notation())};
   int row = line.Number32(3);
   if (row < 1) throw Difference{line.Number, Differs("a line of 1 or more", line.Text(3))};
-  std::string text = row <= static_cast<int>(lines.size()) ? lines[static_cast<std::size_t>(row - 1)].PlainText() : "";
-  Compare(line, Quoted(WithoutBlanks(line.Text(4))), Quoted(WithoutBlanks(text)));
+  auto printed =
+      row <= static_cast<int>(lines.size()) ? lines[static_cast<std::size_t>(row - 1)] : runtime::PrintedLine{};
+  std::string got = looks ? LookOf(printed) : printed.PlainText();
+  Compare(line, Quoted(WithoutBlanks(line.Text(4))), Quoted(WithoutBlanks(got)));
+}
+
+void SeeFont(const Scene& scene, const Line& line) {
+  const runtime::PrintJob& job = Document(scene, line);
+  Compare(line, Quoted(line.Text(1)) + " " + line.Text(2), Quoted(job.FontName) + " " + std::to_string(job.FontSize));
 }
 
 using See = void (*)(const Scene&, const Line&);
 const std::map<std::string_view, See> Sees = {
     {"film", SeeFilm},       {"key", SeeKey},   {"file", SeeFile},   {"same", SeeSame},   {"length", SeeLength},
-    {"missing", SeeMissing}, {"page", SeePage}, {"pages", SeePages}, {"drive", SeeDrive},
+    {"missing", SeeMissing}, {"page", SeePage}, {"pages", SeePages}, {"drive", SeeDrive}, {"font", SeeFont},
 };
 
 }  // namespace

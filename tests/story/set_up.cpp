@@ -2,7 +2,9 @@
 #include "tests/story/set_up.h"
 
 #include <array>
+#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <map>
 #include <optional>
 #include <system_error>
@@ -125,18 +127,38 @@ void PlayFolder(World& world, const Line& line, const fs::path& story_folder) {
   CopyFiles(source, world.Folder);
 }
 
-void PlayClock(World& world, const Line& line, const fs::path&) {
+// The date and the time that begin at that argument.
+std::chrono::local_seconds TimeOf(const Line& line, std::size_t at) {
   int year = 0;
   unsigned month = 0, day = 0, hour = 0, minute = 0, second = 0;
-  std::string text = line.Text(0) + " " + line.Text(1);
+  std::string text = line.Text(at) + " " + line.Text(at + 1);
   std::array<char, 2> rest{};
   int parts = std::sscanf(text.c_str(), "%4d-%2u-%2u %2u:%2u:%2u%1s", &year, &month, &day, &hour, &minute, &second,
                           rest.data());
   std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)};
   if (parts != 6 || !date.ok() || hour > 23 || minute > 59 || second > 59)
     throw Difference{line.Number, Differs("YYYY-MM-DD HH:MM:SS", text)};
-  world.Clock = std::chrono::local_days(date) + std::chrono::hours(hour) + std::chrono::minutes(minute) +
-                std::chrono::seconds(second);
+  return std::chrono::local_days(date) + std::chrono::hours(hour) + std::chrono::minutes(minute) +
+         std::chrono::seconds(second);
+}
+
+void PlayClock(World& world, const Line& line, const fs::path&) { world.Clock = TimeOf(line, 0); }
+
+void PlayTime(World& world, const Line& line, const fs::path&) {
+  fs::path file = world.Folder / line.Text(0);
+  std::chrono::local_seconds time = TimeOf(line, 1);
+  if (!fs::is_regular_file(file)) throw Difference{line.Number, Differs("a file to date", "none of that name")};
+  // The machine's own time zone, as the program reads the time of a file in it.
+  auto day = std::chrono::floor<std::chrono::days>(time);
+  std::chrono::year_month_day date{day};
+  std::tm local{};
+  local.tm_year = static_cast<int>(date.year()) - 1900;
+  local.tm_mon = static_cast<int>(static_cast<unsigned>(date.month())) - 1;
+  local.tm_mday = static_cast<int>(static_cast<unsigned>(date.day()));
+  local.tm_sec = static_cast<int>((time - day).count());
+  local.tm_isdst = -1;
+  auto moment = std::chrono::system_clock::from_time_t(std::mktime(&local));
+  fs::last_write_time(file, fs::file_time_type::clock::from_sys(moment));
 }
 
 void PlayDrive(World& world, const Line& line, const fs::path&) {
@@ -154,8 +176,9 @@ void PlayDrive(World& world, const Line& line, const fs::path&) {
 
 using Play = void (*)(World&, const Line&, const fs::path&);
 const std::map<std::string_view, Play> Plays = {
-    {"film", PlayFilm}, {"films", PlayFilms},   {"sorted", PlaySorted}, {"key", PlayKey},     {"count", PlayCount},
-    {"file", PlayFile}, {"remove", PlayRemove}, {"folder", PlayFolder}, {"clock", PlayClock}, {"drive", PlayDrive},
+    {"film", PlayFilm},   {"films", PlayFilms}, {"sorted", PlaySorted}, {"key", PlayKey},
+    {"count", PlayCount}, {"file", PlayFile},   {"remove", PlayRemove}, {"folder", PlayFolder},
+    {"clock", PlayClock}, {"drive", PlayDrive}, {"time", PlayTime},
 };
 
 }  // namespace

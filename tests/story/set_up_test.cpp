@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/clock.h"
+#include "runtime/disk.h"
+#include "runtime/whole_io.h"
 #include "tests/kit/fresh_folder.h"
 #include "tests/kit/source_tree.h"
 
@@ -118,6 +121,18 @@ TEST_F(SetUpTest, StopsTheClock) {
   Play("clock 2026-11-21 05:30:07");
   auto day = std::chrono::local_days(std::chrono::year(2026) / 11 / 21);
   EXPECT_EQ(world.Clock, day + std::chrono::hours(5) + std::chrono::minutes(30) + std::chrono::seconds(7));
+}
+
+TEST_F(SetUpTest, DatesAFile) {
+  Play("file Backup.dat \"x\"");
+  Play("time Backup.dat 2026-07-04 23:05:07");
+  runtime::RealDisk disk(world.Folder.string());
+  runtime::OpenFile file(disk, "Backup.dat", runtime::Disk::Mode::Read);
+  EXPECT_EQ(runtime::LocalTime(file.Modified().Seconds), std::chrono::local_days(std::chrono::July / 4 / 2026) +
+                                                             std::chrono::hours(23) + std::chrono::minutes(5) +
+                                                             std::chrono::seconds(7));
+  EXPECT_TRUE(Refuses("time Backup.dat 2026-13-04 23:05:07"));
+  EXPECT_TRUE(Refuses("time missing.dat 2026-07-04 23:05:07"));
 }
 
 TEST_F(SetUpTest, PutsDisksIntoDrives) {

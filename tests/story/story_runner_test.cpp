@@ -93,6 +93,7 @@ TEST_F(StoryRunnerTest, FailsOnWhatDiffersFromASight) {
   EXPECT_EQ(Play(start + "see length Recpra.Dat 648\n"), "3: expected 648 bytes, got 649 bytes");
   EXPECT_EQ(Play(start + "see missing Recpra.Dat\n"), "3: expected no file Recpra.Dat, got a file of that name");
   EXPECT_EQ(Play(start + "see pages 1\n"), "3: expected a document on paper, got none");
+  EXPECT_EQ(Play(start + "see font \"Courier New\" 12\n"), "3: expected a document on paper, got none");
 }
 
 TEST_F(StoryRunnerTest, ComparesKeysAndWholeFiles) {

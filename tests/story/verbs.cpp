@@ -26,6 +26,7 @@ constexpr VerbRow Verbs[] = {
   { "remove",        "",        Role::SetUp,  "e" },
   { "folder",        "",        Role::SetUp,  "e" },
   { "clock",         "",        Role::SetUp,  "ww" },
+  { "time",          "",        Role::SetUp,  "eww" },
   { "drive",         "",        Role::SetUp,  "we" },
 
   { "start",         "",        Role::Action, "" },
@@ -70,6 +71,7 @@ constexpr VerbRow Verbs[] = {
   { "see",           "page",    Role::Check,  "nwn" },
   { "see",           "page",    Role::Check,  "nwnt" },
   { "see",           "pages",   Role::Check,  "n" },
+  { "see",           "font",    Role::Check,  "tn" },
   { "see",           "drive",   Role::Check,  "wew" },
   { "see",           "",        Role::Check,  "ww" },
   { "see",           "",        Role::Check,  "ws" },
