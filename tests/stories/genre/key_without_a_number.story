@@ -12,3 +12,4 @@ see focus txtTitle
 see txtTitle "Alien"
 see state CurrentRecNo 1
 see state ScanRecNo 0
+see lblHead "Viewing Files For Science Fiction Alphabetically"

@@ -10,3 +10,4 @@ see Text1(0) "Alien"
 see Text1(1) ""
 see state ScanRecNo 0
 see state RowCursor 1
+see state MatchPos 0

@@ -19,6 +19,7 @@ see state SearchState 0
 see state ListShown 0
 see state ListShownAlso 0
 see state PageMode 0
+see state RowCursor 0
 see state KeyFilePos 0
 see state ViewKind ""
 see state CurrentRecNo 1

@@ -22,6 +22,9 @@ see page 1 line 6 "Metropolis                                 1927     Science F
 see page 1 line 7 "  ____________________________________________________________________________"
 see page 1 line 9 "{LINE3}"
 see page 1 line 56 "                                     Page  1"
+see page 1 look 2 "bold"
+see page 1 look 4 "bold underlined"
+see page 1 look 6 "bold"
 see state PrintPending 0
 see state FirstRecordAdjust 0
 see state ViewKind ""

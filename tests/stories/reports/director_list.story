@@ -23,6 +23,9 @@ see page 1 line 6 "  Rear Window                             1954   Mystery Susp
 see page 1 line 7 "  Vertigo                                 1958   Mystery Suspense      DVD"
 see page 1 line 9 "  TOTAL FILM(S) DIRECTED BY ALFRED HITCHCOCK IN YOUR COLLECTION IS 2."
 see page 1 line 51 "                                     Page  1"
+see page 1 look 2 "bold"
+see page 1 look 4 "bold underlined"
+see page 1 look 6 "bold"
 see state DirectorQuery "HITCH"
 see state PrintPending 0
 see state FirstRecordAdjust 2

@@ -25,6 +25,11 @@ see page 1 line 9 "  Label:Columbia        DVD 2Disc(s)      MPAA :PG    DVD Dis
 see page 1 line 10 "  Notes/Awards: Seven Academy Awards, Best Picture among them               :"
 see page 1 line 12 "  TOTAL FILM(S) IN LIBRARY   1"
 see page 1 line 14 "                                     Page  1"
+see font "Courier New" 12
+see page 1 look 5 "bold"
+see page 1 look 9 "bold"
+see page 1 look 10 "bold underlined"
+see page 1 look 12 "bold"
 see state PrintPending 0
 see state RowCursor 1
 see state KeyFilePos 0

@@ -24,6 +24,9 @@ see page 1 line 9 "  Rear Window                             1954   Mystery Susp
 see page 1 line 10 "  Vertigo                                 1958   Mystery Suspense      DVD"
 see page 1 line 12 "  TOTAL Mystery Suspense Films  2"
 see page 1 line 52 "                                     Page  1"
+see page 1 look 3 "bold"
+see page 1 look 7 "bold underlined"
+see page 1 look 9 "bold"
 see state GenreFilter "MS"
 see state PrintPending 0
 see state FirstRecordAdjust 2
