@@ -52,7 +52,7 @@ struct frmCopy : forms::Window {
   std::string TargetPath;         // its name on the drive, as shown in the questions
   std::string DriveWord;          // the drive: "A:", "B:", or the text of the list in capitals
   std::string LetterWord;         // the drive as shown in the questions
-  runtime::Int16 SkipChange = 0;  // 1: ignore the next Change of Drive1
+  runtime::Int16 SkipChange;      // 1: ignore the next Change of Drive1
 
   // Shows the window with the current files and drives.
   void Open();
