@@ -38,6 +38,7 @@ see state {STATE} ""
 see state RowCursor 1
 see state KeyFilePos 0
 see state CurrentRecNo 1
+see state MatchPos 0
 see state MatchKind ""
 see state SearchState 0
 see state FindPending 0

@@ -20,6 +20,7 @@ see state ListShown 0
 see state ListShownAlso 0
 see state PageMode 0
 see state KeyFilePos 0
+see state MatchPos 0
 see state ViewKind ""
 see state CurrentRecNo 1
 see Text1(0).Visible no
