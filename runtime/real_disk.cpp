@@ -33,12 +33,16 @@ bool IsInSafetyFolder(const std::string& name) {
 
 RealDisk::RealDisk(std::string folder, Links links) : folder_(std::move(folder)), links_(links) {}
 
-std::string RealDisk::PathOf(const std::string& name) const { return name.empty() ? folder_ : folder_ + "/" + name; }
+std::string RealDisk::PathOf(const std::string& name) const {
+  if (name.empty()) return folder_;
+  return folder_ + "/" + name;
+}
 
 bool RealDisk::IsBehindLink(const std::string& name) const {
   if (!IsInSafetyFolder(name)) return false;
+  const std::string folder = PathOf(std::string(SafetyFolder));
   struct stat status {};
-  return ::lstat(PathOf(std::string(SafetyFolder)).c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+  return ::lstat(folder.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 // The flags that never wait, for the other end of a pipe or for a device.
@@ -47,8 +51,9 @@ int RealDisk::OpenPath(const std::string& name, int flags) const {
   if (links_ == Links::Refused || IsInSafetyFolder(name)) flags |= O_NOFOLLOW;
   const std::string path = PathOf(name);
   if ((flags & O_CREAT) == 0) return static_cast<int>(OrError(::open(path.c_str(), flags)));
+  const std::string like = PathOf(like_);
   struct stat model {};
-  bool has_model = !like_.empty() && ::stat(PathOf(like_).c_str(), &model) == 0;
+  bool has_model = !like_.empty() && ::stat(like.c_str(), &model) == 0;
   mode_t permissions = has_model ? model.st_mode & FilePermissions : FilePermissions;
   int handle = static_cast<int>(OrError(::open(path.c_str(), flags, permissions)));
   // Some disks keep no permissions; the file is as good without.
@@ -117,7 +122,8 @@ int RealDisk::Rename(const std::string& from, const std::string& to) {
 }
 
 int RealDisk::Remove(const std::string& name) {
-  return IsBehindLink(name) ? -ELOOP : static_cast<int>(OrError(::unlink(PathOf(name).c_str())));
+  if (IsBehindLink(name)) return -ELOOP;
+  return static_cast<int>(OrError(::unlink(PathOf(name).c_str())));
 }
 
 // The new folder takes the permissions of the disk's own: who can write into that one can write into both.

@@ -86,7 +86,9 @@ void SyncFolders(Disk& disk, std::string_view file) {
 OpenFile CreateFresh(Disk& disk, const std::string& base) {
   constexpr int LastNumber = 1000;
   for (int number = 1;; ++number) {
-    std::string name = base + (number == 1 ? "" : "." + std::to_string(number)) + std::string(AsideEnding);
+    std::string name = base;
+    if (number > 1) name += "." + std::to_string(number);
+    name += AsideEnding;
     int handle = 0;
     do {
       handle = disk.Open(name, Disk::Mode::CreateNew);

@@ -31,7 +31,11 @@ struct DraftHead {
 constexpr std::size_t BodyLength = sizeof(DraftHead) + 2 * RecordLength;
 constexpr std::size_t DraftLength = BodyLength + sizeof(std::uint64_t);
 
-std::string DraftName(int number) { return std::string(FirstName) + (number == 1 ? "" : std::to_string(number)); }
+std::string DraftName(int number) {
+  std::string name(FirstName);
+  if (number > 1) name += std::to_string(number);
+  return name;
+}
 
 std::string Bytes(const Draft& draft) {
   DraftHead head{};
