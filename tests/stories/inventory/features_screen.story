@@ -4,6 +4,8 @@ file Fo1 "PERHAPS\r\n"
 start opener
 click cmdStart
 see frmInfo "Reelora Prima ver 4.0  Features Screen"
+see Image1.Visible yes
+see Image2.Visible yes
 see frmInfo.BackColor 4857360
 see lblInfo "What Reelora Prima does for you"
 see lblInfo.ForeColor 5104127

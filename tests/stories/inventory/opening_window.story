@@ -1,6 +1,7 @@
 # The opening window: its texts, its colours and what the Tab key reaches.
 start opener
 see frmOpener "Reelora Prima version 4.0"
+see Image1.Visible yes
 see frmOpener.BackColor 4857360
 see cmdStart "&Start"
 see cmdStart.ForeColor 0

@@ -3,6 +3,8 @@ file Fo1 "YES\r\n"
 start opener
 click cmdStart
 see frmQuickStart "Reelora Ver 4.0 Quick Start"
+see Image1.Visible yes
+see Image2.Visible yes
 see frmQuickStart.BackColor 4857360
 see lblQuick1 "Quick Start "
 see lblQuick1.ForeColor 5104127
