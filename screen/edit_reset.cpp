@@ -20,7 +20,6 @@ void SettleOpenWork(frmPage1& window) {
   window.ViewKind = "";
   window.KeyFilePos = 0;
   window.NavDirection = screen::Forward;
-  window.NavFlag2 = 0;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The fields of both pages on entry: when a field refuses, its message title, when it is left-aligned.
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "screen/controls.h"
@@ -63,10 +64,7 @@ inline constexpr std::string_view AutoSaveOffNote =
     "and sort this record.";
 
 constexpr const EntryField& EntryOf(forms::TextBox PageControls::*box) {
-  for (const EntryField& field : EntryFields) {
-    if (field.Box == box) return field;
-  }
-  return EntryFields[0];
+  return *std::ranges::find(EntryFields, box, &EntryField::Box);
 }
 
 }  // namespace screen
