@@ -25,7 +25,10 @@ void frmPage1::txtFormat_Change() {
   StoreFormatLetter();
   if (EditMode == 1) {
     std::string chosen = List3.Selected();
-    if (store::CodeOf(store::Formats, chosen)) txtFormat.SetText(chosen);
+    if (auto letter = store::CodeOf(store::Formats, chosen)) {
+      txtFormat.SetText(chosen);
+      if (NewMode == 1) CurrentFilm.Set(FilmField::Format, *letter);
+    }
   }
   if (EditMode == 0) {
     if (auto word = store::WordOf(store::Formats, CurrentFilm.Get(FilmField::Format))) txtFormat.SetText(*word);

@@ -20,6 +20,7 @@ void SettleOpenWork(frmPage1& window) {
   window.ViewKind = "";
   window.KeyFilePos = 0;
   window.NavDirection = screen::Forward;
+  window.NavFlag2 = 0;
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ FIELD_CLICK_HANDLERS(REFUSE_CLICK)
 #undef REFUSE_CLICK
 
 void frmPage1::txtTitle_Click() {
-  if (EditMode == 0) Refuse(screen::EntryOf(&frmPage1::txtTitle).Title);
+  if (EditMode == 0) Refuse("Title");
 }
 
 // Selects the topic of Back, not the field's own.

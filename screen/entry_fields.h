@@ -1,7 +1,6 @@
 // The fields of both pages on entry: when a field refuses, its message title, when it is left-aligned.
 #pragma once
 
-#include <algorithm>
 #include <string_view>
 
 #include "screen/controls.h"
@@ -64,7 +63,10 @@ inline constexpr std::string_view AutoSaveOffNote =
     "and sort this record.";
 
 constexpr const EntryField& EntryOf(forms::TextBox PageControls::*box) {
-  return *std::ranges::find(EntryFields, box, &EntryField::Box);
+  for (const EntryField& field : EntryFields) {
+    if (field.Box == box) return field;
+  }
+  return EntryFields[0];
 }
 
 }  // namespace screen

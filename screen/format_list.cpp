@@ -96,6 +96,7 @@ void frmPage1::List1_Click() {
   std::string item = List1.Selected();
   if (EditMode == 1) {
     txtGenre.SetText(item.substr(0, item.find(" = ")));
+    if (item == "SF = Science Fiction") txtGenreList.SetText("Science Fiction");
   }
   List1.Show();
   txtLetter.Hide();

@@ -39,6 +39,7 @@ void frmPage1::cmdNew_Click() {
   List4.Empty();  // an aspect left in it would come back into the blanked box
   lblSave.Hide();
   FileNoAnswer.clear();
+  txtRating.SetText("");
   cmdPrevious.Disable();
   cmdNext.Disable();
   EditMode = 1;

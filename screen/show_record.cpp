@@ -62,6 +62,7 @@ void ShowFormatLetter(frmPage1& window) {
   }
   if (window.txtFormat.Text() == store::LaserWord) window.txtCassNo.Disable();
   if (letter == store::FormatVHS) window.txtFormat.SetText(store::VHSWord);
+  if (letter == store::FormatDVD) window.txtCassNo.SetText("");
 }
 
 // Trims the field's text, and left-justifies it in the record.
@@ -83,6 +84,7 @@ void frmPage1::ShowRecord() {
   lblNumrec.SetCaption("");
   lblRetcode.SetCaption("");
   RecordCount -= CountRollback;
+  if (EditMode == 0) txtGenreList.Enable();
   ShowHeading(*this);
   txtCLV1.SetText("");
   for (FilmField field : Page1Fields) ShowTrimmed(*this, field);
@@ -91,6 +93,7 @@ void frmPage1::ShowRecord() {
   ShowTrimmed(*this, FilmField::Label);
   txtFormat.SetText(runtime::Upper(TrimField(CurrentFilm, FilmField::Format)));
   txtNumReel.SetText(CurrentFilm.Get(FilmField::NumReel));
+  if (EditMode == 0) txtGenreList.Enable();
   txtGenre.SetText(runtime::Upper(TrimField(CurrentFilm, FilmField::Genre)));
   ShowTrimmed(*this, FilmField::Time);
   ShowTrimmed(*this, FilmField::Year);
@@ -98,6 +101,7 @@ void frmPage1::ShowRecord() {
   ShowTrimmed(*this, FilmField::CLV1);
   ShowTrimmed(*this, FilmField::Color1);
   txtCassNo.Enable();
+  if (EditMode != 1 || CurrentFilm.Get(FilmField::Letter) == store::AspectWide) ShowAspect();
   txtCLV1.SetText(CurrentFilm.Get(FilmField::CLV1));
   txtColor1.SetText(CurrentFilm.Get(FilmField::Color1));
   for (FilmField field : Page2Fields) ShowTrimmed(*this, field);

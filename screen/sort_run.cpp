@@ -62,7 +62,8 @@ std::string StatementOf(const SortPass& pass) {
 }
 
 // A pass that fails shows its status and leaves Numrec and the old key file; it writes its count file all the same.
-void MakePass(frmPage1& window, const SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec) {
+void MakePass(frmPage1& window, const SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec,
+              std::int32_t& Retcode) {
   window.OpenKeyFile(pass.Keys.Name);
   window.lblSorting.Show();
   window.lblSorting.SetCaption("\n\r" + std::string(pass.Label));
@@ -70,7 +71,7 @@ void MakePass(frmPage1& window, const SortPass& pass, sort::Sorter& sorter, std:
   window.SortIncludeValue = pass.IncludeValue;
   window.SortStatement = StatementOf(pass);
   const sort::Result result = sorter.Sort(store::MasterFileName, pass.Keys.Name, window.SortStatement);
-  const auto Retcode = static_cast<std::int32_t>(result.Status);
+  Retcode = static_cast<std::int32_t>(result.Status);
   if (result.Status == sort::Status::Done) {
     Numrec = result.Records;
     window.Files.Replaced(pass.Keys.Name);
@@ -111,12 +112,13 @@ void frmPage1::BeginSort() {
 
 void frmPage1::MakePasses() {
   std::int32_t Numrec = 0;
+  std::int32_t Retcode = 0;
   sort::Sorter sorter(Files.Disk());
   double before = 0;  // passes done
   Files.ReplaceTogether([&] {
     for (const SortPass& pass : Passes) {
       sorter.Progress = [&](double read) { Desk.Progress(pass.Label, (before + read) / std::size(Passes)); };
-      MakePass(*this, pass, sorter, Numrec);
+      MakePass(*this, pass, sorter, Numrec, Retcode);
       before += 1;
     }
   });

@@ -3,6 +3,7 @@
 
 #include "screen/auto_texts.h"
 #include "screen/frmPage1.h"
+#include "screen/record_boxes.h"
 #include "store/key_file.h"
 #include "store/master_file.h"
 
@@ -19,6 +20,7 @@ void OpenCollection(frmPage1& window) {
   window.ReadRecord(window.CurrentRecNo);
   window.RecordCount = store::CountRecords(window.Files);
   window.ShowRecord();
+  if (window.CurrentRecNo > 1) window.txtTitle.Show();
 }
 
 // Any setting but "YES" and "NO" leaves the box as it is.
@@ -68,9 +70,21 @@ void frmPage1::frmPage1_Load() {
   optnoteson.Enable();
   optNotesoff.Enable();
   HideListsAndGrid(*this);
-  optNotesoff.Select();
+  SetPageVisible(screen::PageOne, true);
+  SetPageVisible(screen::PageTwo, false);
+  if (NewMode == 0) {
+    optNotesoff.Enable();
+    optNotesoff.Select();
+  }
   OpenCollection(*this);
+  if (NewMode == 1) {
+    lblSorting.SetCaption(
+        " Add notes last.  Click \"NOTES ON\" or Alt \"T\", and click \"EDIT\" button, or Alt \"E\".  Click \"SAVE\", "
+        "or Alt \"S\", "
+        "click \"Notes Off\", or ALT \"T\".");
+  }
   Show();
+  if (EditMode == 0) txtGenreList.Enable();
   cmdSave.SetFocus();
   txtCassNo.Enable();
   std::string quick_start = ReadOneItem(CountFileNo, "Fo1");
