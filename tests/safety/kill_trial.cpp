@@ -142,7 +142,8 @@ int KillOnce(const fs::path& folder, const RepeatedAction& action, int slot, con
 
 // What is wrong with the first file that is in none of these states.
 std::string MixtureIn(const fs::path& folder, const std::vector<kit::Folder>& allowed) {
-  for (const auto& [name, ignored] : allowed.front()) {
+  for (const auto& file : allowed.front()) {
+    const std::string& name = file.first;
     const std::string found = ReadFile(folder / name);
     if (std::none_of(allowed.begin(), allowed.end(), [&](const kit::Folder& files) { return files.at(name) == found; }))
       return name + " is a mixture, or a save is missing";
