@@ -12,7 +12,7 @@ set(below_screen    store sort forms)
 set(below_opening   screen)
 set(below_filecopy  screen)
 set(below_app       opening filecopy help)
-set(below_companion store)
+set(below_companion store sort)
 
 # floor_folders(FLOOR RESULT): the folders of a floor.
 function(floor_folders floor result)

@@ -32,10 +32,10 @@ inline constexpr std::string_view SavedSafe   = "Every film that was saved is sa
 inline constexpr std::string_view StepNotDone = "Every film that was saved is safe. The last step was not finished.";
 
 inline constexpr std::string_view ReplaceSetting =
-    "Open the collection from the applications menu, or with the command reelora-collection and its folder: that puts files that are "
+    "Open the collection from the applications menu, or with the command reelora and its folder: that puts files that are "
     "missing or empty back as they were delivered. Or take the file from a copy of your collection.";
 inline constexpr std::string_view RemoveSetting =
-    "Move the file out of the folder. Then open the collection from the applications menu, or with the command reelora-collection and "
+    "Move the file out of the folder. Then open the collection from the applications menu, or with the command reelora and "
     "its folder: that puts the file back as it was delivered.";
 inline constexpr std::string_view NotAllowed = "You have no permission to open or write this file.";
 inline constexpr std::string_view GivePermission =

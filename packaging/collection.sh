@@ -1,4 +1,4 @@
-# Sourced by ./run and reelora-collection: how a collection gets its delivered files. Plain sh.
+# Sourced by ./run and reelora: how a collection gets its delivered files. Plain sh.
 
 # put_file SOURCE TARGET: copies SOURCE if TARGET is missing or empty; a file with content stays. The copy takes its
 # name when it is complete. On failure the reason is printed and the status is not 0.

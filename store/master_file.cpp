@@ -25,4 +25,15 @@ std::int32_t CountRecords(runtime::Files& files) {
   return std::max(runtime::RoundToInt32(quotient), 1);
 }
 
+// The last record may be cut off.
+std::int64_t FirstFreeSlot(runtime::Files& files, int number, std::int64_t from) {
+  const std::int64_t slots = (files.Length(number) + RecordLength - 1) / RecordLength;
+  for (std::int64_t slot = from; slot <= slots; ++slot) {
+    FilmRecord film;
+    ReadRecord(files, number, slot, film);
+    if (film.Get(FilmField::Title).find_first_not_of(' ') == std::string_view::npos) return slot;
+  }
+  return std::max(from, slots + 1);
+}
+
 }  // namespace store

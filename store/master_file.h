@@ -18,5 +18,7 @@ void ReadRecord(runtime::Files& files, int number, std::int64_t record, FilmReco
 void WriteRecord(runtime::Files& files, int number, std::int64_t record, const FilmRecord& source);
 // The length of the file in records, rounded, at least 1.
 std::int32_t CountRecords(runtime::Files& files);
+// The first slot whose title is blank, from that one on; the one after the last if there is none.
+std::int64_t FirstFreeSlot(runtime::Files& files, int number, std::int64_t from);
 
 }  // namespace store

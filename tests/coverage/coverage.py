@@ -36,7 +36,7 @@ PLAYS = [
     ("stories on bare forms", ["reelora_story", ROOT + "/tests/stories"]),
     ("stories on widgets", ["reelora_story", "--desktop", ROOT + "/tests/stories"]),
     ("widget tests", ["reelora_desktop_tests"]),
-    ("history command", ["reelora-history", ROOT + "/delivered/sample"]),
+    ("companion", ["reelora-collection", "-C", ROOT + "/delivered/sample", "history"]),
 ]
 
 

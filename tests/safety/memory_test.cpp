@@ -9,7 +9,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "companion/history_command.h"
+#include "companion/command.h"
 #include "store/key_file.h"
 #include "store/master_file.h"
 #include "tests/kit/films.h"
@@ -90,10 +90,12 @@ TEST_F(MeasuredPart, DISABLED_OfAHugeMasterFile) {
 // The companion lists it, or says that it does not.
 TEST_F(MeasuredPart, DISABLED_OfAHugeHistory) {
   std::ostringstream out, errors;
-  EXPECT_EQ(companion::RunHistoryCommand({Folder}, out, errors), 1);
+  std::istringstream none;
+  companion::Output output{out, errors, none};
+  EXPECT_EQ(companion::RunCommand({"-C", Folder, "history"}, output), 1);
   EXPECT_TRUE(errors.str().starts_with("The history is damaged")) << errors.str();
   errors.str("");
-  EXPECT_EQ(companion::RunHistoryCommand({Folder, "undo", "1000000000"}, out, errors), 1);
+  EXPECT_EQ(companion::RunCommand({"-C", Folder, "restore", "1000000000"}, output), 1);
   EXPECT_EQ(errors.str(), "There is no entry 1000000000.\n");
   runtime::RealDisk real(Folder);
   StartedProgram started(real);

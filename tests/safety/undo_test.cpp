@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "companion/history_command.h"
+#include "companion/command.h"
 #include "store/master_file.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
@@ -27,8 +27,10 @@ class UndoOnABadDisk : public testing::Test {
   int Undo(runtime::Disk& disk) {
     Complaints.str("");
     std::ostringstream out;
-    return companion::RunHistoryCommand({Locked.Path().string(), "undo", "1"}, out, Complaints,
-                                        [&](const std::string&) { return std::make_unique<kit::PassingDisk>(disk); });
+    std::istringstream none;
+    companion::Output output{out, Complaints, none};
+    return companion::RunCommand({"-C", Locked.Path().string(), "restore", "1", "--write"}, output,
+                                 [&](const std::string&) { return std::make_unique<kit::PassingDisk>(disk); });
   }
   std::size_t Calls() {
     kit::MemoryDisk memory(Before);

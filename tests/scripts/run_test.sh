@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Plays ./run and reelora-collection with a program that only reports where it was started: which folder opens, and
+# Plays ./run and reelora with a program that only reports where it was started: which folder opens, and
 # what is put into it.
 set -uo pipefail
 source_folder=$(cd -- "$(dirname -- "$0")/../.." && pwd)
@@ -98,10 +98,10 @@ check "and starts no program either" not_opened
 installed=$work/usr
 mkdir -p -- "$installed/bin" "$installed/share/reelora-prima"
 cp -r -- "$source_folder/delivered" "$source_folder/packaging/collection.sh" "$installed/share/reelora-prima/"
-cp -- "$source_folder/packaging/reelora-collection" "$installed/bin/"
+cp -- "$source_folder/packaging/reelora-collection" "$installed/bin/reelora"
 cp -- "$tree/build/reelora-prima" "$installed/bin/"
 rm -f -- "$work/opened"
-(cd -- "$work/home" && "$installed/bin/reelora-collection" "-installed one" >"$work/output" 2>&1)
+(cd -- "$work/home" && "$installed/bin/reelora" "-installed one" >"$work/output" 2>&1)
 check "the installed script opens a relative folder" opened_in "$work/home/-installed one"
 check "and completes it" is_complete "$work/home/-installed one"
 

@@ -1,5 +1,6 @@
-// The companion command lists the history and restores films, on a real folder.
-#include "companion/history_command.h"
+// The companion lists the history and restores films of odd and damaged collections, on a real folder. The stories have
+// the rest.
+#include "companion/command.h"
 
 #include <gtest/gtest.h>
 
@@ -22,9 +23,9 @@ store::FilmRecord Film(std::string_view title) {
   return film;
 }
 
-class HistoryCommand : public testing::Test {
+class HistoryVerbs : public testing::Test {
  protected:
-  HistoryCommand() {
+  HistoryVerbs() {
     Put(1, Film("Alien"));
     Put(2, Film("Solaris"));
   }
@@ -36,18 +37,17 @@ class HistoryCommand : public testing::Test {
   }
   std::string Master() { return story::ReadBytes(Folder.Path() / "Recpra.Dat").value_or(""); }
   std::string HistoryPath() { return Folder.Path() / ".reelora/history"; }
-  int Run(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), Folder.Path().string());
-    return RunBare(arguments);
-  }
-  int RunBare(const std::vector<std::string>& arguments) {
+  int Run(std::vector<std::string> arguments) { return RunIn(Folder.Path(), std::move(arguments)); }
+  int RunIn(const std::string& folder, std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"-C", folder});
     Out.str("");
     Complaints.str("");
-    return RunHistoryCommand(arguments, Out, Complaints);
+    Output output{Out, Complaints, None};
+    return RunCommand(arguments, output);
   }
   // The lines below the heading, without their times.
   std::vector<std::string> Listed() {
-    EXPECT_EQ(Run({}), 0);
+    EXPECT_EQ(Run({"history"}), 0);
     std::vector<std::string> lines;
     std::istringstream text(Out.str());
     std::string line;
@@ -59,47 +59,19 @@ class HistoryCommand : public testing::Test {
   kit::FreshFolder Folder;
   runtime::RealDisk Disk{Folder.Path().string()};
   std::ostringstream Out, Complaints;
+  std::istringstream None;
 };
 
 using Lines = std::vector<std::string>;
 
-TEST_F(HistoryCommand, ListsWhatWasOverwrittenAndWhatStandsThereNow) {
-  EXPECT_EQ(Run({}), 0);
-  EXPECT_EQ(Out.str(), "No film has been overwritten.\n");
-  Put(2, Film("Brazil"));
-  Put(1, Film(""));
-  Put(1, Film("Am\xE9lie"));
-  Put(2, Film("Solaris"));
-  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - this film", "     2         1  Alien - Amélie",
-                             "     3         2  Brazil - Solaris"}));
-}
-
-TEST_F(HistoryCommand, PutsAFilmBackIntoItsSlotAndNothingElse) {
+TEST_F(HistoryVerbs, PutsAFilmBackIntoItsSlotAndNothingElse) {
   std::string before = Master();
   Put(2, Film("Brazil"));
-  EXPECT_EQ(Run({"undo", "1"}), 0);
-  EXPECT_EQ(Out.str(), "Record 2 holds Solaris again. Sort in the program, so that views and lists show it.\n");
+  EXPECT_EQ(Run({"restore", "1", "--write"}), 0);
   EXPECT_EQ(Master(), before);
 }
 
-TEST_F(HistoryCommand, CanUndoItsOwnDoing) {
-  Put(2, Film("Brazil"));
-  std::string before = Master();
-  ASSERT_EQ(Run({"undo", "1"}), 0);
-  EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - this film", "     2         2  Brazil - Solaris"}));
-  EXPECT_EQ(Run({"undo", "2"}), 0);
-  EXPECT_EQ(Master(), before);
-}
-
-TEST_F(HistoryCommand, PutsADeletedFilmBack) {
-  std::string before = Master();
-  Put(1, Film(""));
-  EXPECT_EQ(Listed(), Lines{"     1         1  Alien - nothing"});
-  EXPECT_EQ(Run({"undo", "1"}), 0);
-  EXPECT_EQ(Master(), before);
-}
-
-TEST_F(HistoryCommand, SendsNoControlCharacterToTheTerminal) {
+TEST_F(HistoryVerbs, SendsNoControlCharacterToTheTerminal) {
   Put(2, Film("\x1B]0;owned\x07"));
   Put(2, Film("\x9D"
               "1\x90\x7F\x80"));
@@ -109,32 +81,32 @@ TEST_F(HistoryCommand, SendsNoControlCharacterToTheTerminal) {
   std::fstream history(HistoryPath(), std::ios::in | std::ios::out | std::ios::binary);
   history << "\x1B[31m";
   history.close();
-  EXPECT_EQ(Run({}), 0);
+  EXPECT_EQ(Run({"history"}), 0);
   EXPECT_EQ(Out.str().find('\x1B'), std::string::npos);
 }
 
-TEST_F(HistoryCommand, DoesNothingWhileTheProgramRunsOnTheFolder) {
+TEST_F(HistoryVerbs, DoesNothingWhileTheProgramRunsOnTheFolder) {
   Put(2, Film("Brazil"));
   std::string before = Master();
   runtime::FolderLock lock(Folder.Path().string());
-  EXPECT_EQ(Run({"undo", "1"}), 1);
+  EXPECT_EQ(Run({"restore", "1", "--write"}), 1);
   EXPECT_EQ(Complaints.str(), "This collection is already open.\n");
   EXPECT_EQ(Master(), before);
-  EXPECT_EQ(Run({}), 0);
+  EXPECT_EQ(Run({"history"}), 0);
 }
 
-TEST_F(HistoryCommand, NamesAnEntryAFolderAndASlotThatAreNotThere) {
+TEST_F(HistoryVerbs, NamesAFolderAndASlotThatAreNotThere) {
   Put(2, Film("Brazil"));
-  EXPECT_EQ(Run({"undo", "2"}), 1);
-  EXPECT_EQ(Complaints.str(), "There is no entry 2.\n");
-  EXPECT_EQ(RunBare({"/nowhere", "undo", "1"}), 1);
+  EXPECT_EQ(RunIn("/nowhere", {"restore", "1"}), 1);
   EXPECT_EQ(Complaints.str(), "File not found: /nowhere/Recpra.Dat\n");
   std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", store::RecordLength);
-  EXPECT_EQ(Run({"undo", "1"}), 1);
+  EXPECT_EQ(Run({"restore", "1", "--write"}), 1);
+  EXPECT_EQ(Complaints.str(), "Bad record number: " + Folder.Path().string() + "/Recpra.Dat\n");
+  EXPECT_EQ(Run({"restore", "1"}), 1);
   EXPECT_EQ(Complaints.str(), "Bad record number: " + Folder.Path().string() + "/Recpra.Dat\n");
 }
 
-TEST_F(HistoryCommand, PassesOverAnEntryThatWasNeverFinished) {
+TEST_F(HistoryVerbs, PassesOverAnEntryThatWasNeverFinished) {
   Put(2, Film("Brazil"));
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << std::string(677, '\0');
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary)
@@ -144,21 +116,13 @@ TEST_F(HistoryCommand, PassesOverAnEntryThatWasNeverFinished) {
   EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     4         2  Brazil - Ran"}));
 }
 
-TEST_F(HistoryCommand, ListsNoHistoryThatNobodyCanHaveMade) {
+TEST_F(HistoryVerbs, ListsNoHistoryThatNobodyCanHaveMade) {
   Put(2, Film("Brazil"));
-  std::filesystem::resize_file(HistoryPath(), (LongestHistory + 1) * 677);
-  EXPECT_EQ(Run({}), 1);
+  std::filesystem::resize_file(HistoryPath(), 1'000'001 * std::uintmax_t{677});
+  EXPECT_EQ(Run({"history"}), 1);
   EXPECT_EQ(Complaints.str(), "The history is damaged: it has 1000001 entries.\n");
   EXPECT_EQ(Out.str(), "");
-  EXPECT_EQ(Run({"undo", "1"}), 0);
-}
-
-TEST_F(HistoryCommand, RefusesArgumentsThatItDoesNotKnow) {
-  for (const std::vector<std::string>& arguments :
-       {std::vector<std::string>{"undo", "one"}, {"undo", "1x"}, {"a", "b"}, {"--help"}, {"a", "b", "undo", "1"}}) {
-    EXPECT_EQ(RunBare(arguments), 2);
-    EXPECT_TRUE(Complaints.str().starts_with("usage: reelora-history"));
-  }
+  EXPECT_EQ(Run({"restore", "1", "--write"}), 0);
 }
 
 }  // namespace

@@ -1,0 +1,14 @@
+// The command `reelora-collection`: finds the verb, reads the options, prints help, and runs the verb.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "companion/verb.h"
+
+namespace companion {
+
+// Arguments: without the program name. Returns the exit status; a Failure of the verb is told and is Found.
+int RunCommand(const std::vector<std::string>& arguments, Output& output, const DiskIn& make_disk = RealDiskIn);
+
+}  // namespace companion

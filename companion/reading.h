@@ -1,0 +1,50 @@
+// The films of a collection, read only: nothing is locked, recovered or made.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "companion/verb.h"
+#include "runtime/whole_io.h"
+#include "store/film_record.h"
+
+namespace companion {
+
+struct NumberedFilm {
+  std::int64_t Number = 0;  // of its record, from 1
+  store::FilmRecord Film;
+};
+
+bool HasTitle(const store::FilmRecord& film);
+
+class Reading {
+ public:
+  // Of the invocation's collection. "File not found" if it has no master file.
+  explicit Reading(const Invocation& invocation) : Reading(invocation.MakeDisk(invocation.Folder)) {}
+  explicit Reading(std::unique_ptr<runtime::Disk> disk);
+
+  runtime::Disk& Disk() const { return *disk_; }
+  std::int64_t Length() const { return master_.Length(); }
+  runtime::FileTime Modified() const { return master_.Modified(); }
+  // Records; the last may be cut off.
+  std::int64_t Slots() const;
+  // Blanks past the end.
+  store::FilmRecord At(std::int64_t slot) const;
+  // Visits every record in order, free ones too. Beyond MaxSlots none is visited and false is returned: a sort refuses
+  // them as well, and such a file is damaged.
+  bool EachSlot(const std::function<void(const NumberedFilm&)>& visit) const;
+
+  static constexpr std::int64_t MaxSlots = 9'999'999;
+
+ private:
+  std::unique_ptr<runtime::Disk> disk_;
+  runtime::OpenFile master_;
+};
+
+// Says that the master file has too many records; returns Found.
+int RefuseLength(const Reading& reading, Output& output);
+
+}  // namespace companion

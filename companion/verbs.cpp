@@ -1,0 +1,44 @@
+// The table.
+#include "companion/verbs.h"
+
+namespace companion {
+namespace {
+
+// clang-format off
+constexpr std::string_view TestDetails =
+    "A TEST is a field, a sign and a value: director~hawks, year>=1940, format=V, star=\"grant, cary\". Signs: = != is\n"
+    "and is not, ~ !~ contains and does not, < <= > >= by value. Case is ignored. A code also answers to its word:\n"
+    "genre=western. A word alone is looked for in every field. A film is taken if all tests hold.\n"
+    "Fields: number title director star star1 to star6 label format numreel genre time year cassno letter clv1 color1\n"
+    "producer cinematographer written music choreography setdirection costume sound awards rating package purchase\n"
+    "cost ratings. \"all\" as COLUMNS is each of them. Columns are cut to the width of a terminal; elsewhere they are\n"
+    "separated by tabs, and a control character is written as \\t, \\n, \\r or \\xHH.\n";
+
+constexpr Option ListOptions[] = {
+  { "sort",    's', "FIELDS",  "in this order; with - in front of a field, the other way round" },
+  { "columns", 'c', "COLUMNS", "fields with commas between; number,title,year,format,genre,time,director by default" },
+};
+
+constexpr Option RestoreOptions[] = {
+  { "free", 'f', nullptr, "into the first free record, not into its own" },
+};
+
+constexpr Verb Table[] = {
+  { "list", "[TEST]...", "list films, chosen by tests of their fields", TestDetails,
+    ListOptions, 0, AnyNumber, false, List },
+  { "search", "TEST...", "the same, with status 1 if there are none", TestDetails,
+    ListOptions, 1, AnyNumber, false, Search },
+  { "history", "[NUMBER]", "list the films that were overwritten or deleted",
+    "With a number, shows that film field by field beside what its record holds now.\n",
+    {}, 0, 1, false, History },
+  { "restore", "NUMBER", "put a film of the history back",
+    "The film goes into the record that it was in. What that holds goes to the history in its turn.\n",
+    RestoreOptions, 1, 1, true, Restore },
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const Verb> Verbs() { return Table; }
+
+}  // namespace companion

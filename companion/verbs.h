@@ -1,0 +1,17 @@
+// The verbs, in the order of the help. A new one gets a row here, a section of the man page and stories.
+#pragma once
+
+#include <span>
+
+#include "companion/verb.h"
+
+namespace companion {
+
+std::span<const Verb> Verbs();
+
+int List(const Invocation& invocation, Output& output);
+int Search(const Invocation& invocation, Output& output);
+int History(const Invocation& invocation, Output& output);
+int Restore(const Invocation& invocation, Output& output);
+
+}  // namespace companion

@@ -1,0 +1,18 @@
+// How every verb writes: only where it was asked for, and only while no other program has the collection open.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "companion/verb.h"
+
+namespace companion {
+
+inline constexpr std::string_view NothingWritten = "Nothing was written; --write does it.\n";
+inline constexpr std::string_view SortAfterwards = "Sort afterwards, so that views and lists show it.\n";
+
+// Locks the collection, runs the call on its disk and returns what it returns. Another program's lock is told and is
+// Found.
+int WriteLocked(const Invocation& invocation, Output& output, const std::function<int(runtime::Disk&)>& call);
+
+}  // namespace companion
