@@ -51,8 +51,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(reelora_test_options INTERFACE -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
-# Precompiled for the tests. A compiler cache is faster than precompiled headers, and together they do not work.
-set(common_headers <algorithm> <array> <functional> <map> <optional> <sstream> <string> <string_view> <vector>)
+# Precompiled. A compiler cache is faster than precompiled headers, and together they do not work.
+set(common_headers <algorithm> <array> <functional> <map> <optional> <sstream> <string> <string_view> <vector>
+  ${PROJECT_SOURCE_DIR}/screen/frmPage1.h)
 if(CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()
