@@ -1,6 +1,6 @@
 # The floors of the house, lowest first, and the floors that each one may use. tests/floors.cmake reads this table too.
 
-set(floors runtime forms store sort screen opening filecopy help app companion)
+set(floors runtime forms store sort exchange screen opening filecopy help app companion)
 
 # A floor is one folder of its own name, but for this one.
 set(folders_screen screen browse find reports prefs)
@@ -8,11 +8,12 @@ set(folders_screen screen browse find reports prefs)
 # What a floor may use: these floors, and what they may use themselves.
 set(below_store     runtime)
 set(below_sort      runtime)
+set(below_exchange  store)
 set(below_screen    store sort forms)
 set(below_opening   screen)
 set(below_filecopy  screen)
 set(below_app       opening filecopy help)
-set(below_companion store sort)
+set(below_companion exchange sort)
 
 # floor_folders(FLOOR RESULT): the folders of a floor.
 function(floor_folders floor result)

@@ -1,0 +1,12 @@
+// The parts of the HTML page, as the build takes them from the files in page/.
+#pragma once
+
+#include <string_view>
+
+namespace exchange {
+
+extern const std::string_view PageFrame;  // with marks like {{films}} where the rest goes
+extern const std::string_view PageStyle;
+extern const std::string_view PageScript;
+
+}  // namespace exchange
