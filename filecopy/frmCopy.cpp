@@ -89,11 +89,11 @@ void frmCopy::Drive1_Change() {
   if (SkipChange == 1) return;
   File1.SetPath(Dir1.Path());
   SourceName = File1.Selected();
-  filecopy::FileFacts source = filecopy::FactsOf(HardDisk(), File1.OnDisk(SourceName));
+  runtime::FileFacts source = runtime::FactsOf(HardDisk(), File1.OnDisk(SourceName));
   ReadDrive();
   bool done = false;
   try {
-    std::optional<filecopy::FileFacts> target = TargetFacts();
+    std::optional<runtime::FileFacts> target = TargetFacts();
     done = target ? AskToReplace(source, *target) : AskToCopy(source);
   } catch (const runtime::Failure&) {
     ReportNoDisk();
@@ -120,10 +120,10 @@ std::unique_ptr<runtime::Disk> frmCopy::DriveDisk() {
 
 // Nothing if the target does not exist. For any drive but A and B the target is the file of that name in the program's
 // folder.
-std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
+std::optional<runtime::FileFacts> frmCopy::TargetFacts() {
   std::string name = runtime::ToUtf8(SourceName);
   try {
-    return OnFloppy() ? filecopy::FactsOf(*DriveDisk(), name) : filecopy::FactsOf(HardDisk(), name);
+    return OnFloppy() ? runtime::FactsOf(*DriveDisk(), name) : runtime::FactsOf(HardDisk(), name);
   } catch (const runtime::Failure& failure) {
     if (failure.Name != runtime::FileNotFound) throw;
     return std::nullopt;
@@ -133,9 +133,9 @@ std::optional<filecopy::FileFacts> frmCopy::TargetFacts() {
 void frmCopy::CopyToDrive(std::int64_t bytes) {
   lblCopy7.Hide();
   if (DriveWord == OwnDrive) return;
-  filecopy::Copied copied =
-      filecopy::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
-  if (copied == filecopy::Copied::Unconfirmed)
+  runtime::Copied copied =
+      runtime::CopyFile(HardDisk(), File1.OnDisk(SourceName), *DriveDisk(), runtime::ToUtf8(SourceName));
+  if (copied == runtime::Copied::Unconfirmed)
     RecordScreen.Desk.MessageBox(forms::Icon::Warning, BoxTitle, UnconfirmedText);
   RecordScreen.Desk.Copied(SourceName, DriveLetter(), bytes);
 }

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "filecopy/copy_file.h"
 #include "filecopy/pickers.h"
+#include "runtime/copy_file.h"
 #include "screen/frmPage1.h"
 
 namespace filecopy {
@@ -72,9 +72,9 @@ struct frmCopy : forms::Window {
   char DriveLetter() const;
   runtime::Disk& HardDisk() const { return RecordScreen.Files.Disk(); }
   std::unique_ptr<runtime::Disk> DriveDisk();
-  std::optional<filecopy::FileFacts> TargetFacts();
-  bool AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target);
-  bool AskToCopy(const filecopy::FileFacts& source);
+  std::optional<runtime::FileFacts> TargetFacts();
+  bool AskToReplace(const runtime::FileFacts& source, const runtime::FileFacts& target);
+  bool AskToCopy(const runtime::FileFacts& source);
   // Bytes: the size of the source.
   void CopyToDrive(std::int64_t bytes);
   void ReportNoDisk();

@@ -6,7 +6,7 @@ namespace {
 
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
-std::string Sentence(const std::string& name, const filecopy::FileFacts& facts) {
+std::string Sentence(const std::string& name, const runtime::FileFacts& facts) {
   return runtime::Upper(name) + " was created or last modified on " + runtime::LongDateText(facts.Modified) + " at " +
          runtime::ShortTimeText(facts.Modified) + ". Its size is " + std::to_string(facts.Size) + " bytes. ";
 }
@@ -14,7 +14,7 @@ std::string Sentence(const std::string& name, const filecopy::FileFacts& facts) 
 }  // namespace
 
 // Whether to close the window: yes, whatever the answer.
-bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::FileFacts& target) {
+bool frmCopy::AskToReplace(const runtime::FileFacts& source, const runtime::FileFacts& target) {
   std::string question = std::string(15, ' ') + "REPLACE CURRENT FILE ON DRIVE " + Quoted(LetterWord) + "\r\n\r\n";
   question += Sentence(TargetPath, target) + " To replace this file with the one below, click " + Quoted("Yes") +
               " or quit click " + Quoted("No") + ".\r\n\r\n";
@@ -28,7 +28,7 @@ bool frmCopy::AskToReplace(const filecopy::FileFacts& source, const filecopy::Fi
 }
 
 // Whether to close the window: only after Yes.
-bool frmCopy::AskToCopy(const filecopy::FileFacts& source) {
+bool frmCopy::AskToCopy(const runtime::FileFacts& source) {
   bool yes = RecordScreen.Ask("Do you want to copy " + SourceName + " to Drive " + LetterWord + " hit Yes, or No ") ==
              forms::Answer::Yes;
   if (yes) {

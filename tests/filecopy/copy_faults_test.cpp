@@ -4,7 +4,7 @@
 #include <cerrno>
 
 #include "app/program.h"
-#include "filecopy/copy_file.h"
+#include "runtime/copy_file.h"
 #include "tests/kit/answering_desk.h"
 #include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
@@ -38,7 +38,7 @@ TEST(EndOfACopy, RepeatsInterruptedCalls) {
   MemoryDisk source(Folder{{Name, "new"}}), memory(Folder{{Name, "old"}});
   EndFails target(memory, -EINTR);
   target.RenameFailures = target.SyncFailures = 2;
-  EXPECT_EQ(filecopy::CopyFile(source, Name, target, Name), filecopy::Copied::Confirmed);
+  EXPECT_EQ(runtime::CopyFile(source, Name, target, Name), runtime::Copied::Confirmed);
   EXPECT_EQ(memory.Content(), (Folder{{Name, "new"}}));
 }
 
@@ -52,7 +52,7 @@ TEST(EndOfACopy, LeavesNoTemporaryFileWhenItsRemovalIsInterrupted) {
   EndFails below(memory, -EINTR);
   below.RemoveFailures = 2;
   Refusing target(below);
-  EXPECT_THROW(filecopy::CopyFile(source, Name, target, Name), runtime::Failure);
+  EXPECT_THROW(runtime::CopyFile(source, Name, target, Name), runtime::Failure);
   EXPECT_EQ(memory.Content(), (Folder{{Name, "old"}}));
 }
 
@@ -60,7 +60,7 @@ TEST(EndOfACopy, IsUnconfirmedWhenTheFolderCannotBeSynced) {
   MemoryDisk source(Folder{{Name, "new"}}), memory(Folder{{Name, "old"}});
   EndFails target(memory, -EIO);
   target.SyncFailures = 1;
-  EXPECT_EQ(filecopy::CopyFile(source, Name, target, Name), filecopy::Copied::Unconfirmed);
+  EXPECT_EQ(runtime::CopyFile(source, Name, target, Name), runtime::Copied::Unconfirmed);
   EXPECT_EQ(memory.Content(), (Folder{{Name, "new"}}));
   EXPECT_EQ(target.SyncFailures, 0) << "a failed sync was repeated";
 }
@@ -74,7 +74,7 @@ TEST(FullDisk, ThatGainsNoRoomByTheTargetsRemovalIsReported) {
   MemoryDisk source(Folder{{Name, "new"}}), memory(Folder{{Name, "old"}, {"Last", "1"}});
   AlwaysFull target(memory);
   try {
-    filecopy::CopyFile(source, Name, target, Name);
+    runtime::CopyFile(source, Name, target, Name);
     ADD_FAILURE() << "a copy without room";
   } catch (const runtime::Failure& failure) {
     EXPECT_EQ(failure.Name, runtime::DiskFull);

@@ -7,7 +7,7 @@
 
 #include "runtime/disk.h"
 
-namespace filecopy {
+namespace runtime {
 
 // Both: the whole new file is in place. Unconfirmed: the last sync failed, so a power failure may bring back what was
 // there before.
@@ -17,8 +17,7 @@ enum class Copied { Confirmed, Unconfirmed };
 // complete. A stop at any moment, or a Failure, which names what went wrong, leaves what was there before; only where
 // the disk has no room for both files but has for the new one in place of the old, the old one is removed first. What
 // earlier copies left on the target's disk when they were stopped is removed.
-Copied CopyFile(runtime::Disk& source_disk, const std::string& source_name, runtime::Disk& target_disk,
-                const std::string& target_name);
+Copied CopyFile(Disk& source_disk, const std::string& source_name, Disk& target_disk, const std::string& target_name);
 
 // Modified: local time. Size: in bytes.
 struct FileFacts {
@@ -26,6 +25,6 @@ struct FileFacts {
   std::int64_t Size = 0;
 };
 // Throws Failure "File not found" if there is none.
-FileFacts FactsOf(runtime::Disk& disk, const std::string& name);
+FileFacts FactsOf(Disk& disk, const std::string& name);
 
-}  // namespace filecopy
+}  // namespace runtime

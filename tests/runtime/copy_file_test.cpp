@@ -1,5 +1,5 @@
 // A copy is complete or absent, whatever fails.
-#include "filecopy/copy_file.h"
+#include "runtime/copy_file.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ enum class Outcome { Done, Failed, Killed };
 
 Outcome Copy(runtime::Disk& source, runtime::Disk& target) {
   try {
-    filecopy::CopyFile(source, Name, target, Name);
+    runtime::CopyFile(source, Name, target, Name);
   } catch (const runtime::Failure&) {
     return Outcome::Failed;
   } catch (const kit::Killed&) {
@@ -60,20 +60,20 @@ void ExpectOldOrNew(const Folder& before, const Folder& after) {
 TEST(CopyFile, TheTargetIsTheSourceByteForByteAndNothingElseIsLeft) {
   MemoryDisk source(Folder{{"old/Recpra.Dat", New}, {Name, Old}});
   MemoryDisk target(Folder{{"other.txt", "x"}});
-  filecopy::CopyFile(source, "old/Recpra.Dat", target, Name);
+  runtime::CopyFile(source, "old/Recpra.Dat", target, Name);
   EXPECT_EQ(target.Content(), (Folder{{Name, New}, {"other.txt", "x"}}));
 }
 
 TEST(CopyFile, AnEmptyFileIsCopied) {
   MemoryDisk source(Folder{{Name, ""}});
   MemoryDisk target(Folder{{Name, Old}});
-  filecopy::CopyFile(source, Name, target, Name);
+  runtime::CopyFile(source, Name, target, Name);
   EXPECT_EQ(target.Content(), (Folder{{Name, ""}}));
 }
 
 TEST(CopyFile, AFileCopiedOntoItselfStays) {
   MemoryDisk disk(Folder{{Name, New}});
-  filecopy::CopyFile(disk, Name, disk, Name);
+  runtime::CopyFile(disk, Name, disk, Name);
   EXPECT_EQ(disk.Content(), (Folder{{Name, New}}));
 }
 
@@ -136,7 +136,7 @@ TEST(CopyFile, AFullDiskIsNamed) {
   MemoryDisk below(Folder{{Name, Old}});
   FaultyDisk target(below, {Fault::Full, 2, true});
   try {
-    filecopy::CopyFile(source, Name, target, Name);
+    runtime::CopyFile(source, Name, target, Name);
     FAIL() << "the copy went through";
   } catch (const runtime::Failure& failure) {
     EXPECT_EQ(failure.Name, runtime::DiskFull);
@@ -161,7 +161,7 @@ class SmallDisk final : public kit::PassingDisk {
 
 std::string NameOfFailure(runtime::Disk& source, runtime::Disk& target) {
   try {
-    filecopy::CopyFile(source, Name, target, Name);
+    runtime::CopyFile(source, Name, target, Name);
   } catch (const runtime::Failure& failure) {
     return std::string(failure.Name);
   }
@@ -211,7 +211,7 @@ TEST(CopyFile, TheCopyHasTheTimeOfItsSource) {
   MemoryDisk source(Folder{{Name, New}});
   MemoryDisk target(Folder{{Name, Old}});
   runtime::OpenFile(source, Name, runtime::Disk::Mode::Read).SetModified(time);
-  filecopy::CopyFile(source, Name, target, Name);
+  runtime::CopyFile(source, Name, target, Name);
   EXPECT_EQ(runtime::OpenFile(target, Name, runtime::Disk::Mode::Read).Modified(), time);
 }
 
@@ -245,9 +245,9 @@ TEST_F(CopyOnRealDisks, TimesBefore1970AreCopiedToo) {
   Lay("hard/Recpra.Dat", "films");
   const runtime::FileTime time = {-1'000'000'000, 500};
   runtime::OpenFile(Hard, Name, runtime::Disk::Mode::Read).SetModified(time);
-  EXPECT_EQ(filecopy::CopyFile(Hard, Name, Floppy, Name), filecopy::Copied::Confirmed);
+  EXPECT_EQ(runtime::CopyFile(Hard, Name, Floppy, Name), runtime::Copied::Confirmed);
   EXPECT_EQ(runtime::OpenFile(Floppy, Name, runtime::Disk::Mode::Read).Modified(), time);
-  EXPECT_TRUE(runtime::LongDateText(filecopy::FactsOf(Floppy, Name).Modified).ends_with("1938"));
+  EXPECT_TRUE(runtime::LongDateText(runtime::FactsOf(Floppy, Name).Modified).ends_with("1938"));
 }
 
 TEST_F(CopyOnRealDisks, NoLinkOfTheTargetIsFollowed) {
@@ -255,8 +255,8 @@ TEST_F(CopyOnRealDisks, NoLinkOfTheTargetIsFollowed) {
   Lay("precious", "precious");
   for (const char* name : {"Recpra.Dat", ".Recpra.Dat.new", ".reelora-copy.new", ".reelora-copy.2.new"})
     std::filesystem::create_symlink("../precious", Folder.Path() / "floppy" / name);
-  EXPECT_THROW(filecopy::FactsOf(Floppy, Name), runtime::Failure);
-  filecopy::CopyFile(Hard, Name, Floppy, Name);
+  EXPECT_THROW(runtime::FactsOf(Floppy, Name), runtime::Failure);
+  runtime::CopyFile(Hard, Name, Floppy, Name);
   EXPECT_EQ(Bytes("precious"), "precious");
   EXPECT_EQ(Bytes("floppy/Recpra.Dat"), "films");
   EXPECT_FALSE(std::filesystem::is_symlink(Folder.Path() / "floppy/Recpra.Dat"));
@@ -265,7 +265,7 @@ TEST_F(CopyOnRealDisks, NoLinkOfTheTargetIsFollowed) {
 TEST(FactsOf, AMissingFileIsNamed) {
   MemoryDisk disk(Folder{});
   try {
-    filecopy::FactsOf(disk, Name);
+    runtime::FactsOf(disk, Name);
     FAIL() << "facts of nothing";
   } catch (const runtime::Failure& failure) {
     EXPECT_EQ(failure.Name, runtime::FileNotFound);
