@@ -1,6 +1,6 @@
 # The floors of the house, lowest first, and the floors that each one may use. tests/floors.cmake reads this table too.
 
-set(floors runtime forms store sort exchange screen opening filecopy help app companion)
+set(floors runtime forms store sort exchange screen opening filecopy help app companion launcher)
 
 # A floor is one folder of its own name, but for this one.
 set(folders_screen screen browse find reports prefs)
@@ -14,6 +14,7 @@ set(below_opening   screen)
 set(below_filecopy  screen)
 set(below_app       opening filecopy help)
 set(below_companion exchange sort)
+set(below_launcher  store)
 
 # floor_folders(FLOOR RESULT): the folders of a floor.
 function(floor_folders floor result)

@@ -1,0 +1,34 @@
+// Dated copies of the films, made before a start and thinned out as they age.
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/disk.h"
+
+namespace launcher {
+
+// In the collection.
+inline constexpr std::string_view CopiesFolder = "backups";
+
+// "Recpra 2026-11-22 05-31-34.Dat"; local time.
+std::string NameOfCopy(std::chrono::local_seconds when);
+// Nothing for a file that is no copy.
+std::optional<std::chrono::local_seconds> TimeOfCopy(std::string_view name);
+
+// Which copies to remove. The last ten stay, of the month before now the newest of each day, and of the year before now
+// the newest of each month. Names that are no copies are never among them.
+std::vector<std::string> Superseded(const std::vector<std::string>& names, std::chrono::local_seconds now);
+
+// Whether there is a master file that is not empty.
+bool HasFilms(runtime::Disk& collection);
+
+// Copies the master file if it differs from the newest copy, and removes what is superseded. The folder must be locked:
+// a save that a stop has cut off is finished first. Returns the new copy's name, "" if none was needed or there are no
+// films yet. Throws the Failure of a copy that could not be made; a superseded copy that cannot be removed stays.
+std::string KeepCopy(runtime::Disk& collection, runtime::Disk& copies, std::chrono::local_seconds now);
+
+}  // namespace launcher

@@ -1,0 +1,29 @@
+// Completes a collection with the files that are delivered with the program.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/disk.h"
+
+namespace launcher {
+
+// Below the delivered files; no collection gets it.
+inline constexpr std::string_view SampleFolder = "sample";
+
+// In the safety folder: the checksums of the files that a delivery may bring up to date, as they were put there.
+inline constexpr std::string_view DeliveryFile = "delivered";
+
+// The checksums of help files that were delivered before there was such a record.
+extern const std::vector<std::uint64_t> EarlierHelp;
+
+// Puts every delivered file into the collection where it is missing or empty. UPPER.ALT and the help file are replaced,
+// too, if they are still as an earlier delivery put them; a file that was changed by hand stays. Returns the name of a
+// delivered file that is empty and would be needed, "" if there is none. Throws the Failure that names the first file
+// that could not be put; the ones before it are in place.
+std::string CompleteCollection(runtime::Disk& delivered, runtime::Disk& collection,
+                               const std::vector<std::uint64_t>& earlier_help = EarlierHelp);
+
+}  // namespace launcher

@@ -1,0 +1,29 @@
+// Where things lie for the user who starts the program.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace launcher {
+
+// Absolute paths; "" for what there is not.
+struct Places {
+  std::string Home;
+  std::string Settings;   // the folder of the settings file
+  std::string Sample;     // the user's copy of the sample collection
+  std::string Delivered;  // the files that are delivered with the program
+  std::string Program;    // reelora-prima
+};
+
+// The value of an environment variable, "" if it is not set.
+using Variable = std::function<std::string(std::string_view name)>;
+
+// Executable: the path of this program, links resolved. AccountHome: the home folder of the user's account, which
+// counts where HOME is not set.
+Places FindPlaces(const std::string& executable, const Variable& variable, const std::string& account_home);
+
+// Where a first collection lies if the user wants no other place; "" without a home.
+std::string SuggestedCollection(const Places& places);
+
+}  // namespace launcher

@@ -1,0 +1,76 @@
+// The settings file of the launcher.
+#include "launcher/known_collections.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/failure.h"
+#include "tests/kit/faulty_disk.h"
+#include "tests/kit/memory_disk.h"
+
+namespace launcher {
+namespace {
+
+using kit::Folder;
+using kit::MemoryDisk;
+
+const std::string File(SettingsFile);
+
+TEST(KnownCollections, AreReadAsTheyWereWritten) {
+  KnownCollections known{{"/home/a/Film Collection", "/with \"quotes\"", "/two\nlines", "/back\\slash\\n", "/ blank "},
+                         "/media/copies",
+                         {"# mine", "copies here"}};
+  MemoryDisk disk(Folder{});
+  WriteKnown(disk, known);
+  EXPECT_EQ(ReadKnown(disk), known);
+  EXPECT_EQ(disk.Content().size(), 1U);
+}
+
+TEST(KnownCollections, AMissingFileIsAnEmptyOne) {
+  MemoryDisk disk(Folder{});
+  EXPECT_EQ(ReadKnown(disk), KnownCollections());
+}
+
+TEST(KnownCollections, LinesThatMeanNothingStay) {
+  MemoryDisk disk(Folder{{File, "# mine\ncollection = films\ncollection = /a\ncollection = /a\ncopies = there\n\nx"}});
+  EXPECT_EQ(ReadKnown(disk), (KnownCollections{{"/a"}, "there", {"# mine", "x"}}));
+}
+
+TEST(KnownCollections, TheLastOneOpenedIsTheFirst) {
+  KnownCollections known{{"/a", "/b"}, "", {}};
+  Remember(known, "/b");
+  EXPECT_EQ(known.Folders, (std::vector<std::string>{"/b", "/a"}));
+  for (int count = 0; count < 20; ++count) Remember(known, "/" + std::to_string(count));
+  EXPECT_EQ(known.Folders.size(), MostFolders);
+  EXPECT_EQ(known.Folders.front(), "/19");
+}
+
+TEST(KnownCollections, AFailureKeepsTheOldFile) {
+  const KnownCollections old{{"/a"}, "", {}};
+  const KnownCollections next{{"/b", "/a"}, "", {}};
+  MemoryDisk start(Folder{});
+  WriteKnown(start, old);
+  const Folder before = start.Content();
+  MemoryDisk counted(before);
+  kit::FaultyDisk counting(counted);
+  WriteKnown(counting, next);
+  for (kit::Fault fault : {kit::Fault::Full, kit::Fault::Error, kit::Fault::Refused, kit::Fault::ShortThenFull,
+                           kit::Fault::Kill, kit::Fault::KillHalfway}) {
+    for (std::size_t call = 0; call < counting.Calls(); ++call) {
+      MemoryDisk below(before);
+      kit::FaultyDisk faulty(below, {fault, call, true});
+      bool stopped = false;
+      try {
+        WriteKnown(faulty, next);
+      } catch (const runtime::Failure&) {
+        stopped = true;
+      } catch (const kit::Killed&) {
+        stopped = true;
+      }
+      KnownCollections after = ReadKnown(below);
+      EXPECT_TRUE(after == next || (stopped && after == old)) << NameOf(fault) << " at " << call;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace launcher
