@@ -11,6 +11,7 @@
 #include "desktop/application.h"
 #include "desktop/application_look.h"
 #include "desktop/front_request.h"
+#include "desktop/launcher_notice.h"
 #include "desktop/put_back_notice.h"
 #include "desktop/qt_desk.h"
 #include "desktop/session_end.h"
@@ -39,6 +40,7 @@ void StartAgain(const QStringList& arguments, const QString& folder) {
 
 int Run(desktop::Application& application, const QStringList& arguments) {
   const QString folder = QDir::currentPath();
+  const QString launcher_notice = desktop::TakeLauncherNotice();
   std::optional<runtime::FolderLock> lock(std::in_place, ".");
   if (!lock->Held()) {
     ReportOpenFolder(folder);
@@ -67,6 +69,7 @@ int Run(desktop::Application& application, const QStringList& arguments) {
     desktop::SessionEnd session_end(program, view, desk);
     program.StartOpener();
     view.Sync();
+    desktop::ShowLauncherNotice(view, launcher_notice);
     if (!program.Ended()) QApplication::exec();
     application.OnOutOfMemory({});
     stopped = program.Stopped();

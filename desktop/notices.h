@@ -10,6 +10,7 @@ inline const QString ReportNotice = QStringLiteral("report");
 inline const QString CopyNotice = QStringLiteral("copy");
 inline const QString DraftNotice = QStringLiteral("draft");
 inline const QString CharacterNotice = QStringLiteral("characters");
+inline const QString LauncherNotice = QStringLiteral("launcher");
 
 QString SavedText(const QString& path);
 QString SentText(const QString& queue);
