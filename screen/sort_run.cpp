@@ -5,76 +5,43 @@
 #include "forms/desk.h"
 #include "screen/frmPage1.h"
 #include "sort/operation.h"
-#include "store/key_file.h"
 #include "store/master_file.h"
+#include "store/sort_pass.h"
 
 namespace {
 
-// Everything in which the four passes differ; what is not named here is the same in all.
-struct SortPass {
-  const store::KeyFile& Keys;
+// Everything in which the four passes differ besides their statements; what is not named here is the same in all.
+struct LabelledPass {
+  const store::SortPass& Pass;
   std::string_view Label;
-  std::string_view IncludeTest;   // of the statement, up to its constant
-  std::string_view IncludeValue;  // the constant
-  std::string_view Tail;          // of the statement, after the closing quote
-  std::string_view LeftView;      // ViewKind afterwards; "": unchanged
-  bool StaysOpen;                 // the key file remains file 2, without a beep
+  std::string_view LeftView;  // ViewKind afterwards; "": unchanged
+  bool StaysOpen;             // the key file remains file 2, without a beep
 };
 
 // clang-format off
-constexpr SortPass Passes[] = {
-  { .Keys         = store::TitleKeys,
-    .Label        = "Sorting Titles",
-    .IncludeTest  = "1,40,C,GT,",
-    .IncludeValue = "000000",
-    .Tail         = ") Record(649)",
-    .LeftView     = "",
-    .StaysOpen    = false },
-  { .Keys         = store::DVDKeys,
-    .Label        = "Sorting DVD",
-    .IncludeTest  = "266,1,C,EQ,",
-    .IncludeValue = store::FormatDVD,
-    .Tail         = ") Record(649) ",
-    .LeftView     = "DVDpra",  // names no view
-    .StaysOpen    = false },
-  { .Keys         = store::LaserKeys,
-    .Label        = "Sorting Lasers",
-    .IncludeTest  = "266,1,C,EQ,",
-    .IncludeValue = store::FormatLaser,
-    .Tail         = ") Record(649) ",
-    .LeftView     = "",
-    .StaysOpen    = false },
-  { .Keys         = store::VHSKeys,
-    .Label        = "Sorting VHS",
-    .IncludeTest  = "266,1,C,EQ,",
-    .IncludeValue = store::FormatVHS,
-    .Tail         = ") Record(649) ",
-    .LeftView     = "",
-    .StaysOpen    = true },
+constexpr LabelledPass Passes[] = {
+  { .Pass = store::SortPasses[0], .Label = "Sorting Titles", .LeftView = "",       .StaysOpen = false },
+  { .Pass = store::SortPasses[1], .Label = "Sorting DVD",    .LeftView = "DVDpra", .StaysOpen = false },  // names no view
+  { .Pass = store::SortPasses[2], .Label = "Sorting Lasers", .LeftView = "",       .StaysOpen = false },
+  { .Pass = store::SortPasses[3], .Label = "Sorting VHS",    .LeftView = "",       .StaysOpen = true },
 };
 // clang-format on
 
-constexpr std::string_view StatementHead = "S(1,40,C,A) ALTSEQ(UPPER.ALT) OUTREC(1,40,Arrn,CRLF ) Include(";
-
-std::string StatementOf(const SortPass& pass) {
-  std::string statement(StatementHead);
-  return statement.append(pass.IncludeTest).append("\"").append(pass.IncludeValue).append("\"").append(pass.Tail);
-}
-
 // A pass that fails shows its status and leaves Numrec and the old key file; it writes its count file all the same.
-void MakePass(frmPage1& window, const SortPass& pass, sort::Sorter& sorter, std::int32_t& Numrec,
+void MakePass(frmPage1& window, const LabelledPass& pass, sort::Sorter& sorter, std::int32_t& Numrec,
               std::int32_t& Retcode) {
-  window.OpenKeyFile(pass.Keys.Name);
+  const store::KeyFile& keys = pass.Pass.Keys;
+  window.OpenKeyFile(keys.Name);
   window.lblSorting.Show();
   window.lblSorting.SetCaption("\n\r" + std::string(pass.Label));
   window.Desk.RepaintNow();
-  window.SortIncludeValue = pass.IncludeValue;
-  window.SortStatement = StatementOf(pass);
-  const sort::Result result = sorter.Sort(store::MasterFileName, pass.Keys.Name, window.SortStatement);
+  window.SortIncludeValue = pass.Pass.IncludeValue;
+  window.SortStatement = store::StatementOf(pass.Pass);
+  const sort::Result result = sorter.Sort(store::MasterFileName, keys.Name, window.SortStatement);
   Retcode = static_cast<std::int32_t>(result.Status);
   if (result.Status == sort::Status::Done) {
     Numrec = result.Records;
-    window.Files.Replaced(pass.Keys.Name);
+    window.Files.Replaced(keys.Name);
   }
   window.lblNumrec.SetCaption(runtime::NumberText(Numrec));
   window.lblRetcode.SetCaption(runtime::NumberText(Retcode));
@@ -83,7 +50,7 @@ void MakePass(frmPage1& window, const SortPass& pass, sort::Sorter& sorter, std:
     window.Files.Close(KeyFileNo);
     window.Desk.Beep();
   }
-  window.Files.OpenOutput(CountFileNo, pass.Keys.CountFile);
+  window.Files.OpenOutput(CountFileNo, keys.CountFile);
   window.Files.WriteLine(CountFileNo, window.lblNumrec.Caption());
   window.Files.Close(CountFileNo);
   if (!pass.LeftView.empty()) window.ViewKind = pass.LeftView;
@@ -116,7 +83,7 @@ void frmPage1::MakePasses() {
   sort::Sorter sorter(Files.Disk());
   double before = 0;  // passes done
   Files.ReplaceTogether([&] {
-    for (const SortPass& pass : Passes) {
+    for (const LabelledPass& pass : Passes) {
       sorter.Progress = [&](double read) { Desk.Progress(pass.Label, (before + read) / std::size(Passes)); };
       MakePass(*this, pass, sorter, Numrec, Retcode);
       before += 1;
