@@ -19,8 +19,18 @@ constexpr Option ListOptions[] = {
   { "columns", 'c', "COLUMNS", "fields with commas between; number,title,year,format,genre,time,director by default" },
 };
 
+constexpr Option CheckOptions[] = {
+  { "fix", 0,   nullptr, "mend what needs no judgement, with a question for each" },
+  { "yes", 'y', nullptr, "answer every question with yes" },
+};
+
 constexpr Option RestoreOptions[] = {
   { "free", 'f', nullptr, "into the first free record, not into its own" },
+};
+
+constexpr Option DraftOptions[] = {
+  { "keep", 'k', nullptr, "save it, as the program does" },
+  { "drop", 'd', nullptr, "remove it" },
 };
 
 constexpr Verb Table[] = {
@@ -28,12 +38,22 @@ constexpr Verb Table[] = {
     ListOptions, 0, AnyNumber, false, List },
   { "search", "TEST...", "the same, with status 1 if there are none", TestDetails,
     ListOptions, 1, AnyNumber, false, Search },
+  { "check", "", "tell everything that is out of order",
+    "Status 1 if there is anything. A question of --fix --write is answered with y for yes, n for no, a for yes to all\n"
+    "that follow, q for no to all.\n",
+    CheckOptions, 0, 0, true, Check },
+  { "sort", "", "make the key files and counts, as Sort in the program does", "",
+    {}, 0, 0, true, Sort },
   { "history", "[NUMBER]", "list the films that were overwritten or deleted",
     "With a number, shows that film field by field beside what its record holds now.\n",
     {}, 0, 1, false, History },
   { "restore", "NUMBER", "put a film of the history back",
     "The film goes into the record that it was in. What that holds goes to the history in its turn.\n",
     RestoreOptions, 1, 1, true, Restore },
+  { "draft", "[NAME]", "show what was typed and not saved, keep or drop it",
+    "A film that is kept goes into its record if that is free or still holds the film that was opened, otherwise into the\n"
+    "first free one. A leading article is moved, as by a save.\n",
+    DraftOptions, 0, 1, true, Draft },
 };
 // clang-format on
 

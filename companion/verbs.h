@@ -11,7 +11,10 @@ std::span<const Verb> Verbs();
 
 int List(const Invocation& invocation, Output& output);
 int Search(const Invocation& invocation, Output& output);
+int Check(const Invocation& invocation, Output& output);
+int Sort(const Invocation& invocation, Output& output);
 int History(const Invocation& invocation, Output& output);
+int Draft(const Invocation& invocation, Output& output);
 int Restore(const Invocation& invocation, Output& output);
 
 }  // namespace companion

@@ -5,6 +5,8 @@
 #include <sstream>
 
 #include "companion/command.h"
+#include "runtime/text.h"
+#include "store/draft.h"
 #include "store/master_file.h"
 #include "tests/kit/fresh_folder.h"
 #include "tests/kit/source_tree.h"
@@ -55,7 +57,10 @@ struct Printed {
 void AddLines(const std::string& mark, const std::string& text, std::vector<std::string>& lines) {
   std::istringstream all(text);
   std::string line;
-  while (std::getline(all, line)) lines.push_back(line.empty() ? mark : mark + " " + line);
+  while (std::getline(all, line)) {
+    line.resize(line.find_last_not_of(' ') + 1);
+    lines.push_back(line.empty() ? mark : mark + " " + line);
+  }
 }
 
 class Player {
@@ -130,13 +135,17 @@ class Player {
   }
 
   std::string PlayLine(const std::string& text) {
-    constexpr std::string_view OtherMark = "other ", SaveMark = "save ";
+    constexpr std::string_view OtherMark = "other ", SaveMark = "save ", TypedMark = "typed ";
     const bool other = text.starts_with(OtherMark);
     story::World& world = other ? other_ : world_;
     const fs::path beside = kit::SourceFolder() / "tests/companion/stories";
     try {
       if (text.starts_with(SaveMark)) {
         Save(story::ParseLine("film " + text.substr(SaveMark.size()), 0));
+        return "";
+      }
+      if (text.starts_with(TypedMark)) {
+        Type(story::ParseLine("film " + text.substr(TypedMark.size()), 0));
         return "";
       }
       const story::Line line = story::ParseLine(other ? text.substr(OtherMark.size()) : text, 0);
@@ -153,6 +162,23 @@ class Player {
 
   // As the program saves it, so that what it overwrites goes to the history.
   void Save(const story::Line& line) {
+    runtime::RealDisk disk(Home());
+    runtime::Files files(disk);
+    store::OpenMaster(files, 1);
+    store::WriteRecord(files, 1, line.Number32(0), FilmOf(line));
+  }
+  // As the program keeps what is typed: over the film of the record, or as a new one.
+  void Type(const story::Line& line) {
+    runtime::RealDisk disk(Home());
+    runtime::MakeSafetyFolder(disk);
+    const store::FilmRecord film = FilmOf(line);
+    store::Draft draft{line.Number32(0), true, std::string(runtime::Trim(film.Get(store::FilmField::Title))), {}, film};
+    const runtime::OpenFile master(disk, "Recpra.Dat", runtime::Disk::Mode::Read);
+    draft.IsNew =
+        master.Read(draft.Before.Bytes.data(), store::RecordLength, (draft.Slot - 1) * store::RecordLength) == 0;
+    store::WriteDraft(disk, store::FreeDraftName(disk), draft);
+  }
+  static store::FilmRecord FilmOf(const story::Line& line) {
     store::FilmRecord film;
     film.Set(store::FilmField::Tail, "\r\n");
     for (const store::FilmFieldRow& row : store::FilmFields) {
@@ -160,10 +186,7 @@ class Player {
         if (field.Field == row.Name) film.Set(row.Field, field.Text);
       }
     }
-    runtime::RealDisk disk(Home());
-    runtime::Files files(disk);
-    store::OpenMaster(files, 1);
-    store::WriteRecord(files, 1, line.Number32(0), film);
+    return film;
   }
 
   const Story& story_;

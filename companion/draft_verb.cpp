@@ -1,0 +1,95 @@
+// draft shows what was typed and not saved, keeps it as the program does, or drops it.
+#include "companion/differences.h"
+#include "companion/printable.h"
+#include "companion/reading.h"
+#include "companion/verbs.h"
+#include "companion/writing.h"
+#include "store/draft.h"
+
+namespace companion {
+namespace {
+
+constexpr std::string_view NoDraft = "There is no film that was typed and not saved.\n";
+
+struct NamedDraft {
+  std::string Name;
+  store::Draft Draft;
+};
+
+// Those that can be read, or the one of that name.
+std::vector<NamedDraft> ReadDrafts(runtime::Disk& disk, const std::string& wanted) {
+  std::vector<NamedDraft> drafts;
+  for (const std::string& name : store::DraftNames(disk)) {
+    if (!wanted.empty() && name != wanted) continue;
+    if (std::optional<store::Draft> draft = store::ReadDraft(disk, name)) drafts.push_back({name, *std::move(draft)});
+  }
+  return drafts;
+}
+
+void PrintDraft(const NamedDraft& draft, const store::FilmRecord& there, std::ostream& text) {
+  text << draft.Name << ": " << TitleOf(store::ToSave(draft.Draft)) << ", "
+       << (draft.Draft.IsNew ? "a new film for record " : "typed into record ") << draft.Draft.Slot
+       << ", and what stands there now:\n";
+  PrintDifferences(store::ToSave(draft.Draft), there, text);
+}
+
+void AddDraft(const NamedDraft& draft, const store::FilmRecord& there, Json& json) {
+  json.BeginObject();
+  json.Add("name", draft.Name);
+  json.Add("record", draft.Draft.Slot);
+  json.AddTruth("new", draft.Draft.IsNew);
+  json.Add("title", FieldText(store::ToSave(draft.Draft), store::FilmField::Title));
+  AddDifferences(store::ToSave(draft.Draft), "typed", there, "isNow", json);
+  json.End();
+}
+
+int Show(const Reading& reading, const std::vector<NamedDraft>& drafts, const Invocation& invocation, Output& output) {
+  if (invocation.Json) {
+    Json json(output.Text);
+    json.BeginList();
+    for (const NamedDraft& draft : drafts) AddDraft(draft, reading.At(draft.Draft.Slot), json);
+    return Done;
+  }
+  for (const NamedDraft& draft : drafts) PrintDraft(draft, reading.At(draft.Draft.Slot), output.Text);
+  return Done;
+}
+
+// A draft is removed only once its film is saved.
+int Settle(runtime::Disk& disk, const std::vector<NamedDraft>& drafts, bool keep, Output& output) {
+  for (const NamedDraft& draft : drafts) {
+    if (keep) {
+      runtime::Files files(disk);
+      if (!store::IsSaved(files, draft.Draft)) store::KeepDraft(files, draft.Draft);
+    }
+    store::RemoveDraft(disk, draft.Name);
+    output.Text << draft.Name << ": " << TitleOf(store::ToSave(draft.Draft))
+                << (keep ? " was saved.\n" : " was dropped.\n");
+  }
+  if (keep) output.Text << SortAfterwards;
+  return Done;
+}
+
+}  // namespace
+
+int Draft(const Invocation& invocation, Output& output) {
+  const bool keep = invocation.Has("keep"), drop = invocation.Has("drop");
+  if (keep && drop) return WrongUsage(invocation.Verb, output, "keep it or drop it");
+  if (invocation.Write && !keep && !drop)
+    return WrongUsage(invocation.Verb, output, "--write goes with --keep or --drop");
+  const Reading reading(invocation);
+  const std::string wanted = invocation.Arguments.empty() ? "" : invocation.Arguments[0];
+  const std::vector<NamedDraft> drafts = ReadDrafts(reading.Disk(), wanted);
+  if (drafts.empty() && (invocation.Write || !wanted.empty())) {
+    output.Errors << NoDraft;
+    return Found;
+  }
+  if (drafts.empty() && !invocation.Json) output.Text << NoDraft;
+  if (!invocation.Write) {
+    Show(reading, drafts, invocation, output);
+    if ((keep || drop) && !drafts.empty() && !invocation.Json) output.Text << NothingWritten;
+    return Done;
+  }
+  return WriteLocked(invocation, output, [&](runtime::Disk& disk) { return Settle(disk, drafts, keep, output); });
+}
+
+}  // namespace companion

@@ -1,0 +1,121 @@
+// What check finds in a large collection, and in one that the program left.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "runtime/folder_lock.h"
+#include "runtime/journal_block.h"
+#include "store/draft.h"
+#include "tests/companion/command_test.h"
+#include "tests/kit/collection.h"
+#include "tests/story/world.h"
+
+namespace companion {
+namespace {
+
+store::FilmRecord Film(std::string_view title) {
+  store::FilmRecord film;
+  film.Set(store::FilmField::Title, title);
+  film.Set(store::FilmField::Tail, "\r\n");
+  return film;
+}
+
+class CheckTest : public testing::Test {
+ protected:
+  // That many films in the order of their titles, sorted.
+  void PutFilms(int count) {
+    std::string master, keys;
+    for (int number = 1; number <= count; ++number) {
+      char title[64];
+      std::snprintf(title, sizeof title, "%-40.40s", ("Film " + std::to_string(100000 + number)).c_str());
+      const store::FilmRecord film = Film(title);
+      master.append(film.Bytes.data(), film.Bytes.size());
+      std::snprintf(title + 40, sizeof title - 40, "%07d\r\n", number);
+      keys.append(title, 49);
+    }
+    Put("Recpra.Dat", master);
+    Put("Titlepra.Dat", keys);
+    Put("Titlepra", " " + std::to_string(count) + "\r\n");
+  }
+  void Put(const std::string& name, const std::string& bytes) { story::WriteBytes(Folder.Folder() / name, bytes); }
+  Ran Check() { return RunIn(Folder.Folder(), {"check"}); }
+
+  kit::Collection Folder;
+};
+
+TEST_F(CheckTest, TellsWhenTheViewsAreNearlyFull) {
+  PutFilms(32'000);
+  EXPECT_EQ(Check().Text, "Everything is in order.\n");
+  PutFilms(32'001);
+  EXPECT_EQ(Check().Text,
+            "Titlepra.Dat: 32001 keys, near the end. A view has room for 32767. Begin a second collection.\n"
+            "Found 1 thing.\n");
+  PutFilms(32'768);
+  EXPECT_EQ(Check().Text,
+            "Titlepra.Dat: 32768 keys, too many. A view has room for 32767. Begin a second collection.\n"
+            "Found 1 thing.\n");
+}
+
+TEST_F(CheckTest, TellsOfASaveThatWasCutOff) {
+  PutFilms(2);
+  runtime::RealDisk disk(Folder.Folder());
+  runtime::MakeSafetyFolder(disk);
+  const store::FilmRecord before = Film("Film 100002"), after = Film("Film 100002, again");
+  const runtime::OpenFile journal = runtime::OpenJournal(disk);
+  runtime::WriteBlock(
+      journal, {"Recpra.Dat", 2, 2 * 649, std::string(before.Bytes.data(), 649), std::string(after.Bytes.data(), 649)});
+  const Ran ran = Check();
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_EQ(ran.Text,
+            "record 2, journal: a save of this record was cut off. The next start of the program, or a verb with "
+            "--write, finishes it.\n"
+            "Found 1 thing.\n");
+  runtime::MarkDone(journal);
+  EXPECT_EQ(Check().Text, "Everything is in order.\n");
+}
+
+TEST_F(CheckTest, TellsOfADraft) {
+  PutFilms(2);
+  runtime::RealDisk disk(Folder.Folder());
+  runtime::MakeSafetyFolder(disk);
+  store::WriteDraft(disk, "draft2", {3, true, "Alien", {}, Film("Alien")});
+  EXPECT_EQ(Check().Text,
+            "record 3, draft2: \"Alien\" was typed and not saved. The next start of the program asks about it; draft "
+            "shows it.\n"
+            "Found 1 thing.\n");
+}
+
+TEST_F(CheckTest, TellsOfAHistoryThatNobodyCanHaveMade) {
+  PutFilms(1);
+  runtime::RealDisk disk(Folder.Folder());
+  runtime::MakeSafetyFolder(disk);
+  Put(".reelora/history", "");
+  std::filesystem::resize_file(Folder.Folder() / ".reelora/history", 1'000'001 * std::uintmax_t{677});
+  EXPECT_EQ(Check().Text,
+            "history: it has 1000001 entries. Nobody overwrites so many films. Move the file .reelora/history away.\n"
+            "Found 1 thing.\n");
+}
+
+TEST_F(CheckTest, RefusesAMasterFileThatNoSortTakes) {
+  Put("Recpra.Dat", "");
+  std::filesystem::resize_file(Folder.Folder() / "Recpra.Dat", 10'000'000 * std::uintmax_t{649});
+  for (const char* verb : {"check", "list", "sort"}) {
+    const Ran ran = RunIn(Folder.Folder(), {verb});
+    EXPECT_EQ(ran.Status, Found) << verb;
+    EXPECT_EQ(ran.Errors, "The master file is damaged: it has 10000000 records.\n") << verb;
+    EXPECT_EQ(ran.Text, "") << verb;
+  }
+}
+
+TEST_F(CheckTest, MendsNothingWhileTheProgramHasTheFolderOpen) {
+  PutFilms(1);
+  Put("AutoSave", "no\r\n");
+  const runtime::FolderLock lock(Folder.Folder());
+  const Ran ran = RunIn(Folder.Folder(), {"check", "--fix", "--write", "--yes"});
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_EQ(ran.Errors, "This collection is already open.\n");
+  EXPECT_EQ(story::ReadBytes(Folder.Folder() / "AutoSave"), "no\r\n");
+}
+
+}  // namespace
+}  // namespace companion
