@@ -1,9 +1,9 @@
-# What the floor exchange/ needs of Debian, each used by one source file, and the HTML page as a source file.
+# What the floor exchange/ needs of Debian, each included by one source file, and the HTML page as a source file.
 
 find_package(EXPAT REQUIRED)
 find_library(REELORA_CSV csv REQUIRED)
 find_library(REELORA_MINIZIP minizip REQUIRED)
-find_path(REELORA_RAPIDJSON rapidjson/reader.h REQUIRED)
+find_path(REELORA_JSON nlohmann/json.hpp REQUIRED)
 target_link_libraries(reelora_exchange PRIVATE EXPAT::EXPAT ${REELORA_CSV} ${REELORA_MINIZIP})
 
 set(page_parts films.html style.css script.js)

@@ -26,6 +26,11 @@ char32_t SignCharacter(char byte) {
 
 bool IsControl(char32_t character) { return character < ' ' || (character >= Delete && character < 0xA0); }
 
+bool IsMarkOfDirection(char32_t character) {
+  return (character >= 0x200E && character <= 0x200F) || (character >= 0x202A && character <= 0x202E) ||
+         (character >= 0x2066 && character <= 0x2069);
+}
+
 struct Sequence {
   std::array<char, 3> Bytes{};
   unsigned char Length = 0;
@@ -105,7 +110,7 @@ char32_t TakeCharacter(std::string_view& utf8) {
     good = (Code(utf8[at]) & 0xC0) == 0x80;
     character = (character << 6) | (Code(utf8[at]) & 0x3F);
   }
-  good = good && character >= smallest[length] && character < 0x110000;
+  good = good && character >= smallest[length] && character < 0x110000 && (character < 0xD800 || character > 0xDFFF);
   if (!good) character = runtime::ToUnicode(utf8[0]);
   utf8.remove_prefix(good ? length : 1);
   return character;
@@ -142,6 +147,21 @@ std::string TextOf(std::string_view bytes) {
   std::string utf8;
   AppendText(bytes, utf8);
   return utf8;
+}
+
+std::string Visible(std::string_view utf8) {
+  std::string visible;
+  while (!utf8.empty()) {
+    const char32_t character = TakeCharacter(utf8);
+    if (IsControl(character)) {
+      AppendCharacter(SignCharacter(static_cast<char>(character)), visible);
+    } else if (IsMarkOfDirection(character)) {
+      visible += '?';
+    } else {
+      AppendCharacter(character, visible);
+    }
+  }
+  return visible;
 }
 
 std::size_t AppendBytes(std::string_view utf8, Unstorable as, std::string& bytes, std::string& unstorable) {

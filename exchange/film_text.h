@@ -18,6 +18,9 @@ std::string FieldText(const store::FilmRecord& film, store::FilmField field);
 // Any bytes, in the same signs; leading blanks stay blanks.
 std::string TextOf(std::string_view bytes);
 
+// A foreign text in valid UTF-8 that steers no terminal: control characters as their signs, marks of direction as "?".
+std::string Visible(std::string_view utf8);
+
 // The sign of a byte that a format cannot hold where it is.
 std::string SignOf(char byte);
 

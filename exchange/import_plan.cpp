@@ -2,6 +2,7 @@
 #include "exchange/import_plan.h"
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <unordered_map>
 
@@ -32,7 +33,7 @@ FilmRecord Merged(const FilmRecord& there, const ReadFilm& film) {
 class Planner {
  public:
   Planner(const std::vector<FilmRecord>& slots, const std::vector<ReadFilm>& films, Doubles doubles)
-      : slots_(slots), films_(films), doubles_(doubles), taken_(slots.size(), false), claimed_(slots.size(), false) {
+      : slots_(slots), films_(films), doubles_(doubles), taken_(slots.size(), false), claims_(slots.size(), nullptr) {
     for (std::size_t slot = 0; slot < slots.size(); ++slot) {
       if (!HasTitle(slots[slot])) continue;
       taken_[slot] = true;
@@ -45,7 +46,8 @@ class Planner {
     for (std::size_t film = 0; film < films_.size(); ++film) {
       steps_[film].Film = film;
       steps_[film].Bytes = films_[film].Film;
-      ClaimSame(steps_[film]);
+      std::set<std::size_t> asked;
+      ClaimSame(steps_[film], asked);
     }
     for (Step& step : steps_) ClaimDouble(step);
     if (there_.empty()) KeepNumbers();
@@ -55,6 +57,7 @@ class Planner {
 
  private:
   static constexpr std::int64_t NoSlot = 0;
+  static constexpr std::size_t MostAsked = 64;  // doubles of one film; more are not worth the time
 
   // Calls with each film of the collection that has title and year of the step's, the one of its own number first,
   // until the call returns true.
@@ -69,26 +72,40 @@ class Planner {
       if (call(slot)) return;
     }
   }
-  FilmRecord Result(const Step& step, std::size_t slot) const {
-    return doubles_ == Doubles::Update ? Merged(slots_[slot], films_[step.Film]) : films_[step.Film].Film;
+  bool IsSame(const Step& step, std::size_t slot) const {
+    const ReadFilm& film = films_[step.Film];
+    const FilmRecord result = doubles_ == Doubles::Update ? Merged(slots_[slot], film) : film.Film;
+    return result.Bytes == slots_[slot].Bytes;
   }
   void Settle(Step& step, Action what, std::size_t slot) {
     step.What = what;
     step.Slot = static_cast<std::int64_t>(slot) + 1;
-    claimed_[slot] = true;
+    claims_[slot] = &step;
   }
-  void ClaimSame(Step& step) {
+  // What is there already claims its film, so that a second import changes nothing. One that finds only claimed films
+  // sends another on to a film that suits that one as well.
+  bool ClaimSame(Step& step, std::set<std::size_t>& asked) {
+    bool settled = false;
+    std::vector<std::size_t> claimed;
     TryDoubles(step, [&](std::size_t slot) {
-      const bool is_same = !claimed_[slot] && Result(step, slot).Bytes == slots_[slot].Bytes;
-      if (is_same) Settle(step, Action::Same, slot);
-      return is_same;
+      if (asked.contains(slot) || !IsSame(step, slot)) return false;
+      settled = claims_[slot] == nullptr;
+      if (settled) Settle(step, Action::Same, slot);
+      if (!settled) claimed.push_back(slot);
+      return settled || claimed.size() > MostAsked;
     });
+    for (std::size_t at = 0; !settled && at < claimed.size() && asked.size() < MostAsked; ++at) {
+      if (!asked.insert(claimed[at]).second) continue;
+      settled = ClaimSame(*claims_[claimed[at]], asked);
+      if (settled) Settle(step, Action::Same, claimed[at]);
+    }
+    return settled;
   }
   void ClaimDouble(Step& step) {
     if (step.Slot != NoSlot || doubles_ == Doubles::Add) return;
     TryDoubles(step, [&](std::size_t slot) {
       const bool updates = doubles_ == Doubles::Update;
-      if (updates && claimed_[slot]) return false;
+      if (updates && claims_[slot]) return false;
       if (updates) step.Bytes = Merged(slots_[slot], films_[step.Film]);
       Settle(step, updates ? Action::Update : Action::Skip, slot);
       return true;
@@ -119,7 +136,7 @@ class Planner {
   const Doubles doubles_;
   std::unordered_map<std::string, std::vector<std::size_t>> there_;
   std::vector<bool> taken_;    // by a film that is there, or one of the file
-  std::vector<bool> claimed_;  // by a film of the file
+  std::vector<Step*> claims_;  // of the film of the file, by slot
   std::vector<Step> steps_;
   std::size_t free_ = 0;
 };

@@ -1,7 +1,7 @@
-// JSON: an object whose "films" are objects of the fields that are not empty. RapidJSON reads, event by event and
-// without recursion: it is the quickest well-kept parser of Debian that takes a stream, and no document is ever kept.
-#include <rapidjson/error/en.h>
-#include <rapidjson/reader.h>
+// JSON: an object whose "films" are objects of the fields that are not empty. The JSON library of the companion reads,
+// event by event, so that no document is ever kept.
+#include <iterator>
+#include <nlohmann/json.hpp>
 
 #include "exchange/film_text.h"
 #include "exchange/formats.h"
@@ -23,61 +23,76 @@ void AppendQuoted(std::string_view text, std::string& out) {
   out.append(text) += '"';
 }
 
-// The stream that RapidJSON asks for, in pieces of a file. It pretends to end where one value is too long.
-class PiecedStream {
+// The characters of a file, one by one. They pretend to end where one value is too long.
+class Characters {
  public:
-  using Ch = char;
-  explicit PiecedStream(const ByteSource& source) : source_(source), block_(std::size_t(64) * 1024, '\0') { Fill(); }
+  explicit Characters(const ByteSource& source) : source_(source), block_(std::size_t(64) * 1024, '\0') { Fill(); }
 
-  char Peek() const { return *next_; }
-  char Take() {
-    const char taken = *next_++;
-    if (next_ == end_) Fill();
-    return taken;
+  bool AtEnd() const { return next_ == filled_; }
+  char Now() const { return block_[next_]; }
+  void Next() {
+    if (++next_ == filled_) Fill();
   }
-  std::size_t Tell() const { return before_ + static_cast<std::size_t>(next_ - block_.data()); }
-  void ValueEnds() { value_start_ = Tell(); }
+  void ValueEnds() { value_start_ = before_ + next_; }
   bool StoppedInValue() const { return stopped_; }
-
-  // For writing in place, which the parser does not do here.
-  char* PutBegin() { return nullptr; }
-  void Put(char) {}
-  std::size_t PutEnd(char*) { return 0; }
 
  private:
   void Fill() {
     before_ += filled_;
     stopped_ = stopped_ || before_ - value_start_ > LongestPiece;
-    filled_ = stopped_ ? 0 : source_(block_.data(), block_.size() - 1);
-    block_[filled_] = '\0';
-    next_ = block_.data();
-    end_ = next_ + std::max<std::size_t>(filled_, 1);
+    filled_ = stopped_ ? 0 : source_(block_.data(), block_.size());
+    next_ = 0;
   }
 
   const ByteSource& source_;
   std::string block_;
-  const char* next_ = nullptr;
-  const char* end_ = nullptr;
-  std::size_t filled_ = 0;
+  std::size_t filled_ = 0, next_ = 0;
   std::size_t before_ = 0;  // the block
   std::size_t value_start_ = 0;
   bool stopped_ = false;
 };
 
-// An object in a list is a row; lists in it are several texts of a cell, and objects in it are told by their name.
-class JsonHandler {
+// As the parser wants them; without characters it is the end.
+class CharacterIterator {
  public:
-  JsonHandler(PiecedStream& stream, Rows& rows) : stream_(stream), rows_(rows) {}
+  using iterator_category = std::input_iterator_tag;
+  using value_type = char;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const char*;
+  using reference = char;
+
+  CharacterIterator() = default;
+  explicit CharacterIterator(Characters& characters) : characters_(&characters) {}
+  char operator*() const { return characters_->Now(); }
+  CharacterIterator& operator++() {
+    characters_->Next();
+    return *this;
+  }
+  CharacterIterator operator++(int) { return ++*this; }
+  // Against the end only.
+  bool operator!=(const CharacterIterator&) const { return !characters_->AtEnd(); }
+  bool operator==(const CharacterIterator& end) const { return !(*this != end); }
+
+ private:
+  Characters* characters_ = nullptr;
+};
+
+// An object in a list is a row; lists in it are several texts of a cell, and objects in it are told by their name.
+class JsonHandler final : public nlohmann::json_sax<nlohmann::json> {
+ public:
+  JsonHandler(Characters& characters, Rows& rows) : characters_(characters), rows_(rows) {}
 
   Fault Wrong;
   bool Stopped = false;
 
-  bool Null() { return Ends(); }
-  bool Bool(bool truth) { return Value(truth ? "true" : "false"); }
-  bool RawNumber(const char* text, rapidjson::SizeType length, bool) { return Value({text, length}); }
-  bool String(const char* text, rapidjson::SizeType length, bool) { return Value({text, length}); }
-  bool Key(const char* text, rapidjson::SizeType length, bool) {
-    const std::string_view key(text, length);
+  bool null() override { return Ends(); }
+  bool boolean(bool truth) override { return Value(truth ? "true" : "false"); }
+  bool number_integer(number_integer_t number) override { return Value(std::to_string(number)); }
+  bool number_unsigned(number_unsigned_t number) override { return Value(std::to_string(number)); }
+  bool number_float(number_float_t, const string_t& text) override { return Value(text); }
+  bool string(string_t& text) override { return Value(text); }
+  bool binary(binary_t&) override { return false; }
+  bool key(string_t& key) override {
     if (InRow() && levels_.size() == row_level_) {
       column_ = rows_.Column(key);
       if (column_ == MostColumns) Wrong = TooManyColumns;
@@ -89,31 +104,32 @@ class JsonHandler {
     }
     return Ends() && !Wrong;
   }
-  bool StartObject() {
+  bool start_object(std::size_t) override {
     if (!InRow() && !levels_.empty() && levels_.back() == '[') row_level_ = levels_.size() + 1;
     return Open('{');
   }
-  bool EndObject(rapidjson::SizeType) {
+  bool end_object() override {
     if (levels_.size() == row_level_) {
       row_level_ = 0;
       Stopped = !rows_.End();
     }
     return Close() && !Stopped;
   }
-  bool StartArray() { return Open('['); }
-  bool EndArray(rapidjson::SizeType) { return Close(); }
-
-  // Never called, since numbers come as texts.
-  bool Int(int) { return false; }
-  bool Uint(unsigned) { return false; }
-  bool Int64(std::int64_t) { return false; }
-  bool Uint64(std::uint64_t) { return false; }
-  bool Double(double) { return false; }
+  bool start_array(std::size_t) override { return Open('['); }
+  bool end_array() override { return Close(); }
+  // "[json.exception.parse_error.101] parse error at line 1, column 2: what" begins with a place of its own.
+  bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& error) override {
+    constexpr std::string_view place = " at ";
+    std::string_view what = error.what();
+    what.remove_prefix(std::min(what.find(place), what.size() - place.size()) + place.size());
+    Wrong = Visible(what.substr(0, LongestComplaint));
+    return false;
+  }
 
  private:
   bool InRow() const { return row_level_ > 0; }
   bool Ends() {
-    stream_.ValueEnds();
+    characters_.ValueEnds();
     return true;
   }
   bool Open(char bracket) {
@@ -134,7 +150,8 @@ class JsonHandler {
     return Ends();
   }
 
-  PiecedStream& stream_;
+  static constexpr std::size_t LongestComplaint = 200;
+  Characters& characters_;
   Rows& rows_;
   std::string levels_;  // their opening brackets
   std::size_t row_level_ = 0;
@@ -142,9 +159,6 @@ class JsonHandler {
   bool inner_name_ = true;
   bool format_is_next_ = false;
 };
-
-constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -171,17 +185,11 @@ void WriteJson(const Collection& collection, const ByteSink& sink) {
 }
 
 Fault ReadJson(const ByteSource& source, Rows& rows) {
-  PiecedStream stream(source);
-  for (char mark : ByteOrderMark) {
-    if (stream.Peek() == mark) stream.Take();
-  }
-  JsonHandler handler(stream, rows);
-  rapidjson::Reader reader;
-  const rapidjson::ParseResult result = reader.Parse<Flags>(stream, handler);
-  if (!result.IsError() || handler.Stopped) return std::nullopt;
-  std::string what = stream.StoppedInValue() ? std::string(TooLong)
-                                             : handler.Wrong.value_or(rapidjson::GetParseError_En(result.Code()));
-  return "byte " + std::to_string(result.Offset() + 1) + ": " + what;
+  Characters characters(source);
+  JsonHandler handler(characters, rows);
+  nlohmann::json::sax_parse(CharacterIterator(characters), CharacterIterator(), &handler);
+  if (handler.Stopped) return std::nullopt;
+  return characters.StoppedInValue() ? Fault(TooLong) : handler.Wrong;
 }
 
 }  // namespace exchange

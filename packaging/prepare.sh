@@ -1,6 +1,6 @@
 # Sourced by ./run and ./test: installs what is missing and builds, out of tree.
 
-needs=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libgtest-dev nlohmann-json3-dev rapidjson-dev libexpat1-dev libcsv-dev libminizip-dev
+needs=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgl-dev libgtest-dev nlohmann-json3-dev libexpat1-dev libcsv-dev libminizip-dev
   fonts-liberation poppler-utils)
 
 # Whether a person sits at the terminal and may be asked.

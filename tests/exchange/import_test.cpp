@@ -173,6 +173,15 @@ TEST(ImportPlan, ChangesNothingTheSecondTime) {
   }
 }
 
+// Rows of one title that tell different things: the first is there as the second's film, too.
+TEST(ImportPlan, ChangesNothingTheSecondTimeWithFilmsThatSuitTwoRows) {
+  auto slots = SlotsOf({"", "Alien 1979"});
+  slots[1].Set(FilmField::Music, "Goldsmith");
+  constexpr std::string_view films = "Title,Year,Director\nAlien,1979,\nAlien,1979,Scott\n";
+  EXPECT_EQ(Plan(slots, films, Doubles::Update), "=2 +1");
+  EXPECT_EQ(Plan(slots, films, Doubles::Update), "=2 =1");
+}
+
 TEST(ImportPlan, AnUpdateKeepsWhatTheFileDoesNotTell) {
   auto slots = SlotsOf({"Alien 1979"});
   slots[0].Set(FilmField::Music, "Goldsmith");
@@ -213,6 +222,12 @@ TEST(ApplyImport, WritesThroughTheJournal) {
   ASSERT_EQ(slots.size(), 2u);
   EXPECT_EQ(slots[1].Bytes, read[1].Film.Bytes);
   EXPECT_TRUE(disk.Content().contains(".reelora/journal"));
+}
+
+TEST(Visible, SteersNoTerminal) {
+  EXPECT_EQ(exchange::Visible("a\x1B[2J\xFF\xE2\x80\xAE"
+                              "b\xC2\x9B"),
+            "a\xE2\x90\x9B[2J\xC3\xBF?b\xEF\x9E\x9B");
 }
 
 TEST(FilmsOf, LeavesFreeSlotsOutAndPadsTheLast) {
