@@ -1,0 +1,7 @@
+// Any CSV file.
+#include "tests/fuzz/import_kit.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  fuzz::PlayImport("csv", data, size);
+  return 0;
+}
