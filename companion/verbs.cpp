@@ -33,6 +33,25 @@ constexpr Option DraftOptions[] = {
   { "drop", 'd', nullptr, "remove it" },
 };
 
+constexpr Option ExportOptions[] = {
+  { "format", 'f', "FORMAT", "csv, json, rec, tellico or html; as the name of FILE says, or csv, by default" },
+  { "output", 'o', "FILE",   "write it there, not to the standard output" },
+};
+
+constexpr std::string_view ImportDetails =
+    "Shows each film as it would be stored, and what is changed on the way: values that are cut, words that become codes,\n"
+    "characters that cannot be stored, articles that move as a save moves them. Columns go into fields by their names; those\n"
+    "of other catalogues are known. FIELD may also be \"Stars\" for a list that fills the six, or nothing. New films go into\n"
+    "free records first. Films of an export into a collection without films keep their records.\n";
+
+constexpr Option ImportOptions[] = {
+  { "format",        'f', "FORMAT",       "csv, json, rec or tellico; as the name of FILE says by default" },
+  { "map",           'm', "COLUMN=FIELD", "put this column into that field; may be repeated" },
+  { "doubles",       'd', "WHAT",         "films of a title and year that is there: skip (by default), update or add" },
+  { "transliterate", 't', nullptr,        "put other letters for those that cannot be stored, not ?" },
+  { "sort",          's', nullptr,        "sort afterwards" },
+};
+
 constexpr Verb Table[] = {
   { "list", "[TEST]...", "list films, chosen by tests of their fields", TestDetails,
     ListOptions, 0, AnyNumber, false, List },
@@ -44,6 +63,11 @@ constexpr Verb Table[] = {
     CheckOptions, 0, 0, true, Check },
   { "sort", "", "make the key files and counts, as Sort in the program does", "",
     {}, 0, 0, true, Sort },
+  { "export", "", "write the films as CSV, JSON, recutils, Tellico or a page for the browser",
+    "Every format but html brings back each byte of every film. --json is --format json.\n",
+    ExportOptions, 0, 0, false, Export },
+  { "import", "FILE", "take films from a file of another catalogue or an export", ImportDetails,
+    ImportOptions, 1, 1, true, Import },
   { "history", "[NUMBER]", "list the films that were overwritten or deleted",
     "With a number, shows that film field by field beside what its record holds now.\n",
     {}, 0, 1, false, History },

@@ -15,6 +15,8 @@ int Check(const Invocation& invocation, Output& output);
 int Sort(const Invocation& invocation, Output& output);
 int History(const Invocation& invocation, Output& output);
 int Draft(const Invocation& invocation, Output& output);
+int Export(const Invocation& invocation, Output& output);
+int Import(const Invocation& invocation, Output& output);
 int Restore(const Invocation& invocation, Output& output);
 
 }  // namespace companion

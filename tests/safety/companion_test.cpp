@@ -8,6 +8,7 @@
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
 #include "tests/kit/passing_disk.h"
+#include "tests/kit/source_tree.h"
 #include "tests/safety/fault_rows.h"
 #include "tests/safety/scenario_run.h"
 #include "tests/safety/soundness.h"
@@ -58,10 +59,13 @@ struct Writing {
 void PrintTo(const Writing& writing, std::ostream* text) { *text << writing.Name; }
 
 const std::vector<Writing>& Writings() {
+  static const std::filesystem::path films = kit::SourceFolder() / "tests/safety/two_films.csv";
   static const std::vector<Writing> writings = {
       {"Restore", {"restore", "1", "--write"}, Edited, 128},
       {"RestoreToAFreeRecord", {"restore", "1", "--free", "--write"}, Edited, 128, 1, false},
       {"Draft", {"draft", "--keep", "--write"}, WithDrafts, 32, 1, false},
+      // Updates the film of slot 7 and adds one.
+      {"Import", {"import", films.string(), "--doubles", "update", "--write"}, Edited, 32},
       {"Sort", {"sort", "--write"}, Edited, 4},
       {"Check", {"check", "--fix", "--write", "--yes"}, Disordered, 2, 3},
   };

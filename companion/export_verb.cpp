@@ -1,0 +1,71 @@
+// export writes the films in another format, to the standard output or to a file.
+#include <filesystem>
+#include <fstream>
+
+#include "companion/printable.h"
+#include "companion/reading.h"
+#include "companion/verbs.h"
+#include "exchange/formats.h"
+#include "runtime/clock.h"
+
+namespace companion {
+namespace {
+
+namespace fs = std::filesystem;
+
+// As told, else as the file name tells, else CSV; nullptr for an unknown one.
+const exchange::Format* FormatOf(const Invocation& invocation) {
+  if (const auto name = invocation.Value("format")) return exchange::FormatOf(*name);
+  if (invocation.Json) return exchange::FormatOf("json");
+  const exchange::Format* format = exchange::FormatOfFile(invocation.Value("output").value_or(""));
+  return format ? format : exchange::FormatOf("csv");
+}
+
+// A file that was there stays as it is until the new one is complete.
+int WriteFile(const exchange::Format& format, const exchange::Collection& collection, const std::string& path,
+              Output& output) {
+  if (!exchange::FormatOfFile(path) && fs::exists(path)) {
+    output.Errors << path << " is there already, and its name is not one of an export.\n";
+    return Found;
+  }
+  const std::string aside = path + ".new";
+  std::ofstream file(aside, std::ios::binary);
+  format.Write(collection,
+               [&](std::string_view bytes) { file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())); });
+  file.close();
+  std::error_code error;
+  if (file) fs::rename(aside, path, error);
+  if (file && !error) return Done;
+  fs::remove(aside, error);
+  output.Errors << path << " cannot be written.\n";
+  return Found;
+}
+
+}  // namespace
+
+int Export(const Invocation& invocation, Output& output) {
+  const exchange::Format* format = FormatOf(invocation);
+  if (!format) return WrongUsage(invocation.Verb, output, *invocation.Value("format") + " is no format");
+  const Reading reading(invocation);
+  exchange::Collection collection;
+  std::int64_t films = 0;
+  collection.Each = [&, each = exchange::FilmsOf(reading.Disk())](const exchange::Visit& visit) {
+    films = 0;
+    each([&](std::int64_t number, const store::FilmRecord& film) {
+      ++films;
+      visit(number, film);
+    });
+  };
+  collection.Look = exchange::ReadColours(reading.Disk());
+  collection.When = runtime::LongDateText(runtime::LocalTime());
+  const std::optional<std::string> path = invocation.Value("output");
+  if (!path) {
+    format->Write(collection, [&](std::string_view bytes) { output.Text << bytes; });
+    return Done;
+  }
+  const int status = WriteFile(*format, collection, *path, output);
+  if (status == Done) output.Text << Counted(films, "film") << " in " << *path << ".\n";
+  return status;
+}
+
+}  // namespace companion
