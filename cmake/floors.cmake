@@ -1,6 +1,6 @@
 # The floors of the house, lowest first, and the floors that each one may use. tests/floors.cmake reads this table too.
 
-set(floors runtime forms store sort exchange screen opening filecopy help app companion launcher)
+set(floors runtime forms store sort exchange screen opening filecopy help app launcher companion)
 
 # A floor is one folder of its own name, but for this one.
 set(folders_screen screen browse find reports prefs)
@@ -13,8 +13,8 @@ set(below_screen    store sort forms)
 set(below_opening   screen)
 set(below_filecopy  screen)
 set(below_app       opening filecopy help)
-set(below_companion exchange sort)
 set(below_launcher  store)
+set(below_companion exchange sort launcher)
 
 # floor_folders(FLOOR RESULT): the folders of a floor.
 function(floor_folders floor result)

@@ -14,6 +14,11 @@ constexpr std::string_view TestDetails =
     "cost ratings. \"all\" as COLUMNS is each of them. Columns are cut to the width of a terminal; elsewhere they are\n"
     "separated by tabs, and a control character is written as \\t, \\n, \\r or \\xHH.\n";
 
+constexpr std::string_view OtherDetails =
+    "OTHER is the path of a collection, a zip of one or a file of films, or a name that backups lists. Films belong\n"
+    "together if they have the same title in the same record, or the same title and year, or the same director in the\n"
+    "same record. Status 1 of diff: something differs.\n";
+
 constexpr Option ListOptions[] = {
   { "sort",    's', "FIELDS",  "in this order; with - in front of a field, the other way round" },
   { "columns", 'c', "COLUMNS", "fields with commas between; number,title,year,format,genre,time,director by default" },
@@ -26,6 +31,15 @@ constexpr Option CheckOptions[] = {
 
 constexpr Option RestoreOptions[] = {
   { "free", 'f', nullptr, "into the first free record, not into its own" },
+};
+
+constexpr Option BackupOptions[] = {
+  { "zip", 'z', nullptr,  "a zip, not a folder" },
+  { "to",  't', "FOLDER", "into that folder, not into backups in the collection" },
+};
+
+constexpr Option BackupsOptions[] = {
+  { "from", 'f', "FOLDER", "of that folder, not of backups in the collection" },
 };
 
 constexpr Option DraftOptions[] = {
@@ -57,6 +71,8 @@ constexpr Verb Table[] = {
     ListOptions, 0, AnyNumber, false, List },
   { "search", "TEST...", "the same, with status 1 if there are none", TestDetails,
     ListOptions, 1, AnyNumber, false, Search },
+  { "stats", "", "tell what the collection is made of, and what it cost", "",
+    {}, 0, 0, false, Stats },
   { "check", "", "tell everything that is out of order",
     "Status 1 if there is anything. A question of --fix --write is answered with y for yes, n for no, a for yes to all\n"
     "that follow, q for no to all.\n",
@@ -78,6 +94,18 @@ constexpr Verb Table[] = {
     "A film that is kept goes into its record if that is free or still holds the film that was opened, otherwise into the\n"
     "first free one. A leading article is moved, as by a save.\n",
     DraftOptions, 0, 1, true, Draft },
+  { "backup", "", "copy the collection and read the copy back",
+    "The copy has the films, the key files, the settings and the history. A folder is a collection itself.\n",
+    BackupOptions, 0, 0, true, Backup },
+  { "backups", "", "list the copies there are", "The command reelora makes copies of the films before each start; they are here, too.\n",
+    BackupsOptions, 0, 0, false, Backups },
+  { "restore-backup", "COPY", "put a copy back, after a copy of what is there now",
+    "COPY is a name that backups lists, or the path of a folder, a zip or a file of films. The history stays.\n",
+    {}, 1, 1, true, RestoreBackup },
+  { "diff", "OTHER", "tell what differs from another collection or a copy", OtherDetails,
+    {}, 1, 1, false, Diff },
+  { "merge", "OTHER", "take the films that are only in the other one", OtherDetails,
+    {}, 1, 1, true, Merge },
 };
 // clang-format on
 

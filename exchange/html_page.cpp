@@ -95,14 +95,6 @@ std::string ColourRules(const Colours& colours) {
          "; --text: " + ColourText(colours.Text) + "; --tag: " + ColourText(colours.Tag) + ";";
 }
 
-std::string Headline(const Summary& summary) {
-  std::string line = Grouped(summary.Films) + (summary.Films == 1 ? " film" : " films");
-  if (summary.Minutes > 0) line += ", " + Grouped(summary.Minutes / 60) + " hours";
-  if (summary.Priced == 0) return line;
-  return line + ", cost " + MoneyText(summary.Cents) + " (" + Grouped(summary.Priced) + " with a price, " +
-         MoneyText(summary.Cents / summary.Priced) + " each)";
-}
-
 // Buttons that narrow the list. name: the field that the script compares.
 std::string ShareSection(std::string_view heading, std::string_view name, const std::vector<Share>& shares) {
   std::int64_t most = 1;

@@ -76,6 +76,14 @@ Summary Summarize(const Films& films) {
   return summary;
 }
 
+std::string Headline(const Summary& summary) {
+  std::string line = Grouped(summary.Films) + (summary.Films == 1 ? " film" : " films");
+  if (summary.Minutes > 0) line += ", " + Grouped(summary.Minutes / 60) + " hours";
+  if (summary.Priced == 0) return line;
+  return line + ", cost " + MoneyText(summary.Cents) + " (" + Grouped(summary.Priced) + " with a price, " +
+         MoneyText(summary.Cents / summary.Priced) + " each)";
+}
+
 std::int64_t CentsOf(std::string_view text) {
   while (!text.empty() && !IsDigit(text[0])) text.remove_prefix(1);
   if (text.empty()) return -1;

@@ -9,6 +9,7 @@
 #include "tests/kit/fresh_folder.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/kit/source_tree.h"
+#include "tests/kit/subfolder_disk.h"
 #include "tests/safety/fault_rows.h"
 #include "tests/safety/scenario_run.h"
 #include "tests/safety/soundness.h"
@@ -47,6 +48,29 @@ kit::Folder WithDrafts() {
   return memory.Content();
 }
 
+// With a copy of other films.
+kit::Folder WithCopy() {
+  kit::Folder folder = Edited();
+  folder["backups/Recpra 2026-11-22 05-31-34.Dat"] = kit::Films(20, 31);
+  return folder;
+}
+
+// Without the copies of the collection.
+kit::Folder Collection(const kit::Folder& content) {
+  kit::Folder collection = Visible(content);
+  std::erase_if(collection, [](const auto& file) { return file.first.starts_with("backups/"); });
+  return collection;
+}
+
+// The films of each copy in the folder that a stop may have left; a copy is one only if it has films.
+std::vector<std::string> CopiedFilms(const kit::Folder& content) {
+  std::vector<std::string> films;
+  for (const auto& [name, bytes] : content) {
+    if (name.starts_with("backups/Collection") && name.ends_with("/Recpra.Dat")) films.push_back(bytes);
+  }
+  return films;
+}
+
 struct Writing {
   const char* Name;
   std::vector<std::string> Arguments;
@@ -54,6 +78,7 @@ struct Writing {
   std::size_t MostStates;  // of a loss of power, at each moment
   std::size_t Step = 1;    // between the calls that fail
   bool Repeats = true;     // done twice, it leaves the same
+  bool KeepsFilms = true;  // in their slots or in the history; not only in a copy
 };
 
 void PrintTo(const Writing& writing, std::ostream* text) { *text << writing.Name; }
@@ -66,8 +91,12 @@ const std::vector<Writing>& Writings() {
       {"Draft", {"draft", "--keep", "--write"}, WithDrafts, 32, 1, false},
       // Updates the film of slot 7 and adds one.
       {"Import", {"import", films.string(), "--doubles", "update", "--write"}, Edited, 32},
-      {"Sort", {"sort", "--write"}, Edited, 4},
-      {"Check", {"check", "--fix", "--write", "--yes"}, Disordered, 2, 3},
+      {"Backup", {"backup", "--write"}, Edited, 2, 7},
+      {"BackupAsZip", {"backup", "--zip", "--write"}, Edited, 8, 5},
+      {"RestoreBackup", {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"}, WithCopy, 4, 5, true, false},
+      {"Merge", {"merge", "Recpra 2026-11-22 05-31-34.Dat", "--write"}, WithCopy, 4, 5},
+      {"Sort", {"sort", "--write"}, Edited, 4, 3},
+      {"Check", {"check", "--fix", "--write", "--yes"}, Disordered, 2, 7},
   };
   return writings;
 }
@@ -83,15 +112,18 @@ bool IsOldOrNew(const std::string& name, const std::string& found, const std::st
     };
     if (film(found) != film(before) && film(found) != film(after)) return false;
   }
-  return found.size() == before.size() || found.size() == after.size();
+  return found.size() % store::RecordLength == 0 && found.size() >= before.size() && found.size() <= after.size();
 }
 
 class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
  protected:
   // The lock is in a real folder.
   int Write(runtime::Disk& disk) {
-    const companion::Ran ran = companion::RunIn(Locked.Path(), GetParam().Arguments, [&](const std::string&) {
-      return std::make_unique<kit::PassingDisk>(disk);
+    const std::string home = Locked.Path();
+    const companion::Ran ran = companion::RunIn(home, GetParam().Arguments, [&](const std::string& folder) {
+      std::unique_ptr<runtime::Disk> part = std::make_unique<kit::PassingDisk>(disk);
+      if (folder != home) part = std::make_unique<kit::SubfolderDisk>(disk, folder.substr(home.size() + 1));
+      return part;
     });
     Complaints = ran.Errors;
     return ran.Status;
@@ -99,7 +131,7 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
   kit::Folder Written() {
     kit::MemoryDisk memory(Before);
     EXPECT_EQ(Write(memory), companion::Done) << Complaints;
-    return Visible(memory.Content());
+    return Collection(memory.Content());
   }
   std::size_t Calls() {
     kit::MemoryDisk memory(Before);
@@ -110,25 +142,35 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
   // What is wrong with a folder in which the verb may have written, or must have.
   std::string ComplaintAfter(kit::MemoryDisk& memory, bool done) {
     if (StartedProgram started(memory); started.Program.Stopped()) return "the next start fails";
-    const kit::Folder found = Visible(memory.Content());
+    const kit::Folder found = Collection(memory.Content());
     for (const auto& [name, bytes] : found) {
       const auto before = Old.find(name), after = New.find(name);
       const std::string& old_bytes = before == Old.end() ? std::string() : before->second;
       if (after == New.end() || !IsOldOrNew(name, bytes, old_bytes, after->second)) return name + " is a mixture";
     }
     if (done && found != New) return "it was not written";
-    const std::string lost = Complaint(memory, {found}, Before);
+    for (const std::string& films : CopiedFilms(memory.Content())) {
+      if (films != Before.at("Recpra.Dat") && films != New.at("Recpra.Dat")) return "a copy has other films";
+    }
+    const std::string lost = GetParam().KeepsFilms ? Complaint(memory, {Visible(memory.Content())}, Before) : "";
     if (!lost.empty()) return lost;
     if (!GetParam().Repeats && found == New) return "";
     if (Write(memory) != companion::Done) return "the next try fails: " + Complaints;
-    return Visible(memory.Content()) == New ? "" : "the next try leaves another folder";
+    return Collection(memory.Content()) == New ? "" : "the next try leaves another folder";
   }
 
   const kit::FreshFolder Locked;
   std::string Complaints;
   const kit::Folder Before = GetParam().Before();
-  const kit::Folder Old = Visible(Before), New = Written();
+  const kit::Folder Old = Collection(Before), New = Written();
 };
+
+// What a test without faults leaves is another collection, or a copy of it.
+TEST_P(CompanionOnABadDisk, WritesWithoutFaults) {
+  kit::MemoryDisk memory(Before);
+  ASSERT_EQ(Write(memory), companion::Done);
+  EXPECT_TRUE(New != Old || Visible(memory.Content()).size() > Visible(Before).size());
+}
 
 TEST_P(CompanionOnABadDisk, FailsNamedAndLeavesTheOldOrTheNew) {
   const std::size_t calls = Calls();

@@ -1,0 +1,47 @@
+// Copies of a whole collection: a folder that is a collection itself, or a zip of its files. The copies that the
+// command reelora makes before each start are of the films alone, in the same folder `backups`.
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "companion/verb.h"
+#include "companion/zip.h"
+
+namespace companion {
+
+// Larger collections are refused: a copy is held in memory.
+inline constexpr std::size_t LargestCopy = std::size_t{512} * 1024 * 1024;
+
+// Whether a copy has such a file.
+bool BelongsToCollection(std::string_view name);
+// Those files of a folder. Nothing if they are larger than LargestCopy.
+std::optional<FilesByName> ReadCollection(runtime::Disk& disk);
+
+// The folder of the copies.
+std::string CopiesIn(const std::string& collection);
+
+enum class CopyKind { Films, Folder, Zip };
+struct NamedCopy {
+  std::string Name;
+  CopyKind Kind = CopyKind::Films;
+  std::chrono::local_seconds When;
+};
+// Of a name of the folder; nothing for what is no copy.
+std::optional<NamedCopy> CopyOfName(const std::string& name);
+// The oldest first.
+std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
+
+// Writes a new copy, synced and read back, and returns its name; nothing if it cannot be zipped or read back. A stop
+// leaves a folder without films, or a file whose name ends in .new, and neither is a copy.
+std::optional<std::string> WriteCopy(const DiskIn& make_disk, const std::string& folder, const FilesByName& files,
+                                     CopyKind kind);
+
+// The files of a copy, or of another collection: the name of one in the collection's folder of copies, or the path of a
+// folder, a zip or a file of films. Nothing if there is none that can be read.
+std::optional<FilesByName> ReadOther(const Invocation& invocation, const std::string& name);
+
+}  // namespace companion
