@@ -50,6 +50,8 @@ class Style final : public QProxyStyle {
 void SetUpLook() {
   QApplication::setStyle(std::make_unique<Style>().release());
   QApplication::setQuitOnLastWindowClosed(false);
+  // The name of the desktop entry: by it a desktop knows to which entry a window belongs.
+  QGuiApplication::setDesktopFileName(QStringLiteral("reelora-prima"));
   QIcon icon;
   for (int side : {16, 32, 48, 128}) icon.addPixmap(Artwork("reelora", {side, side}, 1));
   QApplication::setWindowIcon(icon);

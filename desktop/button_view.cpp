@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "desktop/artwork.h"
+#include "desktop/contrast.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -31,7 +32,7 @@ void PaintFace(QPainter& painter, const QWidget& button, const QColor& back, boo
   painter.setBrush(shade);
   painter.drawRoundedRect(face, corner, corner);
   if (!button.hasFocus()) return;
-  painter.setPen(QPen(QColor(0x00, 0x40, 0xC0), 2));
+  painter.setPen(QPen(StandingOut(QColor(0x00, 0x40, 0xC0), back, MarkContrast), 2));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(face.adjusted(1.5, 1.5, -1.5, -1.5), corner, corner);
 }
@@ -65,7 +66,9 @@ void PaintOption(QWidget& option, const forms::Captioned& control, bool round, b
   int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
   painter.drawText(words, flags, caption);
   if (!option.hasFocus()) return;
-  painter.setPen(QPen(fore, 1, Qt::DotLine));
+  QColor ground = option.palette().color(QPalette::Window);
+  if (control.Look().Transparent) ground = option.parentWidget()->palette().color(QPalette::Window);
+  painter.setPen(QPen(StandingOut(fore, ground, MarkContrast), 2));
   painter.drawRect(painter.boundingRect(words, flags, caption).adjusted(-2, -1, 2, 1));
 }
 

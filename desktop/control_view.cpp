@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "desktop/button_view.h"
+#include "desktop/contrast.h"
 #include "desktop/field_view.h"
 #include "desktop/label_view.h"
 #include "desktop/list_view.h"
@@ -64,8 +65,13 @@ QColor ToColour(forms::Colour colour) {
 }
 
 QColor DisabledColour(const QColor& fore, const QColor& back) {
-  auto mixed = [](int one, int other) { return (3 * one + 2 * other) / 5; };
-  return {mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue())};
+  QColor paler = fore;
+  for (int part : {5, 4, 3}) {  // fifths
+    auto mixed = [part](int one, int other) { return (part * one + (5 - part) * other) / 5; };
+    QColor mix(mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue()));
+    if (Contrast(mix, back) >= TextContrast) paler = mix;
+  }
+  return paler;
 }
 
 }  // namespace desktop

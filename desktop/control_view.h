@@ -55,9 +55,11 @@ std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& parent, 
                                       CodePageValidator::Refused refused);
 
 QColor ToColour(forms::Colour colour);
-// Disabled text colour.
+// Disabled text colour: paler, as far as it can still be read.
 QColor DisabledColour(const QColor& fore, const QColor& back);
-// What a screen reader says for the control.
+// What a screen reader says for the control; "" for a picture that is only there to be looked at.
 QString AccessibleName(const forms::Control& control);
+// What it says of a pick list that opens: its field, and what that has already taken. "" for a list without a field.
+QString OpenedWords(const forms::ListBox& list);
 
 }  // namespace desktop

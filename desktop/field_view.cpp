@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "desktop/contrast.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -12,6 +13,8 @@ namespace {
 
 constexpr double SmallestPart = 0.65;  // of the full font size
 constexpr int TextMargin = 4;          // pixels, including room for the caret
+constexpr QColor Frame(0x90, 0x90, 0xA8);
+constexpr QColor FocusFrame(0xF0, 0xA0, 0x00);
 
 }  // namespace
 
@@ -68,13 +71,22 @@ void FieldView::FitFont() {
   if (font != this->font()) setFont(font);
 }
 
+// The frame of the focus stands out from the window around it, and a second one within from the box.
 void FieldView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
-  double line = hasFocus() ? 2 : 1;
-  painter.setPen(QPen(hasFocus() ? QColor(0xF0, 0xA0, 0x00) : QColor(0x90, 0x90, 0xA8), line, Qt::SolidLine,
-                      Qt::SquareCap, Qt::MiterJoin));
-  painter.drawRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
+  auto frame = [&](const QColor& colour, double inset, double line) {
+    painter.setPen(QPen(colour, line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    double edge = inset + line / 2;
+    painter.drawRect(QRectF(rect()).adjusted(edge, edge, -edge, -edge));
+  };
+  if (!hasFocus()) {
+    frame(Frame, 0, 1);
+    return;
+  }
+  QColor around = parentWidget()->palette().color(QPalette::Window);
+  frame(StandingOut(FocusFrame, around, MarkContrast), 0, 2);
+  frame(StandingOut(FocusFrame, palette().color(QPalette::Base), MarkContrast), 2, 1);
 }
 
 }  // namespace desktop

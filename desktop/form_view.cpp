@@ -3,10 +3,12 @@
 
 #include <QCloseEvent>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <unordered_set>
 #include <utility>
 
+#include "desktop/accessible.h"
 #include "desktop/artwork.h"
 #include "desktop/notice_line.h"
 #include "desktop/notices.h"
@@ -44,10 +46,12 @@ FormView::FormView(forms::Window& window, StackView& all)
       menu_(
           window, *this, [this](forms::MenuItem& item) { stack_.Deliver([&] { window_.UserClick(item); }); },
           [this](forms::MenuItem& item) { stack_.Deliver([&] { window_.Owner().Desk.Help(item.Ids.HelpId); }); },
-          [this] { stack_.Sync(); }) {
+          [this] { stack_.Sync(); }),
+      list_(*this) {
+  InstallAccessibility();
   auto tags = TagsOf(window);
   for (forms::Control* control : window.Controls())
-    if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr});
+    if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr, {}});
   surface_.setAutoFillBackground(true);
   if (window.Modal) setWindowModality(Qt::ApplicationModal);
   input_.Watch(*this);
@@ -84,7 +88,21 @@ void FormView::MirrorControls() {
     if (slot.View->UpToDate()) continue;
     slot.View->Mirror(grid_);
     changed_.push_back(slot.View.get());
+    Hear(slot);
   }
+}
+
+// What the program writes is spoken when it comes up or changes, and a pick list when it opens.
+void FormView::Hear(Slot& slot) {
+  const forms::Control& control = *slot.Control;
+  bool list = control.Kind == forms::Kind::ListBox;
+  if (slot.Tag || !(list || control.Kind == forms::Kind::Label)) return;
+  QString words;
+  if (control.Visible())
+    words = list ? OpenedWords(static_cast<const forms::ListBox&>(control)) : AccessibleName(control);
+  bool news = list ? slot.Heard.isEmpty() : slot.Heard != words;
+  slot.Heard = words;
+  if (news) speech_.Add(words);
 }
 
 // Later controls lie over earlier ones, in whatever order they are first shown.
@@ -160,6 +178,12 @@ void FormView::PlaceNotices(NoticeLine* line) {
   if (more < 0) Grow(-std::min(grown_, height > 0 ? -more : grown_));
   LayOut();
   if (line) line->setVisible(height > 0);
+}
+
+void FormView::LieOver(FormView& other) {
+  for (const QWindow* below = other.windowHandle(); below; below = below->transientParent())
+    if (below == windowHandle()) return;
+  windowHandle()->setTransientParent(other.windowHandle());
 }
 
 // Moves up if the display has no room below. Never shrinks by more than it has grown.

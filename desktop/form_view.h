@@ -6,7 +6,9 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/announcer.h"
 #include "desktop/control_view.h"
+#include "desktop/list_table.h"
 #include "desktop/menu_view.h"
 #include "desktop/user_input.h"
 #include "forms/window.h"
@@ -26,8 +28,14 @@ class FormView final : public QWidget {
   MenuView& Menu() { return menu_; }
   // The background on which the controls lie.
   QWidget& Surface() { return surface_; }
+  // What is said of the window to those who do not see it.
+  Announcer& Speech() { return speech_; }
+  // The list of twenty; without rows on other windows.
+  ListTable& List() { return list_; }
   // nullptr if the control has not been shown yet.
   ControlView* ViewOf(const forms::Control& control) const;
+  // From now on this window lies in front of the other, on every desktop. Nothing if the other lies in front of it.
+  void LieOver(FormView& other);
   // Puts the notice line below the surface; nullptr for none. The window grows by the line's height as far as the
   // display has room, so that the form keeps its size.
   void PlaceNotices(NoticeLine* line);
@@ -41,9 +49,11 @@ class FormView final : public QWidget {
     forms::Control* Control;
     bool Tag;
     std::unique_ptr<ControlView> View;
+    QString Heard;
   };
   void MirrorControls();
   void MakeView(std::size_t index);
+  void Hear(Slot& slot);
   void SyncFrame();
   void SyncFocus();
   void LayOut();
@@ -63,6 +73,8 @@ class FormView final : public QWidget {
   int grown_ = 0;  // pixels that the window gained by the notice line
   std::string title_;
   forms::Control* focus_ = nullptr;
+  Announcer speech_{*this};
+  ListTable list_;
 };
 
 }  // namespace desktop

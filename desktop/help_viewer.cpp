@@ -14,6 +14,7 @@
 #include <memory>
 #include <utility>
 
+#include "desktop/accessible.h"
 #include "desktop/help_page.h"
 
 namespace desktop {
@@ -45,6 +46,7 @@ HelpViewer::HelpViewer(std::string folder)
       search_(QStringLiteral("&Search"), this),
       search_line_(this),
       page_(this) {
+  InstallAccessibility();
   setWindowTitle(QStringLiteral("Reelora Prima Help"));
   setGeometry(StartPlace);
   LayOut();

@@ -49,6 +49,7 @@ void LabelView::ApplyContent() {
   QString wanted = tag_ ? Unpadded(label_.Caption()) : Shown(label_.Caption()).remove('\r');
   if (wanted != text()) {
     setText(wanted);
+    setAccessibleName(AccessibleName(label_));
     fitted_ = false;
   }
   // Each font size costs time when it is first used: an empty label needs none.
@@ -87,7 +88,9 @@ void StripView::paintEvent(QPaintEvent*) {
 }
 
 PictureView::PictureView(forms::Picture& picture, QWidget& parent)
-    : QWidget(&parent), ControlView(picture), picture_(picture) {}
+    : QWidget(&parent), ControlView(picture), picture_(picture) {
+  setAccessibleName(AccessibleName(picture));
+}
 
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -2,9 +2,14 @@
 #include "desktop/list_view.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QScrollBar>
 
+#include "desktop/contrast.h"
+#include "desktop/drives.h"
 #include "desktop/text.h"
+#include "forms/window.h"
+#include "forms/window_stack.h"
 
 namespace desktop {
 namespace {
@@ -54,6 +59,7 @@ void ListView::ApplyContent() {
     for (const std::string& item : shown_) addItem(Shown(item));
   }
   ShowWholeRows();
+  NameDrives();
   if (currentRow() != list_.ListIndex()) setCurrentRow(list_.ListIndex());
   if (currentItem()) scrollToItem(currentItem());
   mirroring_ = false;
@@ -63,6 +69,27 @@ void ListView::ApplyContent() {
 void ListView::ShowWholeRows() {
   int row = sizeHintForRow(0);
   if (row > 0) setViewportMargins(0, 0, 0, (height() - 2 * frameWidth()) % row);
+}
+
+// The items of a list of drives are letters; the tooltip and the screen reader add the disk's name.
+void ListView::NameDrives() {
+  if (list_.Name != "Drive1") return;
+  for (int row = 0; row < count(); ++row) {
+    std::optional<std::string> folder =
+        list_.Owner().Owner().Desk.DriveFolder(shown_[static_cast<std::size_t>(row)][0]);
+    QString disk = folder ? DiskName(*folder) : QStringLiteral("no disk");
+    item(row)->setToolTip(disk);
+    item(row)->setData(Qt::AccessibleTextRole, QStringLiteral("%1 %2").arg(item(row)->text(), disk).trimmed());
+  }
+}
+
+void ListView::paintEvent(QPaintEvent* event) {
+  QListWidget::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(viewport());
+  QColor ground = palette().color(QPalette::Base);
+  painter.setPen(QPen(StandingOut(QColor(0xF0, 0xA0, 0x00), ground, MarkContrast), 2));
+  painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
 }
 
 // The toolkit would select the first item if none is selected; only the form selects.

@@ -21,9 +21,11 @@ class ListView final : public QListWidget, public ControlView {
   void ApplyLook(const Grid& grid) override;
   void ApplyContent() override;
   void focusInEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void ShowWholeRows();
+  void NameDrives();
 
   forms::ListBox& list_;
   std::vector<std::string> shown_;

@@ -10,6 +10,7 @@
 #include "app/program.h"
 #include "desktop/application.h"
 #include "desktop/application_look.h"
+#include "desktop/film_words.h"
 #include "desktop/front_request.h"
 #include "desktop/launcher_notice.h"
 #include "desktop/put_back_notice.h"
@@ -55,6 +56,8 @@ int Run(desktop::Application& application, const QStringList& arguments) {
     desktop::PutBackNotice put_back(program);
     desktop::StackView view(program.Windows, [&](const std::function<void()>& event) { put_back.Deliver(event); });
     put_back.DrawOn(view);
+    desktop::FilmNews news(program.RecordScreen);
+    view.SayAlso([&news] { return news.Take(); });
     desktop::FrontListener listener(folder, [&view] { view.BringToFront(); });
     desk.DrawOn(view);
     application.OnOutOfMemory([&] {

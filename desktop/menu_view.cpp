@@ -41,8 +41,12 @@ MenuView::MenuView(forms::Window& window, QWidget& parent, const ItemHandler& ch
 QMenu& MenuView::MenuFor(QAction& action) {
   if (!action.menu()) {
     menus_.push_back(std::make_unique<QMenu>());
-    menus_.back()->installEventFilter(this);
-    action.setMenu(menus_.back().get());
+    QMenu& menu = *menus_.back();
+    menu.installEventFilter(this);
+    // In a large font the toolkit leaves too little room beside the longest line.
+    connect(&menu, &QMenu::aboutToShow, this,
+            [&menu] { menu.setMinimumWidth(menu.sizeHint().width() + menu.fontMetrics().height()); });
+    action.setMenu(&menu);
   }
   return *action.menu();
 }
@@ -62,12 +66,27 @@ void MenuView::Scale(const Grid& grid) {
   font.setPixelSize(std::max(grid.Pixels(MenuPoints), SmallestFont));
   if (font == bar_.font()) return;
   bar_.setFont(font);
-  for (const auto& menu : menus_) menu->setFont(font);
+  for (const auto& menu : menus_) {
+    menu->setMinimumWidth(0);
+    menu->setFont(font);
+  }
 }
 
 void MenuView::Open(const forms::MenuItem& item) {
   QAction* action = ActionOf(item);
-  if (action && action->menu() && bar_.isVisible()) bar_.setActiveAction(action);
+  if (action && action->menu() && bar_.isVisible()) Open(*action);
+}
+
+void MenuView::Enter() {
+  if (!Empty() && bar_.isVisible()) Open(*lines_.front().Action);
+}
+
+// Down chooses the first line as it does for a user; choosing it directly would open the menu that it may have.
+void MenuView::Open(QAction& action) {
+  bar_.setActiveAction(&action);
+  if (action.menu()->activeAction()) return;
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  QApplication::sendEvent(action.menu(), &down);
 }
 
 QAction* MenuView::ActionOf(const forms::MenuItem& item) const {

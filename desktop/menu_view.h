@@ -28,8 +28,10 @@ class MenuView final : public QObject {
   void Scale(const Grid& grid);
   // Whether the user moves through the bar by keyboard.
   bool InKeyboardUse() const { return bar_.hasFocus() && bar_.activeAction(); }
-  // Opens the item's menu, as Alt and its letter do; does nothing for an item without one.
+  // Opens the item's menu with its first line chosen, as Alt and its letter do; does nothing for an item without one.
   void Open(const forms::MenuItem& item);
+  // Opens the first menu of the bar, as F10 does.
+  void Enter();
   QAction* ActionOf(const forms::MenuItem& item) const;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,6 +44,7 @@ class MenuView final : public QObject {
   };
   QMenu& MenuFor(QAction& action);
   forms::MenuItem* ActiveItem() const;
+  void Open(QAction& action);
 
   bool AskedForHelp();
   void UpdateFocus();

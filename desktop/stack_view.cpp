@@ -28,6 +28,19 @@ void StackView::Deliver(const std::function<void()>& event) {
 
 void StackView::Sync() {
   if (stopped_) return;
+  Draw();
+  if (FormView* front = news_ ? Front() : nullptr) front->Speech().Add(news_());
+  Say();
+}
+
+void StackView::Say() {
+  QString notice = notices_ ? notices_->Text() : QString();
+  FormView* with_line = noticed_ ? noticed_ : Front();
+  if (std::exchange(notice_said_, notice) != notice && with_line) with_line->Speech().Add(notice);
+  for (const auto& [window, view] : views_) view->Speech().Say();
+}
+
+void StackView::Draw() {
   for (forms::Window* window : windows_.All()) {
     std::unique_ptr<FormView>* view = nullptr;
     if (auto found = views_.find(window); found != views_.end()) {
@@ -39,8 +52,10 @@ void StackView::Sync() {
   }
   PlaceNotices();
   const forms::Window* front = windows_.Front();
-  if (std::exchange(front_, front) == front || !front) return;
+  const forms::Window* behind = std::exchange(front_, front);
+  if (behind == front || !front) return;
   FormView& view = *ViewOf(*front);
+  if (behind && behind->InSight()) view.LieOver(*ViewOf(*behind));
   view.raise();
   view.activateWindow();
 }
@@ -55,8 +70,11 @@ void StackView::BringToFront() {
   }
 }
 
+// What comes up in the middle of long work is said when it is over, but for what the program writes.
 void StackView::Paint() {
-  Sync();
+  if (stopped_) return;
+  Draw();
+  Say();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -74,7 +92,9 @@ NoticeLine& StackView::Notices() {
   // While an event runs, the Sync after it places the line: the window in front may still change.
   if (!notices_)
     notices_ = std::make_unique<NoticeLine>([this] {
-      if (!delivering_) PlaceNotices();
+      if (delivering_) return;
+      PlaceNotices();
+      Say();
     });
   return *notices_;
 }

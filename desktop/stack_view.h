@@ -22,8 +22,10 @@ class StackView {
 
   // Delivers the event, then updates what is drawn. Does nothing while another event runs.
   void Deliver(const std::function<void()>& event);
-  // Updates all drawn windows; a window is first drawn when it becomes visible.
+  // Updates all drawn windows, and says what has come up; a window is first drawn when it becomes visible.
   void Sync();
+  // News: what has come up besides what the windows themselves write, said with it; "" for nothing.
+  void SayAlso(std::function<QString()> news) { news_ = std::move(news); }
   // From now on the windows stay as they are drawn, and no event is delivered.
   void StopDrawing() { stopped_ = true; }
   bool Stopped() const { return stopped_; }
@@ -48,15 +50,19 @@ class StackView {
   void EndProgress();
 
  private:
+  void Draw();
+  void Say();
   void PlaceNotices();
 
   forms::WindowStack& windows_;
   Delivery deliver_;
+  std::function<QString()> news_;
   bool delivering_ = false;
   bool stopped_ = false;
   const forms::Window* front_ = nullptr;
   std::unordered_map<const forms::Window*, std::unique_ptr<FormView>> views_;
   FormView* noticed_ = nullptr;  // the window with the line
+  QString notice_said_;
   // After the views: it goes before the window that it lies in.
   std::unique_ptr<NoticeLine> notices_;
   std::optional<std::chrono::steady_clock::time_point> work_since_;

@@ -71,6 +71,10 @@ bool UserInput::KeyPressed(QKeyEvent& key) {
     AltPressed(*letter);
     return true;
   }
+  if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::NoModifier) {
+    form_.Menu().Enter();
+    return true;
+  }
   forms::Control* holder = Window().Focus();
   auto* field = holder ? dynamic_cast<FieldView*>(form_.ViewOf(*holder)) : nullptr;
   std::optional<forms::Key> named = NamedKey(key);

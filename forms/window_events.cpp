@@ -114,7 +114,8 @@ void Window::KeyInList(ListBox& list, Key key) {
       wanted = last;
       break;
     default:
-      Run(list.KeyPress);
+      // Where a list has no KeyPress of its own, Enter takes once more what is selected.
+      key == Key::Enter && !list.KeyPress ? list.Select(index) : Run(list.KeyPress);
       return;
   }
   if (wanted != index) list.Select(wanted);

@@ -37,6 +37,8 @@ struct frmPage1 : screen::PageControls, screen::RunState {
   forms::Window* frmQuickStart = nullptr;
   // Opens the copy window; not set if there is none.
   forms::Handler OpenCopyWindow;
+  // How many times ShowRecord has brought a film to the screen.
+  unsigned FilmsShown = 0;
 
 #define DECLARE_WINDOW_HANDLER(Event) void frmPage1_##Event();
   WINDOW_HANDLERS(DECLARE_WINDOW_HANDLER)

@@ -79,6 +79,7 @@ void ShowTrimmed(frmPage1& window, FilmField field) {
 }  // namespace
 
 void frmPage1::ShowRecord() {
+  ++FilmsShown;
   if (EditMode == 0) lblSorting.Hide();
   if (ClearOnShow == screen::ShowRecordBlanks) ClearRecord();
   lblNumrec.SetCaption("");

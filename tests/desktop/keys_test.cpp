@@ -62,6 +62,15 @@ TEST_F(Keys, AltAndALetterOpenTheMenuIfNoControlHasTheLetter) {
   Key(Qt::Key_M, "m", Qt::AltModifier);
   QMenu* menu = Drawn().Menu().ActionOf(Window.Menu)->menu();
   EXPECT_TRUE(menu->isVisible());
+  EXPECT_EQ(menu->activeAction(), Drawn().Menu().ActionOf(Window.Item));
+  menu->close();
+}
+
+TEST_F(Keys, F10OpensTheFirstMenuWithItsFirstLineChosen) {
+  Key(Qt::Key_F10);
+  QMenu* menu = Drawn().Menu().ActionOf(Window.Menu)->menu();
+  EXPECT_TRUE(menu->isVisible());
+  EXPECT_EQ(menu->activeAction(), Drawn().Menu().ActionOf(Window.Item));
   menu->close();
 }
 

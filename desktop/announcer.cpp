@@ -1,0 +1,45 @@
+// The toolkit has no announcements of its own here: the words are the name of a thing that shows anew.
+#include "desktop/announcer.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <utility>
+
+namespace desktop {
+namespace {
+
+// Between the words so far and the next.
+QString Joint(const QString& words) {
+  return words.back().isPunct() && words.back() != u'"' ? QStringLiteral(" ") : QStringLiteral(". ");
+}
+
+}  // namespace
+
+Announcer::Announcer(QWidget& window) : window_(window) { window.installEventFilter(this); }
+
+bool Announcer::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) QTimer::singleShot(0, this, [this] { Say(); });
+  return false;
+}
+
+void Announcer::Add(const QString& words) {
+  if (!words.isEmpty()) added_.append(words);
+}
+
+void Announcer::Say() {
+  bool at_front = window_.isActiveWindow() || QApplication::activeModalWidget();
+  if (added_.isEmpty() || !at_front) return;
+  words_.clear();
+  for (const QString& words : std::exchange(added_, {})) words_ += words_.isEmpty() ? words : Joint(words_) + words;
+  ++times_;
+  QAccessibleEvent named(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&named);
+  QAccessibleEvent shown(this, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&shown);
+}
+
+QString AnnouncerInterface::text(QAccessible::Text kind) const {
+  return kind == QAccessible::Name ? announcer_.Words() : QString();
+}
+
+}  // namespace desktop
