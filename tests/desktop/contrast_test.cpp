@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QTest>
 #include <algorithm>
 
 #include "tests/desktop/drawn_window.h"
@@ -34,8 +35,8 @@ class FocusMark : public testing::TestWithParam<forms::Colour>, public DrawnWind
  protected:
   // The picture of the control's part of the window, with and without the focus.
   QImage Picture(forms::Control& control) { return Drawn().Surface().grab(WidgetOf(control).geometry()).toImage(); }
-  // Of the pixels that the focus changes, the most that one stands out from what was there.
-  double MarkOn(forms::Control& control, forms::Control& other) {
+  // How many pixels the focus makes stand out from what was there.
+  int MarkOn(forms::Control& control, forms::Control& other) {
     other.SetFocus();
     View.Sync();
     QImage without = Picture(control);
