@@ -126,6 +126,16 @@ void PutBack(runtime::Disk& disk, const FilesByName& copy) {
   runtime::SyncFolders(disk, master);
 }
 
+int AddRestored(const FilesByName& copy, const std::string& kept, bool written, Output& output) {
+  Json json(output.Text);
+  json.BeginObject();
+  json.Add("films", CountFilms(copy));
+  json.Add("files", static_cast<std::int64_t>(copy.size()));
+  if (written) json.Add("keptAs", kept);
+  json.AddTruth("written", written);
+  return Done;
+}
+
 int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const FilesByName& copy, Output& output) {
   const std::optional<FilesByName> present = ReadWhole(disk);
   if (!present) return TooLarge(output);
@@ -137,6 +147,7 @@ int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const Files
     return Found;
   }
   PutBack(disk, copy);
+  if (invocation.Json) return AddRestored(copy, *kept, true, output);
   output.Text << Counted(CountFilms(copy), "film") << " put back. What was there, "
               << Counted(CountFilms(*present), "film") << ", is in \"" << *kept << "\".\n";
   if (copy.size() == 1) output.Text << "Sort afterwards, so that views and lists show them.\n";
@@ -179,6 +190,7 @@ int RestoreBackup(const Invocation& invocation, Output& output) {
     return WriteLocked(invocation, output,
                        [&](runtime::Disk& disk) { return WriteRestored(disk, invocation, *copy, output); });
   }
+  if (invocation.Json) return AddRestored(*copy, "", false, output);
   output.Text << Counted(CountFilms(*copy), "film") << " in "
               << Counted(static_cast<std::int64_t>(copy->size()), "file")
               << " would be put back, after a copy of what is there now.\n"

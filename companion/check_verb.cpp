@@ -148,6 +148,9 @@ int Fix(const Reading& reading, const Invocation& invocation, Output& output) {
 int Check(const Invocation& invocation, Output& output) {
   const bool fixing = invocation.Has("fix");
   if (invocation.Write && !fixing) return WrongUsage(invocation.Verb, output, "--write goes with --fix");
+  if (invocation.Write && invocation.Json) {
+    return WrongUsage(invocation.Verb, output, "--json has no questions; check again after the mending");
+  }
   const Reading reading(invocation);
   if (invocation.Write) return Fix(reading, invocation, output);
   const std::optional<Findings> findings = FindAll(reading);

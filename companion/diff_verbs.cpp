@@ -123,13 +123,14 @@ void AddAdditions(const std::vector<Addition>& added, bool written, std::ostream
   }
 }
 
-// Free records first, then those after the last. Nothing if there is no room for all.
+// Free records first, then those after the last. A film with another title is one that is missing here. Nothing if
+// there is no room for all.
 std::optional<std::vector<Addition>> PlanMerge(const TwoCollections& both, std::int64_t slots) {
   std::vector<bool> taken(static_cast<std::size_t>(slots) + 1);
   for (const NumberedFilm& film : both.Here) taken[static_cast<std::size_t>(film.Number)] = true;
   std::vector<Addition> added;
   std::int64_t record = 1;
-  for (const FilmPair& pair : Paired(both.Here, both.There)) {
+  for (const FilmPair& pair : Paired(both.Here, both.There, NewTitles::Apart)) {
     if (pair.Here) continue;
     while (record <= slots && taken[static_cast<std::size_t>(record)]) ++record;
     if (record > LastRecord) return std::nullopt;
@@ -177,7 +178,7 @@ int Diff(const Invocation& invocation, Output& output) {
   Counts counts;
   std::optional<Json> json;
   if (invocation.Json) json.emplace(output.Text).BeginList();
-  for (const FilmPair& pair : Paired(both->Here, both->There)) {
+  for (const FilmPair& pair : Paired(both->Here, both->There, NewTitles::Paired)) {
     if (pair.IsSame()) continue;
     counts.Add(pair);
     if (json)

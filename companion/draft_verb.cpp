@@ -55,17 +55,33 @@ int Show(const Reading& reading, const std::vector<NamedDraft>& drafts, const In
 }
 
 // A draft is removed only once its film is saved.
-int Settle(runtime::Disk& disk, const std::vector<NamedDraft>& drafts, bool keep, Output& output) {
-  for (const NamedDraft& draft : drafts) {
-    if (keep) {
-      runtime::Files files(disk);
-      if (!store::IsSaved(files, draft.Draft)) store::KeepDraft(files, draft.Draft);
-    }
-    store::RemoveDraft(disk, draft.Name);
-    output.Text << draft.Name << ": " << TitleOf(store::ToSave(draft.Draft))
-                << (keep ? " was saved.\n" : " was dropped.\n");
+void Settle(runtime::Disk& disk, const NamedDraft& draft, bool keep) {
+  if (keep) {
+    runtime::Files files(disk);
+    if (!store::IsSaved(files, draft.Draft)) store::KeepDraft(files, draft.Draft);
   }
-  if (keep) output.Text << SortAfterwards;
+  store::RemoveDraft(disk, draft.Name);
+}
+
+int SettleAll(runtime::Disk& disk, const std::vector<NamedDraft>& drafts, const Invocation& invocation,
+              Output& output) {
+  const bool keep = invocation.Has("keep");
+  std::optional<Json> json;
+  if (invocation.Json) json.emplace(output.Text).BeginList();
+  for (const NamedDraft& draft : drafts) {
+    Settle(disk, draft, keep);
+    const store::FilmRecord film = store::ToSave(draft.Draft);
+    if (!json) {
+      output.Text << draft.Name << ": " << TitleOf(film) << (keep ? " was saved.\n" : " was dropped.\n");
+      continue;
+    }
+    json->BeginObject();
+    json->Add("name", draft.Name);
+    json->Add("title", FieldText(film, store::FilmField::Title));
+    json->AddTruth("saved", keep);
+    json->End();
+  }
+  if (keep && !json) output.Text << SortAfterwards;
   return Done;
 }
 
@@ -89,7 +105,8 @@ int Draft(const Invocation& invocation, Output& output) {
     if ((keep || drop) && !drafts.empty() && !invocation.Json) output.Text << NothingWritten;
     return Done;
   }
-  return WriteLocked(invocation, output, [&](runtime::Disk& disk) { return Settle(disk, drafts, keep, output); });
+  return WriteLocked(invocation, output,
+                     [&](runtime::Disk& disk) { return SettleAll(disk, drafts, invocation, output); });
 }
 
 }  // namespace companion

@@ -98,17 +98,19 @@ FilmChecks::FilmChecks(const sort::Weights& weights, Findings& findings)
     : is_sorted_(sort::ParseStatement(store::StatementOf(store::SortPasses[0]))->Include, weights),
       findings_(findings) {}
 
+// Everything else is looked at as it is without control characters, so that all mends of a film fit together.
 void FilmChecks::Look(const NumberedFilm& film) {
   if (!HasTitle(film.Film)) {
     LookAtFree(film);
     return;
   }
-  LookAtTitle(film);
-  LookAtDouble(film);
-  for (FilmField field : AnyField().Fields) LookAtBytes(film, field);
-  for (const CodedField& coded : CodedFields()) LookAtCode(film, coded, findings_);
-  LookAtNumber(film, FilmField::Time, findings_);
-  LookAtNumber(film, FilmField::Year, findings_);
+  NumberedFilm clean = film;
+  for (FilmField field : AnyField().Fields) LookAtBytes(film, field, clean.Film);
+  LookAtTitle(clean);
+  LookAtDouble(clean);
+  for (const CodedField& coded : CodedFields()) LookAtCode(clean, coded, findings_);
+  LookAtNumber(clean, FilmField::Time, findings_);
+  LookAtNumber(clean, FilmField::Year, findings_);
   if (film.Film.Get(FilmField::Tail) != LineEnd) {
     findings_.push_back({film.Number, "line end", "the record does not end in CR LF",
                          "Other programs cannot read the file as lines.", Mend{FilmField::Tail, std::string(LineEnd)}});
@@ -156,14 +158,22 @@ void FilmChecks::LookAtDouble(const NumberedFilm& film) {
                        "If it is the same film, delete one in the program."});
 }
 
-void FilmChecks::LookAtBytes(const NumberedFilm& film, FilmField field) {
+void FilmChecks::LookAtBytes(const NumberedFilm& film, FilmField field, store::FilmRecord& clean) {
   const std::string_view bytes = film.Film.Get(field);
   const std::string name(RowOf(field).Name);
   if (std::any_of(bytes.begin(), bytes.end(), IsControl)) {
     std::string mended(bytes);
     std::replace_if(mended.begin(), mended.end(), IsControl, ' ');
-    findings_.push_back({film.Number, name, Quoted(runtime::Trim(bytes)) + " has control characters",
-                         "A blank can stand for each.", Mend{field, mended}});
+    Finding finding{film.Number, name, Quoted(runtime::Trim(bytes)) + " has control characters",
+                    "A blank can stand for each."};
+    // Without a title the film would be gone.
+    if (field == FilmField::Title && runtime::Trim(mended).empty()) {
+      finding.ToDo = "Give the film a title in the program.";
+    } else {
+      clean.Set(field, mended);
+      finding.How = Mend{field, std::move(mended)};
+    }
+    findings_.push_back(std::move(finding));
   }
   if (std::any_of(bytes.begin(), bytes.end(), IsUnstorable)) {
     findings_.push_back({film.Number, name, Quoted(runtime::Trim(bytes)) + " has characters that the code page lacks",

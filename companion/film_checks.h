@@ -21,7 +21,8 @@ class FilmChecks {
   void LookAtFree(const NumberedFilm& film);
   void LookAtTitle(const NumberedFilm& film);
   void LookAtDouble(const NumberedFilm& film);
-  void LookAtBytes(const NumberedFilm& film, store::FilmField field);
+  // Takes the control characters out of clean.
+  void LookAtBytes(const NumberedFilm& film, store::FilmField field, store::FilmRecord& clean);
 
   const sort::IncludeFilter is_sorted_;
   Findings& findings_;

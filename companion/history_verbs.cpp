@@ -67,40 +67,59 @@ int ShowOne(const Reading& reading, const Invocation& invocation, std::int64_t n
   return Done;
 }
 
-void NoteRestored(const store::KeptFilm& kept, std::int64_t slot, const std::string& there, bool written,
-                  std::ostream& text) {
-  text << "Record " << slot << (written ? " holds " : " would hold ") << TitleOf(kept.Film) << " again, in place of "
-       << there << ".\n"
-       << (written ? SortAfterwards : NothingWritten);
-}
+// A film that goes back, or would.
+struct Restored {
+  const store::FilmRecord& Film;
+  std::int64_t Record = 0;
+  store::FilmRecord There;  // before
+  bool Written = false;
+};
 
-// Where it would go, and what is there; "Bad record number" as for a write if the master file has no such slot.
-int TellRestored(const Reading& reading, const store::KeptFilm& kept, bool free, Output& output) {
-  const std::int64_t length = reading.Length();
-  if (!free && (kept.Slot - 1) * store::RecordLength >= length)
-    throw runtime::Failure{runtime::BadRecordNumber, std::string(store::MasterFileName)};
-  if (free) {
-    output.Text << "The first free record would hold " << TitleOf(kept.Film) << " again.\n" << NothingWritten;
-  } else {
-    NoteRestored(kept, kept.Slot, TitleOf(reading.At(kept.Slot)), false, output.Text);
-  }
-  return Done;
-}
-
-int WriteRestored(runtime::Disk& disk, const Reading& reading, store::KeptFilm kept, bool free, Output& output) {
-  runtime::Files files(disk);
-  if (!free) {
-    const std::string there = TitleOf(reading.At(kept.Slot));
-    store::PutBack(files, kept);
-    NoteRestored(kept, kept.Slot, there, true, output.Text);
+int Tell(const Restored& restored, const Invocation& invocation, Output& output) {
+  if (invocation.Json) {
+    Json json(output.Text);
+    json.BeginObject();
+    json.Add("record", restored.Record);
+    json.Add("title", FieldText(restored.Film, store::FilmField::Title));
+    json.Add("inPlaceOf", FieldText(restored.There, store::FilmField::Title));
+    json.AddTruth("written", restored.Written);
     return Done;
   }
-  constexpr int MasterNo = 1;
-  store::OpenMaster(files, MasterNo);
-  const std::int64_t slot = store::FirstFreeSlot(files, MasterNo, 1);
-  store::WriteRecord(files, MasterNo, slot, kept.Film);
-  NoteRestored(kept, slot, "nothing", true, output.Text);
+  output.Text << "Record " << restored.Record << (restored.Written ? " holds " : " would hold ")
+              << TitleOf(restored.Film) << " again, in place of " << TitleOf(restored.There) << ".\n"
+              << (restored.Written ? SortAfterwards : NothingWritten);
   return Done;
+}
+
+std::int64_t FreeRecord(const Reading& reading) {
+  const std::int64_t slots = reading.Slots();
+  for (std::int64_t slot = 1; slot <= slots; ++slot) {
+    if (!HasTitle(reading.At(slot))) return slot;
+  }
+  return slots + 1;
+}
+
+// "Bad record number" as for a write if the master file has no such slot.
+int TellRestored(const Reading& reading, const store::KeptFilm& kept, const Invocation& invocation, Output& output) {
+  const std::int64_t record = invocation.Has("free") ? FreeRecord(reading) : kept.Slot;
+  if (!invocation.Has("free") && (record - 1) * store::RecordLength >= reading.Length())
+    throw runtime::Failure{runtime::BadRecordNumber, std::string(store::MasterFileName)};
+  return Tell({kept.Film, record, reading.At(record), false}, invocation, output);
+}
+
+int WriteRestored(runtime::Disk& disk, const store::KeptFilm& kept, const Invocation& invocation, Output& output) {
+  constexpr int MasterNo = 1;
+  runtime::Files files(disk);
+  store::OpenMaster(files, MasterNo);
+  Restored restored{kept.Film, kept.Slot, {}, true};
+  if (invocation.Has("free")) restored.Record = store::FirstFreeSlot(files, MasterNo, 1);
+  store::ReadRecord(files, MasterNo, restored.Record, restored.There);
+  if (invocation.Has("free")) {
+    store::WriteRecord(files, MasterNo, restored.Record, kept.Film);
+  } else {
+    store::PutBack(files, kept);
+  }
+  return Tell(restored, invocation, output);
 }
 
 }  // namespace
@@ -134,10 +153,9 @@ int Restore(const Invocation& invocation, Output& output) {
   const Reading reading(invocation);
   const std::optional<store::KeptFilm> kept = store::ReadKeptFilm(reading.Disk(), *number);
   if (!kept) return NoEntry(invocation.Arguments[0], output);
-  const bool free = invocation.Has("free");
-  if (!invocation.Write) return TellRestored(reading, *kept, free, output);
+  if (!invocation.Write) return TellRestored(reading, *kept, invocation, output);
   return WriteLocked(invocation, output,
-                     [&](runtime::Disk& disk) { return WriteRestored(disk, reading, *kept, free, output); });
+                     [&](runtime::Disk& disk) { return WriteRestored(disk, *kept, invocation, output); });
 }
 
 }  // namespace companion

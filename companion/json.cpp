@@ -2,6 +2,7 @@
 // are written as they go and never held as a tree.
 #include "companion/json.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace companion {
@@ -65,7 +66,13 @@ void Json::BeforeItem(std::string_view name) {
   text_ << ":";
 }
 
+// Most texts need no quoting by the library.
 void Json::WriteText(std::string_view utf8) {
+  const auto is_plain = [](char byte) { return byte >= ' ' && byte < '\x7F' && byte != '"' && byte != '\\'; };
+  if (std::all_of(utf8.begin(), utf8.end(), is_plain)) {
+    text_ << '"' << utf8 << '"';
+    return;
+  }
   constexpr bool AsciiOnly = true;
   text_ << nlohmann::json(utf8).dump(-1, ' ', AsciiOnly, nlohmann::json::error_handler_t::replace);
 }

@@ -25,9 +25,10 @@ std::string TitleAndYear(const NumberedFilm& film) {
   return std::string(Content(film.Film, FilmField::Year)) + " " + Title(film);
 }
 
-std::string RecordAndDirector(const NumberedFilm& film) {
+std::string RecordDirectorAndYear(const NumberedFilm& film) {
   const std::string director = runtime::Upper(Content(film.Film, FilmField::Director));
-  return director.empty() ? "" : std::to_string(film.Number) + " " + director;
+  const std::string year(Content(film.Film, FilmField::Year));
+  return director.empty() || year.empty() ? "" : std::to_string(film.Number) + " " + year + " " + director;
 }
 
 // By film of here, those of there; films of one key in their order.
@@ -82,9 +83,12 @@ std::vector<NumberedFilm> FilmsIn(std::string_view master) {
   return films;
 }
 
-std::vector<FilmPair> Paired(const std::vector<NumberedFilm>& here, const std::vector<NumberedFilm>& there) {
+std::vector<FilmPair> Paired(const std::vector<NumberedFilm>& here, const std::vector<NumberedFilm>& there,
+                             NewTitles new_titles) {
   Pairing pairing(here, there);
-  for (const auto& key_of : {RecordAndTitle, TitleAndYear, RecordAndDirector}) pairing.PairBy(key_of);
+  pairing.PairBy(RecordAndTitle);
+  pairing.PairBy(TitleAndYear);
+  if (new_titles == NewTitles::Paired) pairing.PairBy(RecordDirectorAndYear);
   return pairing.Pairs();
 }
 

@@ -16,8 +16,8 @@ constexpr std::string_view TestDetails =
 
 constexpr std::string_view OtherDetails =
     "OTHER is the path of a collection, a zip of one or a file of films, or a name that backups lists. Films belong\n"
-    "together if they have the same title in the same record, or the same title and year, or the same director in the\n"
-    "same record. Status 1 of diff: something differs.\n";
+    "together if they have the same title in the same record, or the same title and year; for diff also if they have the\n"
+    "same director and year in the same record. Status 1 of diff: something differs.\n";
 
 constexpr Option ListOptions[] = {
   { "sort",    's', "FIELDS",  "in this order; with - in front of a field, the other way round" },

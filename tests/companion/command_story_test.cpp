@@ -5,6 +5,7 @@
 
 #include "companion/verbs.h"
 #include "tests/kit/source_tree.h"
+#include "tests/story/world.h"
 
 namespace command_story {
 namespace {
@@ -39,6 +40,21 @@ std::string NameOf(const testing::TestParamInfo<std::string>& file) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Verbs, CommandStory, testing::ValuesIn(Files()), NameOf);
+
+TEST(ManPage, HasASectionForEachVerbAndEachOption) {
+  const std::string page = *story::ReadBytes(kit::SourceFolder() / "packaging/reelora-collection.1");
+  for (const companion::Verb& verb : companion::Verbs()) {
+    std::string heading = "\n.SS " + std::string(verb.Name);
+    if (!verb.Arguments.empty()) heading.append(" ").append(verb.Arguments);
+    const std::size_t at = page.find(heading + "\n");
+    ASSERT_NE(at, std::string::npos) << heading;
+    const std::string section = page.substr(at, page.find("\n.S", at + 1) - at);
+    for (const companion::Option& option : verb.Options) {
+      EXPECT_NE(section.find("\\-\\-" + std::string(option.Name)), std::string::npos)
+          << verb.Name << " " << option.Name;
+    }
+  }
+}
 
 TEST(CommandStoryRunner, TellsWhatWasPrintedInstead) {
   const Story wrong{"", 1, {"film 1 Title=\"Alien\"", "$ history", "> Nothing."}};
