@@ -2,6 +2,7 @@
 #include "desktop/form_view.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -63,10 +64,14 @@ FormView::FormView(forms::Window& window, StackView& all)
   menu_.Bar().setVisible(!menu_.Empty());
   resize(width(), height() + surface_.y());
   move(screen()->availableGeometry().center() - rect().center());
+  TakePlace();
 }
+
+FormView::~FormView() { KeepPlace(); }
 
 void FormView::Sync() {
   if (!window_.InSight()) {
+    KeepPlace();
     hide();
     return;
   }
@@ -201,6 +206,28 @@ QSize FormView::StartSize() const {
   QSize room = screen()->availableSize() * RoomOnDisplay;
   QSize wanted = Scaled(window_, StartScale);
   return wanted.boundedTo(wanted.scaled(room, Qt::KeepAspectRatio));
+}
+
+// Where the user left the window in an earlier run.
+void FormView::TakePlace() {
+  if (!stack_.Places()) return;
+  std::optional<WindowPlace> place = stack_.Places()->Of(QString::fromStdString(window_.Name));
+  if (!place) return;
+  QList<QRect> screens;
+  for (const QScreen* one : QGuiApplication::screens()) screens.append(one->availableGeometry());
+  QRect area = InSight(place->Area, screens);
+  resize(area.size().expandedTo(minimumSize()));
+  move(area.topLeft());
+  if (place->Maximized) setWindowState(Qt::WindowMaximized);
+}
+
+// Without what the notice line has added. A maximized window keeps the area that it goes back to.
+void FormView::KeepPlace() {
+  if (!stack_.Places() || !isVisible()) return;
+  QRect area(pos(), size());
+  if (isMaximized()) area = normalGeometry().translated(pos() - geometry().topLeft());
+  area.setHeight(area.height() - grown_);
+  stack_.Places()->Keep(QString::fromStdString(window_.Name), {area, isMaximized()});
 }
 
 void FormView::resizeEvent(QResizeEvent*) {

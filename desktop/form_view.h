@@ -21,6 +21,7 @@ class StackView;
 class FormView final : public QWidget {
  public:
   FormView(forms::Window& window, StackView& all);
+  ~FormView() override;
 
   // Updates the widgets of all changed controls, and the focus.
   void Sync();
@@ -59,6 +60,8 @@ class FormView final : public QWidget {
   void LayOut();
   void Grow(int pixels);
   QSize StartSize() const;
+  void TakePlace();
+  void KeepPlace();
 
   forms::Window& window_;
   StackView& stack_;

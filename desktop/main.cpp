@@ -54,10 +54,12 @@ int Run(desktop::Application& application, const QStringList& arguments) {
     desktop::QtDesk desk(".");
     Program program(desk, disk);
     desktop::PutBackNotice put_back(program);
+    desktop::WindowPlaces places;
     desktop::StackView view(program.Windows, [&](const std::function<void()>& event) { put_back.Deliver(event); });
     put_back.DrawOn(view);
     desktop::FilmNews news(program.RecordScreen);
     view.SayAlso([&news] { return news.Take(); });
+    view.RememberPlaces(places);
     desktop::FrontListener listener(folder, [&view] { view.BringToFront(); });
     desk.DrawOn(view);
     application.OnOutOfMemory([&] {

@@ -10,6 +10,7 @@
 
 #include "desktop/form_view.h"
 #include "desktop/notice_line.h"
+#include "desktop/window_places.h"
 #include "forms/window_stack.h"
 
 namespace desktop {
@@ -19,6 +20,11 @@ class StackView {
   // Delivers one user event to the program.
   using Delivery = std::function<void(const std::function<void()>&)>;
   StackView(forms::WindowStack& windows, Delivery deliver);
+
+  // From now on windows open where the user left them. Call before the first Sync.
+  void RememberPlaces(WindowPlaces& places) { places_ = &places; }
+  // nullptr if places are not remembered.
+  WindowPlaces* Places() const { return places_; }
 
   // Delivers the event, then updates what is drawn. Does nothing while another event runs.
   void Deliver(const std::function<void()>& event);
@@ -55,6 +61,7 @@ class StackView {
   void PlaceNotices();
 
   forms::WindowStack& windows_;
+  WindowPlaces* places_ = nullptr;
   Delivery deliver_;
   std::function<QString()> news_;
   bool delivering_ = false;
