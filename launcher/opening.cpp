@@ -77,7 +77,8 @@ class Opening {
       return std::nullopt;
     }
     if (!Make(folder)) return std::nullopt;
-    if (!IsCollection(folder) && !IsEmpty(folder) && !person_.MayFill(folder)) return std::nullopt;
+    // In this order: what another start has just put there begins with what makes it a collection.
+    if (!IsEmpty(folder) && !IsCollection(folder) && !person_.MayFill(folder)) return std::nullopt;
     preparation_.Prepare(folder);
     preparation_.Remember(folder);
     return Opened{folder, preparation_.Notice()};

@@ -6,7 +6,9 @@
 #include <algorithm>
 
 #include "runtime/failure.h"
+#include "store/master_file.h"
 #include "tests/kit/faulty_disk.h"
+#include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
 
 namespace launcher {
@@ -102,6 +104,37 @@ TEST(KeepCopy, RemovesWhatIsSuperseded) {
   EXPECT_TRUE(copies.Content().contains("notes.txt"));
   EXPECT_TRUE(copies.Content().contains(NameOfCopy(Now)));
   EXPECT_FALSE(copies.Content().contains(NameOfCopy(Now - days(500) - seconds(11))));
+}
+
+// A stop can leave half a film in the master file, which the journal makes whole.
+TEST(KeepCopy, HasNoHalfFilmOfASaveThatWasStopped) {
+  const Folder before = kit::FolderOfFilms(8);
+  store::FilmRecord film;
+  std::ranges::copy(kit::FilmBytes(7, 1), film.Bytes.begin());
+  const std::string slot_before = before.at(Master).substr(6 * store::RecordLength, store::RecordLength);
+  auto save = [&](runtime::Disk& disk) {
+    runtime::Files files(disk);
+    store::OpenMaster(files, 1);
+    store::WriteRecord(files, 1, 7, film);
+  };
+  MemoryDisk counted(before);
+  kit::FaultyDisk counting(counted);
+  save(counting);
+  bool torn = false;
+  for (std::size_t call = 0; call < counting.Calls(); ++call) {
+    MemoryDisk collection(before), copies(Folder{});
+    kit::FaultyDisk faulty(collection, {kit::Fault::KillHalfway, call, true});
+    try {
+      save(faulty);
+    } catch (const kit::Killed&) {
+    }
+    auto slot = [](const std::string& films) { return films.substr(6 * store::RecordLength, store::RecordLength); };
+    auto whole = [&](const std::string& bytes) { return bytes == slot_before || bytes == kit::FilmBytes(7, 1); };
+    torn = torn || !whole(slot(collection.Content()[Master]));
+    KeepCopy(collection, copies, Now);
+    EXPECT_TRUE(whole(slot(copies.Content()[NameOfCopy(Now)]))) << "killed at call " << call;
+  }
+  EXPECT_TRUE(torn) << "no kill tore the film, so nothing was shown";
 }
 
 // Every call of the copies' disk fails in every way: the copies that were there stay, and a copy under its name is
