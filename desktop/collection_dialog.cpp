@@ -59,7 +59,7 @@ QString FolderForNew(const QString& picked) {
 
 CollectionDialog::CollectionDialog(const launcher::Question& question)
     : home_(std::filesystem::path(question.Suggested).parent_path().string()) {
-  setWindowTitle(QStringLiteral("Reelora Prima"));
+  setWindowTitle(QStringLiteral("Reelora Prima - Open a Collection"));
   auto* column = Make<QVBoxLayout>(this);
   auto* heading = Make<QLabel>(HeadingOf(question));
   heading->setTextFormat(Qt::PlainText);

@@ -17,6 +17,7 @@ real_program() {
   trap 'kill $running $server 2>/dev/null; wait 2>/dev/null; rm -rf -- "$work"' EXIT
   open_display || { echo "skipped: Xvfb does not start"; exit 0; }
   export QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work HOME=$work
+  unset XDG_CONFIG_HOME XDG_DATA_HOME
   collection=$work/films
   mkdir -- "$collection"
   find "$source_folder/delivered" -maxdepth 1 -type f -exec cp -t "$collection" -- {} +
