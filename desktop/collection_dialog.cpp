@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "desktop/text.h"
 #include "store/master_file.h"
 
 namespace desktop {
@@ -30,7 +31,7 @@ QString HeadingOf(const launcher::Question& question) {
     return QStringLiteral(
                "The collection that was open last cannot be found:\n\n%1\n\nIf it is on a disk that is not connected, "
                "connect the disk and try again.")
-        .arg(ShownPath(question.Missing).replace('/', QStringLiteral("/\u200B")));
+        .arg(Breakable(ShownPath(question.Missing)));
   if (question.Known.empty())
     return QStringLiteral("Welcome to Reelora Prima.\n\nWhere shall your film collection be kept?");
   return QStringLiteral("Which collection shall be opened?");

@@ -9,6 +9,7 @@
 
 #include "desktop/application_look.h"
 #include "desktop/collection_dialog.h"
+#include "desktop/text.h"
 
 namespace desktop {
 namespace {
@@ -30,11 +31,6 @@ std::unique_ptr<QApplication> OpenDisplay() {
   auto application = std::make_unique<QApplication>(count, arguments.data());
   qunsetenv(PlatformVariable);
   return QGuiApplication::platformName() == NoDisplay ? nullptr : std::move(application);
-}
-
-// A line may break after each folder of a path.
-QString Breakable(const std::string& text) {
-  return QString::fromStdString(text).replace('/', QStringLiteral("/\u200B"));
 }
 
 }  // namespace
@@ -66,7 +62,7 @@ bool LauncherBoxes::MayFill(const std::string& folder) {
     Tell(text);
     return false;
   }
-  QMessageBox box(QMessageBox::Question, Title, Breakable(text), QMessageBox::Cancel);
+  QMessageBox box(QMessageBox::Question, Title, Breakable(QString::fromStdString(text)), QMessageBox::Cancel);
   box.setTextFormat(Qt::PlainText);
   box.setInformativeText(QStringLiteral("Shall a new collection be put among them?"));
   QPushButton* put = box.addButton(QStringLiteral("&Put it there"), QMessageBox::AcceptRole);
@@ -79,7 +75,7 @@ void LauncherBoxes::Tell(const std::string& text) {
   has_told_ = true;
   std::fprintf(stderr, "reelora: %s\n", text.c_str());
   if (!HasDisplay()) return;
-  QMessageBox box(QMessageBox::Warning, Title, Breakable(text), QMessageBox::Ok);
+  QMessageBox box(QMessageBox::Warning, Title, Breakable(QString::fromStdString(text)), QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.exec();

@@ -43,4 +43,19 @@ QString NotTyped(const QString& text) {
 
 QString Spoken(std::string_view caption) { return Shown(caption).remove('&').simplified(); }
 
+QString Breakable(const QString& text) {
+  constexpr int LongestWord = 40;
+  constexpr QChar MayBreak(0x200B);
+  QString broken;
+  int length = 0;
+  for (QChar character : text) {
+    broken.append(character);
+    length = character.isSpace() ? 0 : length + 1;
+    if (character != '/' && (length < LongestWord || character.isHighSurrogate())) continue;
+    broken.append(MayBreak);
+    length = 0;
+  }
+  return broken;
+}
+
 }  // namespace desktop

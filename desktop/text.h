@@ -18,4 +18,7 @@ QString NotTyped(const QString& text);
 // A caption as read aloud: blanks folded and trimmed, no hot key mark.
 QString Spoken(std::string_view caption);
 
+// The same text to look at, in which a line can break after each slash and inside a long word.
+QString Breakable(const QString& text);
+
 }  // namespace desktop

@@ -32,5 +32,13 @@ TEST(Text, ACaptionIsSpokenWithoutPaddingAndHotKey) {
   EXPECT_EQ(Spoken("Ne&w"), "New");
 }
 
+TEST(Breakable, LetsALineBreakInAPathAndInALongWord) {
+  EXPECT_EQ(Breakable("in /a/b c"), QString::fromUtf16(u"in /\u200Ba/\u200Bb c"));
+  EXPECT_EQ(Breakable(QString(50, 'x')), QString(40, 'x') + QChar(0x200B) + QString(10, 'x'));
+  EXPECT_EQ(Breakable(QString(30, 'x') + " " + QString(30, 'x')), QString(30, 'x') + " " + QString(30, 'x'));
+  QString film = QString(39, 'x') + QString::fromUtf16(u"\U0001F3AC");
+  EXPECT_EQ(Breakable(film), film + QChar(0x200B)) << "a character was cut in two";
+}
+
 }  // namespace
 }  // namespace desktop
