@@ -75,7 +75,7 @@ CollectionDialog::CollectionDialog(const launcher::Question& question)
   }
   AddTypedRow(QStringLiteral("A &new collection in the folder"), {Choice::What::New, question.Suggested},
               QStringLiteral("Folder for a New Collection"));
-  AddTypedRow(QStringLiteral("A collection that &exists in the folder"), {Choice::What::Existing, ""},
+  AddTypedRow(QStringLiteral("An &existing collection in the folder"), {Choice::What::Existing, ""},
               QStringLiteral("Folder of a Collection"));
   AddRow(QStringLiteral("The &sample collection, to look around"), {Choice::What::Sample, ""});
   column->addSpacing(8);

@@ -89,7 +89,7 @@ int main(int argc, char** argv) {
     case launcher::Wish::Version:
       return std::puts("Reelora Prima " REELORA_VERSION) < 0 ? Failed : 0;
     case launcher::Wish::Wrong:
-      desktop::LauncherBoxes().Tell(arguments.Text + "\n\n" + std::string(launcher::Usage));
+      desktop::LauncherBoxes().Tell(arguments.Text + " The command reelora --help lists what can be given.");
       return WrongUse;
     default:
       return Open(arguments, launcher::FindPlaces(Executable(argv[0]), VariableOf, AccountHome()));

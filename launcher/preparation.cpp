@@ -13,6 +13,7 @@
 #include "runtime/checksum.h"
 #include "runtime/copy_file.h"
 #include "runtime/folder_lock.h"
+#include "runtime/whole_io.h"
 #include "store/master_file.h"
 
 namespace launcher {
@@ -27,11 +28,12 @@ bool IsFolder(const std::string& path) {
   return fs::is_directory(path, none);
 }
 
-// The permissions of another folder, so that copies are read by nobody else.
-void MakeFolderLike(const std::string& folder, const std::string& model) {
+// The permissions of another folder, so that copies are read by nobody else. Returns whether the folder is new.
+bool MakeFolderLike(const std::string& folder, const std::string& model) {
   std::error_code error;
-  fs::create_directory(folder, model, error);
+  bool made = fs::create_directory(folder, model, error);
   if (error) throw runtime::Failure{runtime::NameOfSystemError(error.value()), folder, error.value()};
+  return made;
 }
 
 std::string MasterSeenFrom(const std::string& copies_folder, const std::string& folder) {
@@ -135,7 +137,10 @@ void Preparation::CopyTo(const std::string& folder, const std::string& copies_fo
   try {
     const auto collection = DiskOf(folder);
     if (!HasFilms(*collection)) return;
-    MakeFolderLike(copies_folder, folder);
+    if (MakeFolderLike(copies_folder, folder)) {
+      const auto parent = DiskOf(fs::path(copies_folder).parent_path().string());
+      runtime::RetryInterrupted(copies_folder, [&] { return parent->SyncFolder(""); });
+    }
     const auto copies = disk_in_(copies_folder, runtime::RealDisk::Links::Refused);
     copies->NewFilesLike(MasterSeenFrom(copies_folder, folder));
     KeepCopy(*collection, *copies, now_);
