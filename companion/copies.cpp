@@ -2,6 +2,7 @@
 #include "companion/copies.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "launcher/copies.h"
 #include "runtime/clock.h"
@@ -185,11 +186,9 @@ std::optional<FilesByName> ReadOther(const Invocation& invocation, const std::st
     if (auto files = ReadAt(invocation.MakeDisk, CopiesIn(invocation.Folder), name)) return files;
     return ReadAt(invocation.MakeDisk, ".", name);
   }
-  const std::size_t slash =
-      name.find_last_not_of('/') == std::string::npos ? 0 : name.rfind('/', name.find_last_not_of('/'));
-  if (slash == std::string::npos || slash == 0)
-    return ReadAt(invocation.MakeDisk, "/", name.substr(slash == 0 ? 1 : 0));
-  return ReadAt(invocation.MakeDisk, name.substr(0, slash), name.substr(slash + 1));
+  std::filesystem::path path(name);
+  if (!path.has_filename()) path = path.parent_path();  // a folder with a slash after it
+  return ReadAt(invocation.MakeDisk, path.parent_path(), path.filename());
 }
 
 }  // namespace companion

@@ -32,16 +32,6 @@ void Json::End() {
   first_ = false;
 }
 
-void Json::Add(std::string_view utf8) {
-  BeforeItem({});
-  WriteText(utf8);
-}
-
-void Json::Add(std::int64_t number) {
-  BeforeItem({});
-  text_ << number;
-}
-
 void Json::Add(std::string_view name, std::string_view utf8) {
   BeforeItem(name);
   WriteText(utf8);

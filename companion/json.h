@@ -21,10 +21,7 @@ class Json {
   void BeginObject(std::string_view name = {});
   void End();
 
-  // In a list.
-  void Add(std::string_view utf8);
-  void Add(std::int64_t number);
-  // In an object.
+  // Members of an object.
   void Add(std::string_view name, std::string_view utf8);
   void Add(std::string_view name, const char* utf8) { Add(name, std::string_view(utf8)); }
   void Add(std::string_view name, std::int64_t number);

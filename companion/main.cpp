@@ -22,7 +22,6 @@ int main(int argc, char** argv) {
   companion::Output output{std::cout, std::cerr, std::cin};
   output.Columns = TerminalColumns();
   output.ShowsBars = isatty(STDERR_FILENO) != 0;
-  output.CanAnswer = isatty(STDIN_FILENO) != 0;
   const int status = companion::RunCommand({argv + 1, argv + argc}, output);
   std::cout.flush();
   if (std::cout) return status;

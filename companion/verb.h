@@ -32,7 +32,6 @@ struct Output {
   std::istream& Answers;   // to questions
   int Columns = 0;         // of the terminal that Text goes to; 0 if it goes elsewhere
   bool ShowsBars = false;  // Errors goes to a terminal
-  bool CanAnswer = false;  // Answers comes from a terminal
 };
 
 struct Invocation {

@@ -115,7 +115,6 @@ class Player {
     std::istringstream answers(expected.Answers);
     companion::Output output{text, errors, answers};
     if (line[0] == '%') output.Columns = TerminalColumns;
-    output.CanAnswer = line[0] == '%';
     const int status = companion::RunCommand(arguments, output);
     Printed printed;
     AddLines(">", Neutral(text.str()), printed.Lines);

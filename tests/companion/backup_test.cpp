@@ -1,0 +1,70 @@
+// A copy counts only if it can be read back, and nothing is replaced before the present collection has been copied.
+#include <gtest/gtest.h>
+
+#include "tests/companion/command_test.h"
+#include "tests/kit/films.h"
+#include "tests/kit/fresh_folder.h"
+#include "tests/kit/passing_disk.h"
+#include "tests/story/world.h"
+
+namespace companion {
+namespace {
+
+// A folder of this machine; what is read of a copy of the collection differs in a byte from what was written.
+class ForgetfulDisk final : public kit::PassingDisk {
+ public:
+  explicit ForgetfulDisk(std::string folder)
+      : PassingDisk(real_), real_(folder), forgets_(folder.find("/Collection ") != std::string::npos) {}
+
+  std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {
+    const std::int64_t read = PassingDisk::ReadAt(handle, target, count, offset);
+    if (forgets_ && read > 0) target[0] = static_cast<char>(target[0] ^ 1);
+    return read;
+  }
+
+ private:
+  runtime::RealDisk real_;
+  bool forgets_;
+};
+
+std::unique_ptr<runtime::Disk> Forgetful(const std::string& folder) { return std::make_unique<ForgetfulDisk>(folder); }
+
+class BackupTest : public testing::Test {
+ protected:
+  BackupTest() {
+    for (const auto& [name, bytes] : kit::FolderOfFilms(3)) story::WriteBytes(Folder.Path() / name, bytes);
+    story::WriteBytes(Other.Path() / "Recpra.Dat", kit::Films(7, 9));
+  }
+  std::string Master() { return *story::ReadBytes(Folder.Path() / "Recpra.Dat"); }
+
+  kit::FreshFolder Folder, Other;
+};
+
+TEST_F(BackupTest, IsNoneIfItCannotBeReadBack) {
+  const Ran ran = RunIn(Folder.Path(), {"backup", "--write"}, Forgetful);
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_EQ(ran.Errors, "The copy cannot be read back.\n");
+  EXPECT_EQ(ran.Text, "");
+}
+
+TEST_F(BackupTest, OfThePresentCollectionComesBeforeAnotherIsPutBack) {
+  const Ran ran = RunIn(Folder.Path(), {"restore-backup", Other.Path(), "--write"}, Forgetful);
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_EQ(ran.Errors, "The present collection cannot be copied first. Nothing was put back.\n");
+  EXPECT_EQ(Master(), kit::Films(1, 3));
+  EXPECT_EQ(RunIn(Folder.Path(), {"restore-backup", Other.Path().string() + "/", "--write"}).Status, Done);
+  EXPECT_EQ(Master(), kit::Films(7, 9));
+}
+
+TEST_F(BackupTest, IsRefusedIfTheCollectionIsTooLarge) {
+  std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", std::uintmax_t{513} << 20);
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"backup"}, {"backup", "--write"}, {"restore-backup", Other.Path(), "--write"}}) {
+    const Ran ran = RunIn(Folder.Path(), arguments);
+    EXPECT_EQ(ran.Status, Found);
+    EXPECT_EQ(ran.Errors, "The collection is too large for a copy.\n");
+  }
+}
+
+}  // namespace
+}  // namespace companion
