@@ -13,6 +13,7 @@ click cmdPrev20
 beep
 box warning "" "Top of file encountered!" OK
 see state BackCount 18
+see state RecordFound 1
 see cmdPrev20.Visible no
 see state ListState 0
 see state SearchState 0
