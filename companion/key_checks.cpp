@@ -103,6 +103,10 @@ void LookAtFile(const KeyCheck& check, const runtime::OpenFile& keys, const sort
   if (std::int64_t rest = keys.Length() % store::KeyLength; rest != 0) {
     check.Tell(Counted(rest, "byte") + " after the last whole key; a view has no end then", "Sort.");
   }
+  if (std::int64_t keys_claimed = keys.Length() / store::KeyLength; keys_claimed > Reading::MaxSlots) {
+    check.Tell("it has " + Counted(keys_claimed, "key"), "Sort.");
+    return;
+  }
   std::vector<bool> has_key(check.All.size());
   const std::size_t before = check.Found.size();
   const std::int64_t count = LookAtKeys(check, keys, has_key);

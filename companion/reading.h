@@ -33,11 +33,11 @@ class Reading {
   std::int64_t Slots() const;
   // Blanks past the end.
   store::FilmRecord At(std::int64_t slot) const;
-  // Visits every record in order, free ones too. Beyond MaxSlots none is visited and false is returned: a sort refuses
-  // them as well, and such a file is damaged.
+  // Visits every record in order, free ones too. Beyond MaxSlots none is visited and false is returned: no collector
+  // has so many films, and a damaged file may claim any length.
   bool EachSlot(const std::function<void(const NumberedFilm&)>& visit) const;
 
-  static constexpr std::int64_t MaxSlots = 9'999'999;
+  static constexpr std::int64_t MaxSlots = 1'000'000;
 
  private:
   std::unique_ptr<runtime::Disk> disk_;

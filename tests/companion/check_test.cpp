@@ -98,13 +98,22 @@ TEST_F(CheckTest, TellsOfAHistoryThatNobodyCanHaveMade) {
 
 TEST_F(CheckTest, RefusesAMasterFileThatNoSortTakes) {
   Put("Recpra.Dat", "");
-  std::filesystem::resize_file(Folder.Folder() / "Recpra.Dat", 10'000'000 * std::uintmax_t{649});
+  std::filesystem::resize_file(Folder.Folder() / "Recpra.Dat", 1'000'001 * std::uintmax_t{649});
   for (const char* verb : {"check", "list", "sort"}) {
     const Ran ran = RunIn(Folder.Folder(), {verb});
     EXPECT_EQ(ran.Status, Found) << verb;
-    EXPECT_EQ(ran.Errors, "The master file is damaged: it has 10000000 records.\n") << verb;
+    EXPECT_EQ(ran.Errors, "The master file is damaged: it has 1000001 records.\n") << verb;
     EXPECT_EQ(ran.Text, "") << verb;
   }
+}
+
+TEST_F(CheckTest, PassesOverKeysThatNoSortMakes) {
+  PutFilms(1);
+  std::filesystem::resize_file(Folder.Folder() / "Titlepra.Dat", std::uintmax_t{1} << 36);
+  EXPECT_EQ(Check().Text,
+            "Titlepra.Dat: 36 bytes after the last whole key; a view has no end then. Sort.\n"
+            "Titlepra.Dat: it has 1402438300 keys. Sort.\n"
+            "Found 2 things. 2 can be mended: check --fix.\n");
 }
 
 TEST_F(CheckTest, MendsNothingWhileTheProgramHasTheFolderOpen) {
