@@ -84,12 +84,19 @@ constexpr std::string_view CastColumns =
     ">\n    <prop name=\"columns\">2</prop>\n    <prop name=\"column1\">Star</prop>\n"
     "    <prop name=\"column2\">Role</prop>\n   </field>\n";
 constexpr int TableType = 8;
-constexpr int MayBeDeleted = 0, MayNotBeDeleted = 8;
+// Its flags of a field: texts are completed as they are typed, entries grouped by it, it stays in the collection.
+constexpr int Completed = 2, Grouped = 4, Kept = 8;
+
+int FlagsOf(const TellicoField& row) {
+  if (row.Field == FilmField::Title) return Kept;
+  if (row.Type == TellicoType::Choice || row.Field == FilmField::Year) return Grouped;
+  return row.Category == PeoplePage || row.Field == FilmField::Label ? Completed | Grouped : 0;
+}
 
 void AppendFields(std::string& out) {
   for (const TellicoField& row : TellicoFields) {
     if (row.Field == FilmField::Star1) {
-      AppendFieldRow(TellicoCast, "Stars", PeoplePage, TableType, MayBeDeleted, CastColumns, out);
+      AppendFieldRow(TellicoCast, "Stars", PeoplePage, TableType, Grouped, CastColumns, out);
     }
     if (row.Name.empty()) continue;
     std::string allowed;
@@ -98,10 +105,9 @@ void AppendFields(std::string& out) {
       AppendEscaped(Choices(row.Field), allowed);
       allowed += "\"/>\n";
     }
-    AppendFieldRow(row.Name, row.Title, row.Category, static_cast<int>(row.Type),
-                   row.Field == FilmField::Title ? MayNotBeDeleted : MayBeDeleted, allowed, out);
+    AppendFieldRow(row.Name, row.Title, row.Category, static_cast<int>(row.Type), FlagsOf(row), allowed, out);
   }
-  AppendFieldRow(TellicoRecord, "Record", PersonalPage, static_cast<int>(TellicoType::Number), MayBeDeleted, "", out);
+  AppendFieldRow(TellicoRecord, "Record", PersonalPage, static_cast<int>(TellicoType::Number), 0, "", out);
 }
 
 constexpr std::array Stars = {FilmField::Star1, FilmField::Star2, FilmField::Star3,
