@@ -17,7 +17,7 @@ import re
 import subprocess
 import sys
 
-FOLDERS = "runtime forms store sort screen browse find reports prefs opening filecopy help app companion launcher".split()
+FOLDERS = "runtime forms store sort screen browse find reports prefs opening filecopy help app exchange companion launcher".split()
 BRANCH_FOLDERS = ["runtime", "store", "sort"]
 LINES_LIMIT, BRANCHES_LIMIT = 97, 95
 # A handler is a function of a window with the name of its control and event. Each of screen/handlers.h has one, or the

@@ -6,6 +6,7 @@
 #include "exchange/film_text.h"
 #include "tests/exchange/exchange_kit.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/source_tree.h"
 
 namespace exchange_kit {
 namespace {
@@ -90,6 +91,7 @@ TEST(Json, ReadsObjectsInAList) {
             "Alien|Brazil|");
   EXPECT_EQ(Titles("json", "\xEF\xBB\xBF{\"data\":{\"movies\":[{\"name\":\"Am\\u00e9lie\"}]}}"), "Am\xE9lie|");
   EXPECT_EQ(Titles("json", "{}"), "");
+  EXPECT_EQ(Titles("json", R"([{"title":-12},{"title":1.50}])"), "-12|1.50|");
   const Read read = ReadText("json", R"([{"title":"Heat","directors":[{"id":1,"name":"Michael Mann"},{"name":"B"}]}])");
   EXPECT_EQ(Field(read[0].Film, FilmField::Director), "Michael Mann; B");
 }
@@ -158,6 +160,53 @@ TEST(Tellico, NamesWhatIsWrong) {
   EXPECT_EQ(Titles("tellico", deep), "!line 1: more than 64 levels");
 }
 
+std::string ManyColumns(std::string_view before, std::string_view after) {
+  std::string text;
+  for (std::size_t column = 0; column <= exchange::MostColumns; ++column) {
+    text.append(before).append("c").append(std::to_string(column)).append(after);
+  }
+  return text;
+}
+
+TEST(Formats, NameTooManyColumns) {
+  EXPECT_EQ(Titles("json", "[{" + ManyColumns("\"", "\":1,")), "!more than 1,000 columns");
+  EXPECT_EQ(Titles("rec", ManyColumns("", ": x\n")), "!line 1001: more than 1,000 columns");
+  std::string entry = std::string(TellicoHead) + "<entry>";
+  for (std::size_t column = 0; column <= exchange::MostColumns; ++column) entry += "<c" + std::to_string(column) + "/>";
+  EXPECT_EQ(Titles("tellico", entry), "!line 1: more than 1,000 columns");
+}
+
+TEST(Formats, EndTheReadingAtTooManyFilms) {
+  std::string csv = "Title\n", json = "[", rec, tellico = std::string(TellicoHead);
+  for (std::int64_t film = 0; film <= exchange::MostSlots; ++film) {
+    csv += "x\n";
+    json += "{\"title\":\"x\"},";
+    rec += "Title: x\n\n";
+    tellico += "<entry><title>x</title></entry>";
+  }
+  EXPECT_EQ(Titles("csv", csv), "!more than 32,767 films");
+  EXPECT_EQ(Titles("json", json), "!more than 32,767 films");
+  EXPECT_EQ(Titles("rec", rec), "!more than 32,767 films");
+  EXPECT_EQ(Titles("tellico", tellico), "!more than 32,767 films");
+}
+
+TEST(Html, TellsTheSummaryAndTheColours) {
+  store::FilmRecord film = OneFilm("Alien").at(7);
+  film.Set(FilmField::Cost, "$10.50");
+  film.Set(FilmField::Time, "120");
+  film.Set(FilmField::Genre, "<\"");
+  exchange::Collection collection;
+  collection.Each = [&](const exchange::Visit& visit) { visit(7, film); };
+  collection.Look.Tag = 0x0A0B0C;
+  collection.When = "Sunday & more";
+  std::string page;
+  exchange::WriteHtml(collection, [&](std::string_view bytes) { page += bytes; });
+  EXPECT_NE(page.find("1 film, 2 hours, cost 10.50 (1 with a price, 10.50 each)"), std::string::npos);
+  EXPECT_NE(page.find("--tag: #0a0b0c;"), std::string::npos);
+  EXPECT_NE(page.find("Sunday &amp; more"), std::string::npos);
+  EXPECT_NE(page.find("data-value=\"&lt;&quot;\""), std::string::npos);
+}
+
 TEST(Html, HoldsNothingThatRuns) {
   const std::string page = ExportOne("html", "</script><b>&", "Tarkovsky <x>");
   EXPECT_EQ(page.find("</script><b>"), std::string::npos);
@@ -165,6 +214,38 @@ TEST(Html, HoldsNothingThatRuns) {
   EXPECT_EQ(page.find("{{"), std::string::npos);
   EXPECT_EQ(page.find("http:"), std::string::npos);
   EXPECT_EQ(page.find("https:"), std::string::npos);
+}
+
+std::string Bytes(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The title that the zip holds, or "!" and what is wrong.
+std::string TitleInZip(const std::string& zip) {
+  const kit::FreshFolder folder;
+  const std::string path = (folder.Path() / "films.tc").string();
+  std::ofstream(path, std::ios::binary) << zip;
+  const exchange::ImportFile file(path);
+  exchange::FilmsOfFile films;
+  const exchange::Fault fault =
+      exchange::ReadFilms(file.Source(), *exchange::GuessImportFormat(path), {{}, exchange::Unstorable::Marked}, films);
+  if (file.Wrong() || fault) return "!" + file.Wrong().value_or("the XML");
+  return Field(films.Films.at(0).Film, FilmField::Title);
+}
+
+TEST(ImportFile, ReadsZippedFiles) {
+  const std::filesystem::path zips = kit::SourceFolder() / "tests/fuzz/corpus/zip";
+  for (const char* name : {"stored", "deflated"}) {
+    std::string zip = Bytes(zips / name);
+    EXPECT_EQ(TitleInZip(zip), "A & B");
+    const std::size_t data = zip.find("tellico.xml") + 40;
+    zip[data] = static_cast<char>(zip[data] ^ 1);
+    EXPECT_TRUE(TitleInZip(zip).starts_with("!the ")) << TitleInZip(zip);
+    for (std::size_t at = zip.find("tellico.xml"); at != std::string::npos; at = zip.find("tellico.xml", at))
+      zip[at] = 'T';
+    EXPECT_EQ(TitleInZip(zip), "!a zip without a readable tellico.xml");
+  }
 }
 
 TEST(ImportFile, ReadsPlainFilesAndTellsMissingOnes) {

@@ -69,6 +69,17 @@ constexpr Stored Rows[] = {
   { FilmField::Cost,     "Price",         "USD 1234.50", "1234.50", "Cost: \"USD 1234.50\" becomes 1234.50\n" },
   { FilmField::NumReel,  "Discs",         "2 discs", "2", "NumReel: \"2 discs\" becomes 2\n" },
   { FilmField::NumReel,  "Discs",         "12", "1", "NumReel: cut at 1: \"12\"\n" },
+  { FilmField::CLV1,     "Disc_Mode",     "cav", "CAV", "CLV1: \"cav\" becomes CAV\n" },
+  { FilmField::Letter,   "Letter",        "TV 1.33:1", "T", "Letter: \"TV 1.33:1\" becomes T\n" },
+  { FilmField::Year,     "Year",          "19491", "1949", "Year: cut at 4: \"19491\"\n" },
+  { FilmField::Time,     "Runtime",       "long", "lon", "Time: cut at 3: \"long\"\n" },
+  { FilmField::Time,     "Runtime",       "1000 min", "100", "Time: cut at 3: \"1000 min\"\n" },
+  { FilmField::Purchase, "Purchase",      "December 2004", "December", "Purchase: cut at 8: \"December 2004\"\n" },
+  { FilmField::Cost,     "Cost",          "a present", "a presen", "Cost: cut at 8: \"a present\"\n" },
+  { FilmField::Awards,   "Comments",      "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9 six six six six six six six six six six six six six six six six six six end",
+                                          "\xE9\xE9\xE9\xE9\xE9 six six six six six six six six six six six six six si",
+    "Awards: cut at 60: \"\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9 six six six six six six six six six six six six six six six six six s...\"\n" },
+  { FilmField::Star4,    "Actor_4",       "Carol Kane", "Carol Kane", "" },
   { FilmField::Star2,    "Actors",        "Joseph Cotten (Holly), Alida Valli as Anna, Orson Welles", "Alida Valli", "" },
   { FilmField::Star6,    "Cast",          "A; B; C; D; E; F; G; H", "F", "Star6: more stars than six: 2 are left out\n" },
   { FilmField::Star3,    "Star3",         "Welles, Orson", "Welles, Orson", "" },
@@ -97,6 +108,8 @@ TEST(RowBecomesFilm, WithColumnsAsTold) {
   EXPECT_EQ(Field(read[0].Film, FilmField::Awards), "Space");
   EXPECT_EQ(Field(read[0].Film, FilmField::Year), "");
   EXPECT_EQ(Field(read[0].Film, FilmField::Star2), "B");
+  EXPECT_EQ(exchange::NameOf(exchange::ParseColumnMap("No=Record")->To), "Record");
+  EXPECT_EQ(exchange::NameOf(maps.begin()[2].To), "Stars");
   EXPECT_FALSE(exchange::ParseColumnMap("Plot"));
   EXPECT_FALSE(exchange::ParseColumnMap("=Title"));
   EXPECT_FALSE(exchange::ParseColumnMap("Plot=Colour"));
@@ -222,6 +235,11 @@ TEST(ApplyImport, WritesThroughTheJournal) {
   ASSERT_EQ(slots.size(), 2u);
   EXPECT_EQ(slots[1].Bytes, read[1].Film.Bytes);
   EXPECT_TRUE(disk.Content().contains(".reelora/journal"));
+}
+
+TEST(ReadSlots, HasNoneWithoutAMasterFile) {
+  kit::MemoryDisk disk({});
+  EXPECT_TRUE(exchange::ReadSlots(disk).empty());
 }
 
 TEST(Visible, SteersNoTerminal) {
