@@ -31,12 +31,8 @@ int TooLarge(Output& output) {
   return Found;
 }
 
-// A save that was cut off is finished first.
 std::optional<FilesByName> ReadWhole(runtime::Disk& disk) {
-  constexpr int AnyNumber = 1;
-  runtime::Files files(disk);
-  store::OpenMaster(files, AnyNumber);
-  files.Close(AnyNumber);
+  FinishStoppedSave(disk);
   return ReadCollection(disk);
 }
 

@@ -114,6 +114,9 @@ class Mending {
     const auto asking = std::count_if(findings.begin(), findings.end(), [](const Finding& finding) {
       return finding.SortMends || (finding.Record > 0 && finding.How);
     });
+    for (const Finding& finding : findings) {
+      if (finding.SortMends) Print(finding, output_.Text);
+    }
     if (asking == 0 || !questions_.Agreed("Sort the collection?")) return;
     if (PrintSorted(SortCollection(files_, output_), output_) != Done) return;
     mended_ +=
@@ -130,6 +133,7 @@ class Mending {
 
 int Fix(const Reading& reading, const Invocation& invocation, Output& output) {
   return WriteLocked(invocation, output, [&](runtime::Disk& disk) {
+    FinishStoppedSave(disk);
     const std::optional<Findings> findings = FindAll(reading);
     if (!findings) return RefuseLength(reading, output);
     for (const Finding& finding : *findings) {

@@ -4,6 +4,7 @@
 #include "companion/reading.h"
 #include "companion/verbs.h"
 #include "companion/writing.h"
+#include "runtime/clock.h"
 #include "store/draft.h"
 
 namespace companion {
@@ -13,29 +14,37 @@ constexpr std::string_view NoDraft = "There is no film that was typed and not sa
 
 struct NamedDraft {
   std::string Name;
+  std::string When;  // local time of the last typing
   store::Draft Draft;
 };
+
+std::string TimeOf(runtime::Disk& disk, const std::string& name) {
+  const runtime::OpenFile file(disk, runtime::InSafetyFolder(name), runtime::Disk::Mode::Read);
+  return runtime::StampText(runtime::LocalTime(file.Modified().Seconds));
+}
 
 // Those that can be read, or the one of that name.
 std::vector<NamedDraft> ReadDrafts(runtime::Disk& disk, const std::string& wanted) {
   std::vector<NamedDraft> drafts;
   for (const std::string& name : store::DraftNames(disk)) {
     if (!wanted.empty() && name != wanted) continue;
-    if (std::optional<store::Draft> draft = store::ReadDraft(disk, name)) drafts.push_back({name, *std::move(draft)});
+    std::optional<store::Draft> draft = store::ReadDraft(disk, name);
+    if (draft) drafts.push_back({name, TimeOf(disk, name), *std::move(draft)});
   }
   return drafts;
 }
 
 void PrintDraft(const NamedDraft& draft, const store::FilmRecord& there, std::ostream& text) {
   text << draft.Name << ": " << TitleOf(store::ToSave(draft.Draft)) << ", "
-       << (draft.Draft.IsNew ? "a new film for record " : "typed into record ") << draft.Draft.Slot
-       << ", and what stands there now:\n";
+       << (draft.Draft.IsNew ? "a new film for record " : "typed into record ") << draft.Draft.Slot << " until "
+       << draft.When << ", and what stands there now:\n";
   PrintDifferences(store::ToSave(draft.Draft), there, text);
 }
 
 void AddDraft(const NamedDraft& draft, const store::FilmRecord& there, Json& json) {
   json.BeginObject();
   json.Add("name", draft.Name);
+  json.Add("typedUntil", draft.When);
   json.Add("record", draft.Draft.Slot);
   json.AddTruth("new", draft.Draft.IsNew);
   json.Add("title", FieldText(store::ToSave(draft.Draft), store::FilmField::Title));

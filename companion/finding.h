@@ -12,10 +12,10 @@
 
 namespace companion {
 
-// A field of one film, or of one file; what it holds and is to hold. No judgement is needed.
+// What a field of a film, or the line of a setting, is to hold; it needs no judgement.
 struct Mend {
   store::FilmField Field = store::FilmField::Title;  // of a film
-  std::string Bytes;                                 // what it is to hold; of a setting, its line
+  std::string Bytes;
 };
 
 struct Finding {

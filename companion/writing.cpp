@@ -14,4 +14,10 @@ int WriteLocked(const Invocation& invocation, Output& output, const std::functio
   return Found;
 }
 
+void FinishStoppedSave(runtime::Disk& disk) {
+  constexpr int AnyNumber = 1;
+  runtime::Files files(disk);
+  store::OpenMaster(files, AnyNumber);
+}
+
 }  // namespace companion

@@ -15,4 +15,7 @@ inline constexpr std::string_view SortAfterwards = "Sort afterwards, so that vie
 // Found.
 int WriteLocked(const Invocation& invocation, Output& output, const std::function<int(runtime::Disk&)>& call);
 
+// What a stop has left of a save is finished, as by a start of the program.
+void FinishStoppedSave(runtime::Disk& disk);
+
 }  // namespace companion

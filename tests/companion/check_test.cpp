@@ -60,18 +60,29 @@ TEST_F(CheckTest, TellsOfASaveThatWasCutOff) {
   PutFilms(2);
   runtime::RealDisk disk(Folder.Folder());
   runtime::MakeSafetyFolder(disk);
-  const store::FilmRecord before = Film("Film 100002"), after = Film("Film 100002, again");
-  const runtime::OpenFile journal = runtime::OpenJournal(disk);
-  runtime::WriteBlock(
-      journal, {"Recpra.Dat", 2, 2 * 649, std::string(before.Bytes.data(), 649), std::string(after.Bytes.data(), 649)});
+  const store::FilmRecord before = Film("Film 100002");
+  store::FilmRecord after = Film("Film 100002, again");
+  after.Set(store::FilmField::Music, "Goldsmith");
+  const std::string old_film(before.Bytes.data(), 649), new_film(after.Bytes.data(), 649);
+  runtime::WriteBlock(runtime::OpenJournal(disk), {"Recpra.Dat", 2, 2 * 649, old_film, new_film});
+  // The sector that begins at byte 1024 is still the old one.
+  std::string master = *story::ReadBytes(Folder.Folder() / "Recpra.Dat");
+  Put("Recpra.Dat", master.replace(649, 1024 - 649, new_film, 0, 1024 - 649));
   const Ran ran = Check();
   EXPECT_EQ(ran.Status, Found);
   EXPECT_EQ(ran.Text,
+            "Titlepra.Dat: the key \"Film 100002\" leads to record 2, which is \"Film 100002, again\". Sort.\n"
             "record 2, journal: a save of this record was cut off. The next start of the program, or a verb with "
             "--write, finishes it.\n"
-            "Found 1 thing.\n");
-  runtime::MarkDone(journal);
-  EXPECT_EQ(Check().Text, "Everything is in order.\n");
+            "Found 2 things. 1 can be mended: check --fix.\n");
+  // It is finished before anything is mended.
+  const std::string wrong_key =
+      "Titlepra.Dat: the key \"Film 100002\" leads to record 2, which is \"Film 100002, again\". Sort.\n";
+  EXPECT_EQ(RunIn(Folder.Folder(), {"check", "--fix", "--write"}).Text, wrong_key +
+                                                                            "Sort the collection? [y/n/a/q] \n"
+                                                                            "Found 1 thing. 1 can be mended.\n"
+                                                                            "0 things mended.\n");
+  EXPECT_TRUE(story::ReadBytes(Folder.Folder() / "Recpra.Dat")->ends_with(new_film));
 }
 
 TEST_F(CheckTest, TellsOfADraft) {
