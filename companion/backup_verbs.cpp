@@ -31,11 +31,6 @@ int TooLarge(Output& output) {
   return Found;
 }
 
-std::optional<FilesByName> ReadWhole(runtime::Disk& disk) {
-  FinishStoppedSave(disk);
-  return ReadCollection(disk);
-}
-
 void MakeCopiesFolder(runtime::Disk& disk) {
   const std::string name(launcher::CopiesFolder);
   runtime::RetryInterrupted(name, [&] { return disk.MakeFolder(name); });
@@ -64,7 +59,7 @@ int TellCopy(const Invocation& invocation, const std::string& name, const FilesB
 }
 
 int WriteBackup(runtime::Disk& disk, const Invocation& invocation, Output& output) {
-  const std::optional<FilesByName> files = ReadWhole(disk);
+  const std::optional<FilesByName> files = ReadCollection(disk);
   if (!files) return TooLarge(output);
   const std::optional<std::string> elsewhere = invocation.Value("to");
   if (!elsewhere) MakeCopiesFolder(disk);
@@ -133,7 +128,7 @@ int AddRestored(const FilesByName& copy, const std::string& kept, bool written, 
 }
 
 int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const FilesByName& copy, Output& output) {
-  const std::optional<FilesByName> present = ReadWhole(disk);
+  const std::optional<FilesByName> present = ReadCollection(disk);
   if (!present) return TooLarge(output);
   MakeCopiesFolder(disk);
   const std::optional<std::string> kept =

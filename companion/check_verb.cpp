@@ -133,7 +133,6 @@ class Mending {
 
 int Fix(const Reading& reading, const Invocation& invocation, Output& output) {
   return WriteLocked(invocation, output, [&](runtime::Disk& disk) {
-    FinishStoppedSave(disk);
     const std::optional<Findings> findings = FindAll(reading);
     if (!findings) return RefuseLength(reading, output);
     for (const Finding& finding : *findings) {

@@ -11,11 +11,8 @@ namespace companion {
 inline constexpr std::string_view NothingWritten = "Nothing was written; --write does it.\n";
 inline constexpr std::string_view SortAfterwards = "Sort afterwards, so that views and lists show it.\n";
 
-// Locks the collection, runs the call on its disk and returns what it returns. Another program's lock is told and is
-// Found.
+// Locks the collection, finishes a save that was cut off, runs the call on the disk and returns what it returns.
+// Another program's lock is told and is Found.
 int WriteLocked(const Invocation& invocation, Output& output, const std::function<int(runtime::Disk&)>& call);
-
-// What a stop has left of a save is finished, as by a start of the program.
-void FinishStoppedSave(runtime::Disk& disk);
 
 }  // namespace companion
