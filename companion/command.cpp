@@ -8,6 +8,7 @@
 
 #include "companion/verbs.h"
 #include "runtime/failure.h"
+#include "runtime/text.h"
 
 namespace companion {
 namespace {
@@ -105,7 +106,7 @@ int PrintHelp(const Verb* verb, std::ostream& text) {
   if (verb) {
     text << "usage: " << Program << " " << verb->Name << " [OPTION]..." << (verb->Arguments.empty() ? "" : " ")
          << verb->Arguments << "\n\n"
-         << verb->Help << "\n"
+         << runtime::Upper(verb->Help[0]) << verb->Help.substr(1) << ".\n"
          << verb->Details;
   } else {
     text << "usage: " << Program << " [-C FOLDER] VERB [OPTION]... [ARGUMENT]...\n\n"

@@ -72,8 +72,9 @@ void LookAtMissing(const KeyCheck& check, const std::vector<bool>& has_key, cons
     if (missing++ == 0) first = static_cast<std::int64_t>(at) + 1;
   }
   if (missing == 0) return;
-  check.Tell(Counted(missing, "film") + (missing == 1 ? " is" : " are") + " missing, the first of record " +
-                 std::to_string(first),
+  const std::string record = std::to_string(first);
+  check.Tell(missing == 1 ? "the film of record " + record + " is missing"
+                          : Counted(missing, "film") + " are missing, from record " + record + " on",
              "Sort.");
 }
 
