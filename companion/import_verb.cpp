@@ -99,6 +99,10 @@ int Import(const Invocation& invocation, Output& output) {
   const Request request = Parse(invocation);
   if (!request.Mistake.empty()) return WrongUsage(invocation.Verb, output, request.Mistake);
   const Reading reading(invocation);  // which refuses a folder that is no collection
+  if (reading.Slots() > exchange::MostSlots) {
+    output.Errors << "This collection has more than " << exchange::MostSlots << " records, too many for an import.\n";
+    return Found;
+  }
   exchange::FilmsOfFile films;
   if (!ReadFile(invocation.Arguments[0], request, films, output)) return Found;
   if (invocation.Write) {

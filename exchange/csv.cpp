@@ -2,6 +2,7 @@
 // is read. libcsv reads: it takes quotes, line ends and blanks as they come, in pieces of any length, and calls back.
 #include <csv.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -105,12 +106,12 @@ class CsvReading {
     }
     cell_ = 0;
   }
+  // Every field has its column, in any order.
   bool IsOwnHeader() const {
-    if (rows_.Names().size() <= store::FilmFields.size()) return false;
-    for (const store::FilmFieldRow& row : store::FilmFields) {
-      if (rows_.Names()[static_cast<std::size_t>(row.Field) + 1] != row.Name) return false;
-    }
-    return rows_.Names()[0] == RecordColumn;
+    const std::vector<std::string>& names = rows_.Names();
+    auto has = [&](std::string_view name) { return std::find(names.begin(), names.end(), name) != names.end(); };
+    return has(RecordColumn) && std::all_of(store::FilmFields.begin(), store::FilmFields.end(),
+                                            [&](const store::FilmFieldRow& row) { return has(row.Name); });
   }
   Fault Told() const {
     if (!fault_) return std::nullopt;

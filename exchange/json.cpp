@@ -10,6 +10,8 @@
 namespace exchange {
 namespace {
 
+// Its name comes before "films" in the alphabet too, as some tools sort them.
+constexpr std::string_view OwnName = "collection";
 constexpr std::string_view OwnMark = "reelora-films";
 
 // Quotes of a text without control characters.
@@ -100,7 +102,7 @@ class JsonHandler final : public nlohmann::json_sax<nlohmann::json> {
     } else if (InRow()) {
       inner_name_ = key == "name" || key == "title";
     } else {
-      format_is_next_ = key == "format";
+      mark_is_next_ = key == OwnName;
     }
     return Ends() && !Wrong;
   }
@@ -145,8 +147,8 @@ class JsonHandler final : public nlohmann::json_sax<nlohmann::json> {
   }
   bool Value(std::string_view text) {
     if (InRow() && inner_name_) rows_.Add(column_, text);
-    if (!InRow() && format_is_next_) rows_.Own = text == OwnMark;
-    format_is_next_ = false;
+    if (!InRow() && mark_is_next_) rows_.Own = text == OwnMark;
+    mark_is_next_ = false;
     return Ends();
   }
 
@@ -157,14 +159,14 @@ class JsonHandler final : public nlohmann::json_sax<nlohmann::json> {
   std::size_t row_level_ = 0;
   std::size_t column_ = 0;
   bool inner_name_ = true;
-  bool format_is_next_ = false;
+  bool mark_is_next_ = false;
 };
 
 }  // namespace
 
 void WriteJson(const Collection& collection, const ByteSink& sink) {
   TextOut out(sink);
-  out.Text.append("{\"format\": \"").append(OwnMark).append("\", \"films\": [");
+  out.Text.append("{\"").append(OwnName).append("\": \"").append(OwnMark).append("\", \"films\": [");
   std::string text;
   std::string_view separator = "\n";
   collection.Each([&](std::int64_t number, const store::FilmRecord& film) {

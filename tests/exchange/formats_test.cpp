@@ -82,7 +82,7 @@ TEST(Csv, NamesWhatIsWrong) {
 
 TEST(Json, IsAnObjectOfFilms) {
   EXPECT_EQ(ExportOne("json", "A \"\\\"\xE9"),
-            "{\"format\": \"reelora-films\", \"films\": [\n"
+            "{\"collection\": \"reelora-films\", \"films\": [\n"
             "{\"Record\": 7, \"Title\": \"A \\\"\\\\\\\"\xC3\xA9\", \"Format\": \"D\"}\n]}\n");
 }
 

@@ -216,6 +216,17 @@ TEST(ImportPlan, FilmsOfAnExportKeepTheirNumbersInAnEmptyCollection) {
   EXPECT_EQ(Plan(others, text, Doubles::Skip), "+1 +2 +3");
 }
 
+TEST(ImportPlan, AnExportStaysOneWithAColumnMore) {
+  Slots films;
+  films[2] = SlotsOf({"The Odd One 1950"})[0];
+  std::string text = OwnCsv(films);
+  const std::size_t end = text.find("\r\n");
+  for (const std::size_t at : {text.size() - 2, end}) text.insert(at, at == end ? ",Mine" : ",x");
+  const Read read = ReadText("csv", text);
+  EXPECT_TRUE(read[0].Exact);
+  EXPECT_EQ(Field(read[0].Film, FilmField::Title), "The Odd One");
+}
+
 TEST(ImportPlan, StopsAtTheLastRecord) {
   std::vector<store::FilmRecord> slots(static_cast<std::size_t>(exchange::MostSlots), SlotsOf({"Alien 1979"})[0]);
   slots[4] = store::FilmRecord();
