@@ -72,6 +72,17 @@ TEST(CompleteCollection, LeavesWhatWasChangedByHand) {
   EXPECT_EQ(Files(collection)["Reelora4.HLP"], "better help");
 }
 
+TEST(CompleteCollection, LeavesWhatWasChangedAfterItWasPut) {
+  MemoryDisk collection(Folder{});
+  Complete(Delivered, collection);
+  Folder changed = collection.Content();
+  changed["UPPER.ALT"] = "mine";
+  MemoryDisk after(changed);
+  Complete(Newer, after);
+  EXPECT_EQ(Files(after)["UPPER.ALT"], "mine");
+  EXPECT_EQ(Files(after)["Reelora4.HLP"], "better help");
+}
+
 TEST(CompleteCollection, BringsTheHelpOfAnEarlierVersionUpToDate) {
   MemoryDisk delivered(Delivered);
   MemoryDisk collection(Folder{{"Reelora4.HLP", "old help"}, {"UPPER.ALT", "old help"}});
