@@ -81,7 +81,8 @@ bool GivesWay(std::string_view name, const std::string& present, const Checksums
 
 }  // namespace
 
-const std::vector<std::uint64_t> EarlierHelp{0xC55E0D3CB8FE2906, 0x8A88E39A58BFBF2A, 0xFBA0007D342C9CE5};
+const std::vector<std::uint64_t> EarlierHelp{0xC55E0D3CB8FE2906, 0x8A88E39A58BFBF2A, 0xFBA0007D342C9CE5,
+                                             0xAB72A1653D18015B, 0x3A8C0159AA438FD4};
 
 std::string CompleteCollection(runtime::Disk& delivered, runtime::Disk& collection,
                                const std::vector<std::uint64_t>& earlier_help) {
