@@ -51,7 +51,8 @@ QString Breakable(const QString& text) {
   for (QChar character : text) {
     broken.append(character);
     length = character.isSpace() ? 0 : length + 1;
-    if (character != '/' && (length < LongestWord || character.isHighSurrogate())) continue;
+    bool between_names = character == '/' && length > 1;
+    if (!between_names && (length < LongestWord || character.isHighSurrogate())) continue;
     broken.append(MayBreak);
     length = 0;
   }

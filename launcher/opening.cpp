@@ -59,14 +59,12 @@ class Opening {
     std::vector<std::string> known = preparation_.Known().Folders;
     std::string suggested = SuggestedCollection(places_);
     if (known.empty() && IsCollection(suggested)) known = {suggested};  // the settings are lost, not the films
-    if (known.empty()) return Ask({"", {}, suggested});
+    if (known.empty()) return Ask({"", {}, FreeFolder()});
     if (IsCollection(known.front())) return Open({Choice::What::Existing, known.front()});
-    return Ask({known.front(), Present(known), suggested});
+    return Ask({known.front(), Present(known), FreeFolder()});
   }
 
-  std::optional<Opened> Chosen() {
-    return Ask({"", Present(preparation_.Known().Folders), SuggestedCollection(places_)});
-  }
+  std::optional<Opened> Chosen() { return Ask({"", Present(preparation_.Known().Folders), FreeFolder()}); }
 
   std::optional<Opened> Open(const Choice& choice) {
     if (choice.For == Choice::What::Sample) return OpenSample();
@@ -109,6 +107,16 @@ class Opening {
     if (fs::is_directory(folder, none)) return true;
     person_.Tell("The folder " + folder + " cannot be made. " + ReasonOf(error.value()));
     return false;
+  }
+
+  // The usual folder for a new collection, with a number behind it if it is in use.
+  std::string FreeFolder() const {
+    const std::string usual = SuggestedCollection(places_);
+    std::string folder = usual;
+    std::error_code none;
+    for (int number = 2; number < 100 && fs::exists(folder, none) && !IsEmpty(folder); ++number)
+      folder = usual + " " + std::to_string(number);
+    return folder;
   }
 
   static std::vector<std::string> Present(const std::vector<std::string>& folders) {

@@ -33,7 +33,7 @@ TEST(Text, ACaptionIsSpokenWithoutPaddingAndHotKey) {
 }
 
 TEST(Breakable, LetsALineBreakInAPathAndInALongWord) {
-  EXPECT_EQ(Breakable("in /a/b c"), QString::fromUtf16(u"in /\u200Ba/\u200Bb c"));
+  EXPECT_EQ(Breakable("in /a/b c"), QString::fromUtf16(u"in /a/\u200Bb c"));
   EXPECT_EQ(Breakable(QString(50, 'x')), QString(40, 'x') + QChar(0x200B) + QString(10, 'x'));
   EXPECT_EQ(Breakable(QString(30, 'x') + " " + QString(30, 'x')), QString(30, 'x') + " " + QString(30, 'x'));
   QString film = QString(39, 'x') + QString::fromUtf16(u"\U0001F3AC");

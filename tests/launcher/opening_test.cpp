@@ -177,6 +177,19 @@ TEST_F(Opening, AskedForAnotherOneItOffersThoseThatAreThere) {
   EXPECT_EQ(Open()->Folder, one);
 }
 
+TEST_F(Opening, ANewCollectionGetsAFolderThatIsFree) {
+  fs::create_directory(Home / "Film Collection");
+  EXPECT_FALSE(Open());
+  Put(Home / "Film Collection/letter", "mine");
+  EXPECT_FALSE(Open());
+  Known("Film Collection 2");
+  EXPECT_FALSE(Open({Wish::Choose, "", ""}));
+  ASSERT_EQ(User.Questions.size(), 3U);
+  EXPECT_EQ(User.Questions[0].Suggested, Home / "Film Collection");
+  EXPECT_EQ(User.Questions[1].Suggested, Home / "Film Collection 2");
+  EXPECT_EQ(User.Questions[2].Suggested, Home / "Film Collection 3");
+}
+
 TEST_F(Opening, WhoChoosesWhatCannotBeIsAskedAgain) {
   Put(Home / "file", "mine");
   Put(Home / "papers/letter", "mine");
