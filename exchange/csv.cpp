@@ -51,7 +51,8 @@ char GuessSeparator(std::string_view start) {
 }
 
 void* BoundedRealloc(void* memory, std::size_t bytes) {
-  return bytes > LongestPiece ? nullptr : std::realloc(memory, bytes);
+  return bytes > LongestPiece ? nullptr
+                              : std::realloc(memory, bytes);  // NOLINT(cppcoreguidelines-owning-memory): libcsv's
 }
 
 class CsvReading {

@@ -1,8 +1,8 @@
-// Plain files by the C library. Zipped ones by minizip: it reads one entry as a stream and never keeps the list of
+// Plain files and pipes as streams. Zipped ones by minizip: it reads one entry as a stream and never keeps the list of
 // entries, so that its memory does not depend on what the file claims.
 #include <minizip/unzip.h>
 
-#include <cstdio>
+#include <fstream>
 
 #include "exchange/import.h"
 
@@ -13,9 +13,6 @@ constexpr const char* TellicoEntry = "tellico.xml";
 // An entry claims any length; a collection of 32,767 films has less.
 constexpr std::int64_t LongestEntry = std::int64_t(1) << 30;
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
 struct CloseZip {
   void operator()(void* zip) const { unzClose(zip); }
 };
@@ -25,7 +22,7 @@ constexpr std::string_view ZipMark = "PK\x03\x04";
 }  // namespace
 
 struct ImportFile::Opened {
-  std::unique_ptr<std::FILE, CloseFile> Plain;
+  std::ifstream Plain;
   std::unique_ptr<void, CloseZip> Zip;
   std::int64_t Unzipped = 0;
   std::string Start;  // read to tell a zip; a pipe cannot go back
@@ -38,7 +35,7 @@ struct ImportFile::Opened {
   }
 
   void OpenZip(const std::string& path) {
-    Plain.reset();
+    Plain.close();
     Zip.reset(unzOpen64(path.c_str()));
     const bool opened =
         Zip && unzLocateFile(Zip.get(), TellicoEntry, 1) == UNZ_OK && unzOpenCurrentFile(Zip.get()) == UNZ_OK;
@@ -50,9 +47,9 @@ struct ImportFile::Opened {
     return length > 0 ? length : ReadPlain(target, count);
   }
   std::size_t ReadPlain(char* target, std::size_t count) {
-    const std::size_t read = std::fread(target, 1, count, Plain.get());
-    if (std::ferror(Plain.get())) Wrong = "it cannot be read to its end";
-    return read;
+    Plain.read(target, static_cast<std::streamsize>(count));
+    if (Plain.bad()) Wrong = "it cannot be read to its end";
+    return static_cast<std::size_t>(Plain.gcount());
   }
   // At the end of an entry its checksum is compared.
   std::size_t ReadZip(char* target, std::size_t count) {
@@ -66,7 +63,7 @@ struct ImportFile::Opened {
 };
 
 ImportFile::ImportFile(const std::string& path) : opened_(std::make_unique<Opened>()) {
-  opened_->Plain.reset(std::fopen(path.c_str(), "rb"));
+  opened_->Plain.open(path, std::ios::binary);
   if (!opened_->Plain) {
     opened_->Wrong = "it cannot be opened";
     return;
