@@ -188,19 +188,31 @@ at('summary').onclick = event => {
 addEventListener('resize', draw);
 if (innerWidth < 800) at('summary').open = false;
 
-// What is found, as a table: paper has no scroll bar.
+// What is found, as tables: paper has no scroll bar. One of all films would take a browser minutes to part into pages.
+const rowsOfTable = 500;
+let summaryWasOpen = false;
 addEventListener('beforeprint', () => {
+  summaryWasOpen = at('summary').open;
+  at('summary').open = true;
+  if (document.body.classList.contains('one')) return;
   const names = ['Record', 'Title', 'Year', 'Director', 'Format', 'Genre', 'Time', 'Rating'];
   const cells = (kind, texts) => {
     const line = document.createElement('tr');
     for (const one of texts) line.append(Object.assign(document.createElement(kind), {textContent: one}));
     return line;
   };
-  const head = document.createElement('thead'), body = document.createElement('tbody');
-  head.append(cells('th', names.map(name => name === 'Rating' ? 'MPAA' : name)));
-  if (!document.body.classList.contains('one'))
-    for (const index of shown) body.append(cells('td', names.map(name => text(films[index], number[name]))));
-  at('paper').replaceChildren(head, body);
+  const tables = [];
+  for (let first = 0; first < shown.length; first += rowsOfTable) {
+    const table = document.createElement('table'), head = document.createElement('thead'), body = document.createElement('tbody');
+    head.append(cells('th', names.map(name => name === 'Rating' ? 'MPAA' : name)));
+    for (const index of shown.slice(first, first + rowsOfTable)) body.append(cells('td', names.map(name => text(films[index], number[name]))));
+    table.append(head, body);
+    tables.push(table);
+  }
+  at('paper').replaceChildren(...tables);
 });
-addEventListener('afterprint', () => at('paper').replaceChildren());
+addEventListener('afterprint', () => {
+  at('summary').open = summaryWasOpen;
+  at('paper').replaceChildren();
+});
 find();
