@@ -128,7 +128,9 @@ std::string KeepCopy(runtime::Disk& collection, runtime::Disk& copies, local_sec
   // Two starts in one second, or a clock that was put back: the new copy must be the newest.
   local_seconds when = before.empty() ? now : std::max(now, before.front().When + std::chrono::seconds(1));
   std::string name = NameOfCopy(when);
-  runtime::CopyFile(collection, std::string(store::MasterFileName), copies, name);
+  runtime::Copied copied = runtime::CopyFile(collection, std::string(store::MasterFileName), copies, name);
+  // What a loss of power may take replaces nothing.
+  if (copied == runtime::Copied::Unconfirmed) return name;
   for (const std::string& superseded : Superseded(copies.List(""), now)) runtime::Discard(copies, superseded);
   return name;
 }

@@ -3,7 +3,10 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+
 #include "runtime/folder_lock.h"
+#include "tests/kit/passing_disk.h"
 
 namespace launcher {
 namespace {
@@ -366,6 +369,34 @@ TEST_F(StartCopies, GoToASecondFolderThatIsThere) {
   EXPECT_EQ(OpenFolder("films/")->Notice, "");
   EXPECT_EQ(ContentOf(Home / "disk" / SecondCopiesName(Films.string()) / Copy), "films");
   EXPECT_NE(ContentOf(Settings).find("# another disk\n"), std::string::npos);
+}
+
+// Or a loss of power could take the folder, and the copy with it.
+TEST_F(StartCopies, SyncTheFolderInWhichTheirsIsNew) {
+  class Recording final : public kit::PassingDisk {
+   public:
+    Recording(std::unique_ptr<runtime::Disk> below, std::string folder, std::vector<std::string>& synced)
+        : PassingDisk(*below), owned_(std::move(below)), folder_(std::move(folder)), synced_(synced) {}
+    int SyncFolder(const std::string& name) override {
+      if (name.empty()) synced_.push_back(folder_);
+      return PassingDisk::SyncFolder(name);
+    }
+
+   private:
+    std::unique_ptr<runtime::Disk> owned_;
+    std::string folder_;
+    std::vector<std::string>& synced_;
+  };
+  std::vector<std::string> synced;
+  auto disk_in = [&](const std::string& folder, runtime::RealDisk::Links links) -> std::unique_ptr<runtime::Disk> {
+    return std::make_unique<Recording>(RealDiskIn(folder, links), folder, synced);
+  };
+  const std::string disk = (Home / "disk").string();
+  fs::create_directory(disk);
+  NameSecondFolder(disk);
+  OpenCollection({}, Where, Home.string(), Noon, User, disk_in);
+  EXPECT_EQ(std::ranges::count(synced, Films.string()), 1);
+  EXPECT_EQ(std::ranges::count(synced, disk), 1);
 }
 
 TEST_F(StartCopies, OfTwoCollectionsOfOneNameAreApart) {
