@@ -128,6 +128,7 @@ void FilmMaker::SetField(ReadFilm& film, FilmField field, std::string_view utf8)
   if (!code && HoldsCode(field) && !fits) {
     return Tell(film, field, "left blank, there is no code for " + Quoted(TextOf(bytes)));
   }
+  if (is_coded && !code && fits) Tell(film, field, Quoted(TextOf(bytes)) + " is no code of the program");
   Store(film, field, code ? *code : bytes);
 }
 

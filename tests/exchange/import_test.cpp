@@ -59,6 +59,7 @@ constexpr Stored Rows[] = {
   { FilmField::Color1,   "Color",         "Black & White", "B & W", "Color1: \"Black & White\" becomes B & W\n" },
   { FilmField::Rating,   "MPAA",          "Rated PG-13", "PG-13", "Rating: \"Rated PG-13\" becomes PG-13\n" },
   { FilmField::Rating,   "Certification", "R (USA)", "R", "Rating: \"R (USA)\" becomes R\n" },
+  { FilmField::Rating,   "Rating",        "8.5", "8.5", "Rating: \"8.5\" is no code of the program\n" },
   { FilmField::Time,     "Runtime",       "104", "104", "" },
   { FilmField::Time,     "Runtime",       "1h 44m", "104", "Time: \"1h 44m\" becomes 104\n" },
   { FilmField::Time,     "Length",        "PT2H5M", "125", "Time: \"PT2H5M\" becomes 125\n" },
