@@ -6,12 +6,12 @@
 #include "companion/printable.h"
 #include "companion/verbs.h"
 #include "companion/writing.h"
+#include "exchange/import_plan.h"
 #include "store/master_file.h"
 
 namespace companion {
 namespace {
 
-constexpr std::int64_t LastRecord = 32'767;  // that a view can show
 constexpr int MasterNo = 1;
 
 struct TwoCollections {
@@ -133,7 +133,7 @@ std::optional<std::vector<Addition>> PlanMerge(const TwoCollections& both, std::
   for (const FilmPair& pair : Paired(both.Here, both.There, NewTitles::Apart)) {
     if (pair.Here) continue;
     while (record <= slots && taken[static_cast<std::size_t>(record)]) ++record;
-    if (record > LastRecord) return std::nullopt;
+    if (record > exchange::MostSlots) return std::nullopt;
     added.push_back({record++, pair.There});
   }
   return added;
@@ -158,7 +158,8 @@ int MergeFilms(runtime::Disk* disk, const Invocation& invocation, Output& output
   if (!both) return Found;
   const std::optional<std::vector<Addition>> added = PlanMerge(*both, Reading(invocation).Slots());
   if (!added) {
-    output.Errors << "There is no room: a collection has " << LastRecord << " records at most. Nothing was added.\n";
+    output.Errors << "There is no room: a collection has " << exchange::MostSlots
+                  << " records at most. Nothing was added.\n";
     return Found;
   }
   if (disk) WriteAdditions(*disk, *added, output);

@@ -15,7 +15,6 @@
 namespace companion {
 namespace {
 
-constexpr std::int64_t LongestHistory = 1'000'000;
 constexpr std::int64_t LargestColour = 0xFFFFFF;
 
 enum class Holds { YesOrNo, YesOrEmpty, Colour };

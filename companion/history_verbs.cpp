@@ -14,9 +14,6 @@
 namespace companion {
 namespace {
 
-// A longer history is refused; no collector overwrites so many films, and listing it could take hours.
-constexpr std::int64_t LongestHistory = 1'000'000;
-
 void PrintRow(const store::KeptFilm& kept, const store::FilmRecord& now, std::ostream& text) {
   text << std::setw(6) << kept.Number << "  " << Printable(kept.When) << std::setw(8) << kept.Slot << "  "
        << TitleOf(kept.Film) << " - " << (now.Bytes == kept.Film.Bytes ? "this film" : TitleOf(now)) << "\n";

@@ -5,6 +5,7 @@
 #include "companion/fields.h"
 #include "companion/folder_checks.h"
 #include "companion/printable.h"
+#include "exchange/import_plan.h"
 #include "runtime/text.h"
 #include "sort/include.h"
 #include "store/sort_pass.h"
@@ -13,7 +14,6 @@ namespace companion {
 namespace {
 
 constexpr std::size_t MostKeysTold = 5;
-constexpr std::int64_t LongestView = 32'767;  // keys; a view counts them in 16 bits
 constexpr std::int64_t NearTheEnd = 32'000;
 
 using Films = std::vector<store::FilmRecord>;
@@ -117,9 +117,9 @@ void LookAtFile(const KeyCheck& check, const runtime::OpenFile& keys, const sort
     check.Tell("older than the films, though its keys are right", "Sort, if you want to be sure of the order.");
   }
   if (count <= NearTheEnd) return;
-  check.Found.push_back({0, check.Name(),
-                         Counted(count, "key") + (count > LongestView ? ", too many" : ", near the end"),
-                         "A view has room for " + std::to_string(LongestView) + ". Begin a second collection."});
+  check.Found.push_back(
+      {0, check.Name(), Counted(count, "key") + (count > exchange::MostSlots ? ", too many" : ", near the end"),
+       "A view has room for " + std::to_string(exchange::MostSlots) + ". Begin a second collection."});
 }
 
 }  // namespace

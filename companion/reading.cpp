@@ -6,10 +6,6 @@
 
 namespace companion {
 
-bool HasTitle(const store::FilmRecord& film) {
-  return film.Get(store::FilmField::Title).find_first_not_of(' ') != std::string_view::npos;
-}
-
 Reading::Reading(std::unique_ptr<runtime::Disk> disk)
     : disk_(std::move(disk)), master_(*disk_, std::string(store::MasterFileName), runtime::Disk::Mode::Read) {}
 

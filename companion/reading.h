@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "companion/verb.h"
+#include "exchange/films.h"
 #include "runtime/whole_io.h"
 #include "store/film_record.h"
 
@@ -18,7 +19,10 @@ struct NumberedFilm {
   store::FilmRecord Film;
 };
 
-bool HasTitle(const store::FilmRecord& film);
+using exchange::HasTitle;
+
+// A longer history is refused: no collector overwrites so many films, and listing it could take hours.
+inline constexpr std::int64_t LongestHistory = 1'000'000;
 
 class Reading {
  public:
