@@ -72,13 +72,20 @@ void LookAtNumber(const NumberedFilm& film, FilmField field, Findings& findings)
       {film.Number, std::string(RowOf(field).Name), Quoted(content) + " is no number", "Correct it in the program."});
 }
 
-// Without an article that a save would move; nothing if the save would lose a part of the title.
-std::optional<std::string> Moved(const store::FilmRecord& film, const store::FilmRecord& saved) {
-  const std::string before(Content(film, FilmField::Title)), after(Content(saved, FilmField::Title));
+// As a save makes it.
+store::FilmRecord Saved(const store::FilmRecord& film) {
+  const std::string_view field = film.Get(FilmField::Title);
+  store::FilmRecord saved = film;
+  store::MoveArticle(saved, field.substr(0, field.find_last_not_of(' ') + 1), store::TitleEndOf(film));
+  return saved;
+}
+
+// Whether a save moves the article and nothing else: a part of the title can be lost, another article can follow.
+bool IsOnlyMoved(const store::FilmRecord& film, const store::FilmRecord& saved) {
+  const std::string before(Content(film, FilmField::Title));
   const std::size_t blank = before.find(' ');
-  if (blank == std::string::npos) return std::nullopt;
-  const std::string whole = before.substr(blank + 1) + ", " + before.substr(0, blank);
-  return after == whole ? std::optional(whole) : std::nullopt;
+  return blank != std::string::npos && Saved(saved).Bytes == saved.Bytes &&
+         Content(saved, FilmField::Title) == before.substr(blank + 1) + ", " + before.substr(0, blank);
 }
 
 bool IsControl(char character) {
@@ -130,13 +137,12 @@ void FilmChecks::LookAtFree(const NumberedFilm& film) {
 void FilmChecks::LookAtTitle(const NumberedFilm& film) {
   const std::string_view field = film.Film.Get(FilmField::Title);
   const std::string_view title = field.substr(0, field.find_last_not_of(' ') + 1);
-  store::FilmRecord saved = film.Film;
-  store::MoveArticle(saved, title, store::TitleEndOf(film.Film));
+  const store::FilmRecord saved = Saved(film.Film);
   if (saved.Bytes != film.Film.Bytes) {
-    const std::optional<std::string> moved = Moved(film.Film, saved);
+    const std::string_view moved = Content(saved, FilmField::Title);
     Finding finding{film.Number, "Title", Quoted(title) + " begins with an article",
-                    "The next save makes it " + Quoted(Content(saved, FilmField::Title)) + "."};
-    if (moved) finding.How = Mend{FilmField::Title, *moved};
+                    "The next save makes it " + Quoted(moved) + "."};
+    if (IsOnlyMoved(film.Film, saved)) finding.How = Mend{FilmField::Title, std::string(moved)};
     findings_.push_back(std::move(finding));
   }
   if (!is_sorted_.Keeps(film.Film.Bytes.data())) {

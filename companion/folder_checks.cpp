@@ -93,10 +93,10 @@ void LookAtDrafts(runtime::Disk& disk, Findings& findings) {
 }  // namespace
 
 std::optional<std::string> ReadSmall(runtime::Disk& disk, std::string_view name) {
-  constexpr std::size_t Most = 1024 * 1024;
+  constexpr std::int64_t Most = 1024 * 1024;
   try {
     const runtime::OpenFile file(disk, std::string(name), runtime::Disk::Mode::Read);
-    std::string bytes(Most, '\0');
+    std::string bytes(static_cast<std::size_t>(std::min(file.Length(), Most)), '\0');
     bytes.resize(file.Read(bytes.data(), bytes.size(), 0));
     return bytes;
   } catch (const runtime::Failure& failure) {

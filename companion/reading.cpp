@@ -18,10 +18,10 @@ store::FilmRecord Reading::At(std::int64_t slot) const {
 }
 
 bool Reading::EachSlot(const std::function<void(const NumberedFilm&)>& visit) const {
-  constexpr std::size_t AtOnce = 1024;
+  constexpr std::int64_t AtOnce = 1024;
   const std::int64_t slots = Slots();
   if (slots > MaxSlots) return false;
-  std::vector<char> block(AtOnce * store::RecordLength);
+  std::vector<char> block(static_cast<std::size_t>(std::clamp<std::int64_t>(slots, 1, AtOnce) * store::RecordLength));
   NumberedFilm next;
   std::size_t read = 0;
   do {

@@ -13,7 +13,7 @@ targets=(counts views reports settings sort story help csv journal history draft
 declare -A runs=(
   [counts]=4000 [views]=3000 [reports]=3000 [settings]=6000 [sort]=6000 [story]=20000 [help]=40000 [journal]=40000
   [history]=40000 [draft]=20000 [weights]=40000 [statement]=400000
-  [csv]=3000 [json]=12000 [rec]=12000 [tellico]=8000 [zip]=10000 [check]=4000 [copy]=20000
+  [csv]=3000 [json]=12000 [rec]=12000 [tellico]=8000 [zip]=10000 [check]=1500 [copy]=20000
 )
 [ $# -gt 0 ] || set -- "${targets[@]}"
 # One allocation of more, or one input that takes longer, is a finding.
