@@ -1,5 +1,5 @@
-// The one file that includes the JSON library, which quotes the texts. The documents are long lists of films, so they
-// are written as they go and never held as a tree.
+// The one file of the companion that includes the JSON library, which quotes the texts. The documents are long lists of
+// films, so they are written as they go and never held as a tree.
 #include "companion/json.h"
 
 #include <algorithm>
