@@ -119,11 +119,12 @@ class JsonHandler final : public nlohmann::json_sax<nlohmann::json> {
   }
   bool start_array(std::size_t) override { return Open('['); }
   bool end_array() override { return Close(); }
-  // "[json.exception.parse_error.101] parse error at line 1, column 2: what" begins with a place of its own.
+  // Its name in brackets comes before what it says.
   bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& error) override {
-    constexpr std::string_view place = " at ";
     std::string_view what = error.what();
-    what.remove_prefix(std::min(what.find(place), what.size() - place.size()) + place.size());
+    what.remove_prefix(what.find(']') + 1);
+    what.remove_prefix(what.find_first_not_of(' '));
+    if (what.starts_with(PlainError)) what.remove_prefix(PlainError.size());
     Wrong = Visible(what.substr(0, LongestComplaint));
     return false;
   }
@@ -153,6 +154,7 @@ class JsonHandler final : public nlohmann::json_sax<nlohmann::json> {
   }
 
   static constexpr std::size_t LongestComplaint = 200;
+  static constexpr std::string_view PlainError = "parse error at ";
   Characters& characters_;
   Rows& rows_;
   std::string levels_;  // their opening brackets

@@ -99,6 +99,7 @@ TEST(Json, ReadsObjectsInAList) {
 TEST(Json, NamesWhatIsWrong) {
   EXPECT_EQ(Titles("json", "[{\"title\":\"Alien\"}"),
             "!line 1, column 19: syntax error while parsing array - unexpected end of input; expected ']'");
+  EXPECT_EQ(Titles("json", "[88.8e880"), "!number overflow parsing '88.8e880'");
   EXPECT_EQ(Titles("json", std::string(100, '[')), "!more than 64 levels");
   EXPECT_EQ(Titles("json", "[{\"title\":\"" + std::string(exchange::LongestPiece + 200'000, 'x')),
             "!a value of more than a megabyte");
