@@ -8,6 +8,9 @@
 namespace desktop {
 namespace {
 
+// A window that others follow at once is at the front for a moment only.
+constexpr int AfterFront = 200;  // milliseconds
+
 // Between the words so far and the next.
 QString Joint(const QString& words) {
   return words.back().isPunct() && words.back() != u'"' ? QStringLiteral(" ") : QStringLiteral(". ");
@@ -18,7 +21,7 @@ QString Joint(const QString& words) {
 Announcer::Announcer(QWidget& window) : window_(window) { window.installEventFilter(this); }
 
 bool Announcer::eventFilter(QObject*, QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) QTimer::singleShot(0, this, [this] { Say(); });
+  if (event->type() == QEvent::WindowActivate) QTimer::singleShot(AfterFront, this, [this] { Say(); });
   return false;
 }
 

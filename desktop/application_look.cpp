@@ -6,9 +6,11 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <memory>
 
 #include "desktop/artwork.h"
+#include "desktop/grid.h"
 
 namespace desktop {
 namespace {
@@ -43,12 +45,25 @@ class Style final : public QProxyStyle {
     if (which != MenuArrow) return QProxyStyle::standardIcon(which, option, widget);
     return QIcon(std::make_unique<LateArrow>(*baseStyle()).release());
   }
+  // The chosen line of the bar shows also before its menu is open, as after Alt alone.
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* line = element == CE_MenuBarItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (!line) return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionMenuItem shown = *line;
+    if (shown.state & State_Selected) shown.state |= State_Sunken;
+    QProxyStyle::drawControl(element, &shown, painter, widget);
+  }
 };
 
 }  // namespace
 
 void SetUpLook() {
   QApplication::setStyle(std::make_unique<Style>().release());
+  // The family of the forms for menus, boxes and help too; the size is the desktop's.
+  QFont font = QApplication::font();
+  font.setFamilies(FontFamilies());
+  QApplication::setFont(font);
   QApplication::setQuitOnLastWindowClosed(false);
   // The name of the desktop entry: by it a desktop knows to which entry a window belongs.
   QGuiApplication::setDesktopFileName(QStringLiteral("reelora-prima"));

@@ -14,19 +14,17 @@ namespace {
 
 constexpr int CaptionFlags = Qt::AlignCenter | Qt::TextShowMnemonic;
 
-// Shrinks the font to fit the width.
-void FitFont(QPainter& painter, const QString& caption, int width) {
-  QFont font = painter.font();
-  while (font.pixelSize() > 6 && QFontMetrics(font).size(Qt::TextShowMnemonic, caption).width() > width)
-    font.setPixelSize(font.pixelSize() - 1);
-  painter.setFont(font);
-}
+constexpr int SmallestFont = 6;  // pixels
+
+// Of the ring or the square of an option.
+double MarkSize(const QWidget& option) { return option.font().pixelSize() * 1.05; }
 
 void PaintFace(QPainter& painter, const QWidget& button, const QColor& back, bool down) {
   QRectF face = QRectF(button.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
   QLinearGradient shade(face.topLeft(), face.bottomLeft());
-  shade.setColorAt(down ? 1 : 0, back.lighter(118));
-  shade.setColorAt(down ? 0 : 1, back.darker(104));
+  bool hovered = button.isEnabled() && button.underMouse() && !down;
+  shade.setColorAt(down ? 1 : 0, back.lighter(hovered ? 130 : 118));
+  shade.setColorAt(down ? 0 : 1, hovered ? back.lighter(108) : back.darker(104));
   double corner = std::max(2.0, face.height() / 14);
   painter.setPen(QPen(back.darker(170), 1));
   painter.setBrush(shade);
@@ -43,7 +41,7 @@ void PaintOption(QWidget& option, const forms::Captioned& control, bool round, b
   painter.setRenderHint(QPainter::Antialiasing);
   QColor fore = ToColour(control.Look().Fore);
   if (!option.isEnabled()) fore.setAlphaF(0.5F);
-  double size = option.font().pixelSize() * 1.05;
+  double size = MarkSize(option);
   QRectF ring(2, (option.height() - size) / 2, size, size);
   painter.setPen(QPen(Qt::black, std::max(1.0, size / 14)));
   painter.setBrush(down ? QColor(0xD0, 0xD0, 0xD0) : QColor(Qt::white));
@@ -58,11 +56,10 @@ void PaintOption(QWidget& option, const forms::Captioned& control, bool round, b
                                     ring.topLeft() + QPointF(size * 0.42, size * 0.74),
                                     ring.topLeft() + QPointF(size * 0.8, size * 0.26)}));
   }
-  QRect words = option.rect().adjusted(static_cast<int>(size * 1.45) + 2, 0, 0, 0);
+  QRect words = CaptionArea(control, option);
   QString caption = Shown(control.Caption());
   painter.setPen(fore);
-  painter.setFont(option.font());
-  FitFont(painter, caption, words.width());
+  painter.setFont(FittedFont(option.font(), caption, words.width()));
   int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
   painter.drawText(words, flags, caption);
   if (!option.hasFocus()) return;
@@ -84,9 +81,21 @@ void ApplyOptionLook(QWidget& option, const forms::Look& look, const Grid& grid)
 
 }  // namespace
 
+QFont FittedFont(QFont font, const QString& text, int width) {
+  while (font.pixelSize() > SmallestFont && QFontMetrics(font).size(Qt::TextShowMnemonic, text).width() > width)
+    font.setPixelSize(font.pixelSize() - 1);
+  return font;
+}
+
+QRect CaptionArea(const forms::Captioned& control, const QWidget& widget) {
+  if (control.Kind == forms::Kind::Button) return widget.rect().adjusted(3, 2, -3, -2);
+  return widget.rect().adjusted(static_cast<int>(MarkSize(widget) * 1.45) + 2, 0, 0, 0);
+}
+
 ButtonView::ButtonView(forms::Button& button, QWidget& parent)
     : QPushButton(&parent), ControlView(button), button_(button) {
   setFocusPolicy(Qt::TabFocus);
+  setAttribute(Qt::WA_Hover);
 }
 
 void ButtonView::ApplyLook(const Grid& grid) {
@@ -105,7 +114,7 @@ void ButtonView::paintEvent(QPaintEvent*) {
   PaintFace(painter, *this, ToColour(button_.Look().Back), isDown());
   if (isDown()) painter.translate(1, 1);
   QString caption = Shown(button_.Caption());
-  QRect words = rect().adjusted(3, 2, -3, -2);
+  QRect words = CaptionArea(button_, *this);
   if (!button_.Icon.empty()) {
     int text_height = caption.isEmpty() ? 0 : QFontMetrics(font()).height();
     int side = std::min(words.width(), words.height() - text_height - 2);
@@ -115,8 +124,7 @@ void ButtonView::paintEvent(QPaintEvent*) {
     painter.setOpacity(1);
     words.setTop(words.bottom() - text_height + 1);
   }
-  painter.setFont(font());
-  FitFont(painter, caption, words.width());
+  painter.setFont(FittedFont(font(), caption, words.width()));
   QColor fore = ToColour(button_.Look().Fore);
   if (!isEnabled()) fore.setAlphaF(0.4F);
   painter.setPen(fore);

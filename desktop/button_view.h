@@ -10,6 +10,11 @@
 
 namespace desktop {
 
+// The font, made smaller until the text is no wider than that; 6 pixels at least.
+QFont FittedFont(QFont font, const QString& text, int width);
+// Where the widget of a button, an option button or a check box has its caption.
+QRect CaptionArea(const forms::Captioned& control, const QWidget& widget);
+
 class ButtonView final : public QPushButton, public ControlView {
  public:
   ButtonView(forms::Button& button, QWidget& parent);

@@ -3,12 +3,15 @@
 
 #include <QPushButton>
 
+#include "desktop/box_fit.h"
+
 namespace desktop {
 
 DraftBox::DraftBox(const QString& title, const QString& film, QWidget* parent)
     : QMessageBox(parent), keep_(addButton("Keep it", AcceptRole)), drop_(addButton("Drop it", DestructiveRole)) {
   setWindowTitle(title);
   setTextFormat(Qt::PlainText);
+  FitToWindow(*this);
   setText(QStringLiteral("This film was not saved when the program ended:\n\n%1")
               .arg(film.isEmpty() ? QStringLiteral("(no title)") : film));
   setDefaultButton(keep_);

@@ -1,8 +1,10 @@
 // Mirrors one window: creates its widgets and keeps them up to date.
 #include "desktop/form_view.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -57,7 +59,7 @@ FormView::FormView(forms::Window& window, StackView& all)
   if (window.Modal) setWindowModality(Qt::ApplicationModal);
   input_.Watch(*this);
   input_.Watch(surface_);
-  setMinimumSize(Scaled(window, SmallestScale));
+  setMinimumSize(Scaled(window, SmallestScale).boundedTo(StartSize()));
   resize(StartSize());
   LayOut();
   // Not before its font is set, or it measures its items in the default font, too.
@@ -136,6 +138,7 @@ void FormView::SyncFrame() {
   QPalette colours = surface_.palette();
   colours.setColor(QPalette::Window, back);
   surface_.setPalette(colours);
+  update();
 }
 
 // While the user moves through the menu bar by keyboard, it keeps the toolkit's focus.
@@ -164,12 +167,22 @@ void FormView::LayOut() {
     notices_height_ = notices_->HeightFor(width());
     notices_->setGeometry(0, height() - notices_height_, width(), notices_height_);
   }
-  surface_.setGeometry(0, bar_height, width(), height() - bar_height - notices_height_);
+  surface_.setGeometry(SurfaceIn({0, bar_height, width(), height() - bar_height - notices_height_}));
   grid = Grid::Of(surface_.size(), window_.Width, window_.Height);
   if (grid == grid_) return;
   grid_ = grid;
   for (Slot& slot : slots_)
     if (slot.View) slot.View->Forget();
+}
+
+// Pictures keep their shape, so a window with pictures does too: what stands beside a picture stays there.
+QRect FormView::SurfaceIn(const QRect& room) const {
+  const auto& all = window_.Controls();
+  if (std::none_of(all.begin(), all.end(), [](const auto* one) { return one->Kind == forms::Kind::Picture; }))
+    return room;
+  QSize size = QSize(window_.Width, window_.Height).scaled(room.size(), Qt::KeepAspectRatio);
+  return {room.x() + (room.width() - size.width()) / 2, room.y() + (room.height() - size.height()) / 2, size.width(),
+          size.height()};
 }
 
 void FormView::PlaceNotices(NoticeLine* line) {
@@ -185,9 +198,16 @@ void FormView::PlaceNotices(NoticeLine* line) {
   if (line) line->setVisible(height > 0);
 }
 
+QFont FormView::TextFont() const {
+  QFont font = QApplication::font();
+  font.setPixelSize(std::max(grid_.Pixels(TextPoints), QFontInfo(font).pixelSize()));
+  return font;
+}
+
 void FormView::LieOver(FormView& other) {
-  for (const QWindow* below = other.windowHandle(); below; below = below->transientParent())
-    if (below == windowHandle()) return;
+  winId();
+  if (windowHandle()->transientParent() == other.windowHandle()) return;
+  hide();
   windowHandle()->setTransientParent(other.windowHandle());
 }
 
@@ -236,6 +256,8 @@ void FormView::resizeEvent(QResizeEvent*) {
   MirrorControls();
   for (ControlView* view : changed_) view->Withdraw();
 }
+
+void FormView::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), ToColour(window_.BackColor())); }
 
 void FormView::closeEvent(QCloseEvent* event) {
   event->ignore();

@@ -35,7 +35,9 @@ class FormView final : public QWidget {
   ListTable& List() { return list_; }
   // nullptr if the control has not been shown yet.
   ControlView* ViewOf(const forms::Control& control) const;
-  // From now on this window lies in front of the other, on every desktop. Nothing if the other lies in front of it.
+  // For menus, boxes and notices: in proportion to the window, and never smaller than the desktop's own.
+  QFont TextFont() const;
+  // From now on this window lies in front of the other, on every desktop.
   void LieOver(FormView& other);
   // Puts the notice line below the surface; nullptr for none. The window grows by the line's height as far as the
   // display has room, so that the form keeps its size.
@@ -44,6 +46,8 @@ class FormView final : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  // What the surface leaves free.
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   struct Slot {
@@ -62,6 +66,7 @@ class FormView final : public QWidget {
   QSize StartSize() const;
   void TakePlace();
   void KeepPlace();
+  QRect SurfaceIn(const QRect& room) const;
 
   forms::Window& window_;
   StackView& stack_;

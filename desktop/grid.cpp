@@ -1,7 +1,6 @@
 // Places and font sizes in pixels.
 #include "desktop/grid.h"
 
-#include <QStringList>
 #include <algorithm>
 #include <cmath>
 
@@ -22,10 +21,12 @@ int Grid::Pixels(double points) const {
   return std::max(1, static_cast<int>(std::lround(points * TwipsPerPoint * std::min(Across, Down))));
 }
 
-// All font names of the forms map to Liberation Sans, which has the widths of Arial.
+QStringList FontFamilies() { return {QStringLiteral("Liberation Sans"), QStringLiteral("Arial")}; }
+
+// All font names of the forms map to the one family.
 QFont Grid::Font(const forms::Look& look) const {
   QFont font;
-  font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
+  font.setFamilies(FontFamilies());
   font.setPixelSize(Pixels(look.FontSize));
   font.setBold(look.Bold);
   return font;

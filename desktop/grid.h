@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QRect>
 #include <QSize>
+#include <QStringList>
 
 #include "forms/control.h"
 
@@ -24,8 +25,14 @@ struct Grid {
   QFont Font(const forms::Look& look) const;
 };
 
+// Of everything that is drawn: Liberation Sans, which has the widths of Arial.
+QStringList FontFamilies();
+
 // At 96 dots per inch.
 inline constexpr double PixelsPerTwip = 96.0 / 1440;
 inline constexpr double TwipsPerPoint = 20;
+
+// Of menus, boxes and notices.
+inline constexpr double TextPoints = 9;
 
 }  // namespace desktop

@@ -1,12 +1,17 @@
 // Lays out the prompt, the answer line and the two buttons.
 #include "desktop/input_dialog.h"
 
+#include <QFontInfo>
+#include <algorithm>
 #include <utility>
+
+#include "desktop/box_fit.h"
 
 namespace desktop {
 namespace {
 
-constexpr int PromptWidth = 420;
+constexpr int PromptWidth = 420;  // pixels, at a text height of
+constexpr int PlainText = 13;
 
 }  // namespace
 
@@ -20,7 +25,8 @@ InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* p
   setWindowTitle(title);
   prompt_.setTextFormat(Qt::PlainText);
   prompt_.setWordWrap(true);
-  prompt_.setMinimumWidth(PromptWidth);
+  FitToWindow(*this);
+  prompt_.setMinimumWidth(std::max(PromptWidth * fontInfo().pixelSize() / PlainText, TitleWidth(*this)));
   line_.setAccessibleName(prompt.simplified());
   connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);

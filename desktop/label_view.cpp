@@ -31,7 +31,6 @@ LabelView::LabelView(forms::Label& label, QWidget& parent, bool tag)
   setMargin(0);
   bool left = label.Look().Lines == forms::Align::Left;
   setAlignment((left ? Qt::AlignLeft : Qt::AlignHCenter) | (tag ? Qt::AlignTop : Qt::AlignVCenter));
-  if (label.Look().Border) setFrameStyle(QFrame::Box | QFrame::Plain);
 }
 
 void LabelView::ApplyLook(const Grid& grid) {
@@ -49,6 +48,8 @@ void LabelView::ApplyContent() {
   QString wanted = tag_ ? Unpadded(label_.Caption()) : Shown(label_.Caption()).remove('\r');
   if (wanted != text()) {
     setText(wanted);
+    // An empty figure has no box.
+    if (label_.Look().Border) setFrameStyle(wanted.isEmpty() ? QFrame::NoFrame : QFrame::Box | QFrame::Plain);
     setAccessibleName(AccessibleName(label_));
     fitted_ = false;
   }

@@ -13,7 +13,6 @@
 namespace desktop {
 namespace {
 
-constexpr double MenuPoints = 9;
 constexpr int SmallestFont = 11;  // pixels
 
 }  // namespace
@@ -63,7 +62,7 @@ void MenuView::Sync() {
 
 void MenuView::Scale(const Grid& grid) {
   QFont font = bar_.font();
-  font.setPixelSize(std::max(grid.Pixels(MenuPoints), SmallestFont));
+  font.setPixelSize(std::max(grid.Pixels(TextPoints), SmallestFont));
   if (font == bar_.font()) return;
   bar_.setFont(font);
   for (const auto& menu : menus_) {

@@ -2,7 +2,11 @@
 #include "desktop/message_box.h"
 
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QKeyEvent>
+#include <memory>
+
+#include "desktop/box_fit.h"
 
 namespace desktop {
 namespace {
@@ -22,6 +26,11 @@ MessageBox::MessageBox(forms::Icon icon, const QString& title, const QString& te
   setTextFormat(Qt::PlainText);
   setText(text);
   setStandardButtons(is_question_ ? Yes | No : QMessageBox::StandardButtons(Ok));
+  FitToWindow(*this);
+  // The box lays itself out by its text alone; a row beneath makes it as wide as its title.
+  auto* rows = dynamic_cast<QGridLayout*>(layout());
+  auto width = std::make_unique<QSpacerItem>(TitleWidth(*this), 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+  if (rows) rows->addItem(width.release(), rows->rowCount(), 0, 1, rows->columnCount());
 }
 
 forms::Answer MessageBox::Ask() {

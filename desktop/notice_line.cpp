@@ -12,7 +12,6 @@
 namespace desktop {
 namespace {
 
-constexpr double Points = 9;
 constexpr int SmallestFont = 11;  // pixels
 constexpr int BarWidth = 180;
 constexpr int BarSteps = 1000;
@@ -123,7 +122,7 @@ void NoticeLine::Announce(const QString& text) {
 
 void NoticeLine::Scale(const Grid& grid) {
   QFont scaled = font();
-  scaled.setPixelSize(std::max(grid.Pixels(Points), SmallestFont));
+  scaled.setPixelSize(std::max(grid.Pixels(TextPoints), SmallestFont));
   if (scaled != font()) setFont(scaled);
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/stack_view.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/text.h"
@@ -12,6 +13,18 @@ namespace {
 
 constexpr std::chrono::milliseconds LongWork(500);
 constexpr std::chrono::milliseconds ProgressInterval(100);
+
+// Windows that always lie in front of another. "" for the others.
+struct Over {
+  std::string_view Window, Below;
+};
+constexpr Over Overs[] = {{"frmQuickStart", "frmPage1"}, {"frmCopy", "frmPage1"}};
+
+std::string_view LiesOver(const forms::Window& window) {
+  for (const Over& over : Overs)
+    if (over.Window == window.Name) return over.Below;
+  return "";
+}
 
 }  // namespace
 
@@ -41,23 +54,27 @@ void StackView::Say() {
 }
 
 void StackView::Draw() {
-  for (forms::Window* window : windows_.All()) {
-    std::unique_ptr<FormView>* view = nullptr;
-    if (auto found = views_.find(window); found != views_.end()) {
-      view = &found->second;
-    } else if (window->InSight()) {
-      view = &views_.emplace(window, std::make_unique<FormView>(*window, *this)).first->second;
-    }
-    if (view) (*view)->Sync();
-  }
+  // A desktop takes note of what a window lies over only if that is there when the window comes up.
+  for (bool over_others : {false, true})
+    for (forms::Window* window : windows_.All())
+      if (LiesOver(*window).empty() != over_others) Draw(*window);
   PlaceNotices();
   const forms::Window* front = windows_.Front();
-  const forms::Window* behind = std::exchange(front_, front);
-  if (behind == front || !front) return;
+  if (std::exchange(front_, front) == front || !front) return;
   FormView& view = *ViewOf(*front);
-  if (behind && behind->InSight()) view.LieOver(*ViewOf(*behind));
   view.raise();
   view.activateWindow();
+}
+
+void StackView::Draw(forms::Window& window) {
+  FormView* view = ViewOf(window);
+  if (!view && window.InSight())
+    view = views_.emplace(&window, std::make_unique<FormView>(window, *this)).first->second.get();
+  if (!view) return;
+  auto below = std::find_if(views_.begin(), views_.end(),
+                            [&](const auto& other) { return other.first->Name == LiesOver(window); });
+  if (window.InSight() && below != views_.end() && below->second->isVisible()) view->LieOver(*below->second);
+  view->Sync();
 }
 
 void StackView::BringToFront() {

@@ -57,6 +57,7 @@ class StackView {
 
  private:
   void Draw();
+  void Draw(forms::Window& window);
   void Say();
   void PlaceNotices();
 

@@ -2,53 +2,24 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QTest>
 
-#include "app/program.h"
-#include "desktop/film_words.h"
-#include "desktop/stack_view.h"
 #include "desktop/text.h"
-#include "tests/kit/films.h"
-#include "tests/kit/memory_disk.h"
-#include "tests/kit/quiet_desk.h"
+#include "tests/desktop/whole_program.h"
 
 namespace desktop {
 namespace {
 
-class Ears : public testing::Test {
+class Ears : public testing::Test, public WholeProgram {
  protected:
-  Ears() {
-    View.SayAlso([this] { return News.Take(); });
-    View.Deliver([&] { Program.StartRecordScreen(); });
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Form()));
-    QCoreApplication::processEvents();
-  }
-
-  frmPage1& Screen() { return Program.RecordScreen; }
-  FormView& Form() { return *View.ViewOf(Screen()); }
-  void Click(forms::Control& control) {
-    View.Deliver([&] { Screen().UserClick(control); });
-  }
   QString Heard() { return Form().Speech().Words(); }
   QAccessibleInterface& On(const forms::Control& control) { return Of(Form().ViewOf(control)->Widget()); }
   static QAccessibleInterface& Of(QObject& object) { return *QAccessible::queryAccessibleInterface(&object); }
   static QString Title(int record) { return Shown(kit::FilmBytes(record, 0).substr(0, 40)).trimmed(); }
-  void OpenList() {
-    Click(Screen().cmdSort);
-    Click(Screen().mnuAllTitles);
-    ASSERT_TRUE(Screen().Text1[0].Visible());
-  }
   void TypeNewFilm() {
     Click(Screen().cmdNew);
     View.Deliver([&] { Screen().txtFormat.SetFocus(); });
     ASSERT_TRUE(Screen().List3.Visible());
   }
-
-  kit::MemoryDisk Disk{kit::FolderOfFilms(25)};
-  kit::QuietDesk Desk;
-  ::Program Program{Desk, Disk};
-  FilmNews News{Program.RecordScreen};
-  StackView View{Program.Windows, [this](const std::function<void()>& event) { Program.Deliver(event); }};
 };
 
 TEST_F(Ears, AFilmThatComesUpIsSaidWithItsPosition) {
