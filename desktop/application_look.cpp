@@ -10,6 +10,8 @@
 #include <memory>
 
 #include "desktop/artwork.h"
+#include "desktop/contrast.h"
+#include "desktop/control_view.h"
 #include "desktop/grid.h"
 
 namespace desktop {
@@ -56,6 +58,16 @@ class Style final : public QProxyStyle {
   }
 };
 
+// On a dark desktop the toolkit's links and hints are as dark as their ground.
+void MakeReadable() {
+  QPalette colours = QApplication::palette();
+  QColor ground = colours.color(QPalette::Base);
+  colours.setColor(QPalette::Link, StandingOut(colours.color(QPalette::Link), ground, TextContrast));
+  QColor hint = DisabledColour(colours.color(QPalette::Text), ground);
+  colours.setColor(QPalette::PlaceholderText, hint);
+  QApplication::setPalette(colours);
+}
+
 }  // namespace
 
 void SetUpLook() {
@@ -64,6 +76,7 @@ void SetUpLook() {
   QFont font = QApplication::font();
   font.setFamilies(FontFamilies());
   QApplication::setFont(font);
+  MakeReadable();
   QApplication::setQuitOnLastWindowClosed(false);
   // The name of the desktop entry: by it a desktop knows to which entry a window belongs.
   QGuiApplication::setDesktopFileName(QStringLiteral("reelora-prima"));

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desktop/text.h"
+#include "forms/window_stack.h"
 
 namespace desktop {
 namespace {
@@ -33,7 +34,9 @@ QString FilmWords(frmPage1& window) {
   return words.join(QStringLiteral(", "));
 }
 
+// What comes up behind another window is said when that has gone.
 QString FilmNews::Take() {
+  if (window_.Owner().Front() != &window_) return {};
   return std::exchange(told_, window_.FilmsShown) == window_.FilmsShown ? QString() : FilmWords(window_);
 }
 

@@ -45,7 +45,7 @@ FormView::FormView(forms::Window& window, StackView& all)
     : window_(window),
       stack_(all),
       input_(*this, all),
-      surface_(this),
+      surface_(*this, window),
       menu_(
           window, *this, [this](forms::MenuItem& item) { stack_.Deliver([&] { window_.UserClick(item); }); },
           [this](forms::MenuItem& item) { stack_.Deliver([&] { window_.Owner().Desk.Help(item.Ids.HelpId); }); },
@@ -55,7 +55,6 @@ FormView::FormView(forms::Window& window, StackView& all)
   auto tags = TagsOf(window);
   for (forms::Control* control : window.Controls())
     if (control->Kind != forms::Kind::MenuItem) slots_.push_back({control, tags.contains(control), nullptr, {}});
-  surface_.setAutoFillBackground(true);
   if (window.Modal) setWindowModality(Qt::ApplicationModal);
   input_.Watch(*this);
   input_.Watch(surface_);

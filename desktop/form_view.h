@@ -8,6 +8,7 @@
 
 #include "desktop/announcer.h"
 #include "desktop/control_view.h"
+#include "desktop/ground.h"
 #include "desktop/list_table.h"
 #include "desktop/menu_view.h"
 #include "desktop/user_input.h"
@@ -71,7 +72,7 @@ class FormView final : public QWidget {
   forms::Window& window_;
   StackView& stack_;
   UserInput input_;
-  QWidget surface_;
+  Ground surface_;
   MenuView menu_;
   std::vector<Slot> slots_;
   std::vector<ControlView*> changed_;

@@ -47,10 +47,15 @@ void StackView::Sync() {
 }
 
 void StackView::Say() {
+  if (!delivering_) HearNotice();
+  for (const auto& [window, view] : views_) view->Speech().Say();
+}
+
+// When the event is over: a box that follows at once would drown it.
+void StackView::HearNotice() {
   QString notice = notices_ ? notices_->Text() : QString();
   FormView* with_line = noticed_ ? noticed_ : Front();
   if (std::exchange(notice_said_, notice) != notice && with_line) with_line->Speech().Add(notice);
-  for (const auto& [window, view] : views_) view->Speech().Say();
 }
 
 void StackView::Draw() {

@@ -59,6 +59,7 @@ class StackView {
   void Draw();
   void Draw(forms::Window& window);
   void Say();
+  void HearNotice();
   void PlaceNotices();
 
   forms::WindowStack& windows_;
