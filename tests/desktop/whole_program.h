@@ -19,6 +19,7 @@ class WholeProgram {
     View.Deliver([&] { Program.StartRecordScreen(); });
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Form()));
     QCoreApplication::processEvents();
+    Form().Speech().Say();  // what it has at the start
   }
 
   frmPage1& Screen() { return Program.RecordScreen; }
