@@ -11,6 +11,9 @@ namespace {
 // A window that others follow at once is at the front for a moment only.
 constexpr int AfterFront = 200;  // milliseconds
 
+// Words that wait for their window to come to the front; a report alone may write hundreds behind its box.
+constexpr qsizetype MostHeld = 20;
+
 // Between the words so far and the next.
 QString Joint(const QString& words) {
   return words.back().isPunct() && words.back() != u'"' ? QStringLiteral(" ") : QStringLiteral(". ");
@@ -26,7 +29,10 @@ bool Announcer::eventFilter(QObject*, QEvent* event) {
 }
 
 void Announcer::Add(const QString& words) {
-  if (!words.isEmpty()) added_.append(words);
+  if (words.isEmpty()) return;
+  added_.removeAll(words);
+  added_.append(words);
+  if (added_.size() > MostHeld) added_.removeFirst();
 }
 
 void Announcer::Say() {

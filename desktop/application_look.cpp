@@ -58,10 +58,12 @@ class Style final : public QProxyStyle {
   }
 };
 
-// On a dark desktop the toolkit's links and hints are as dark as their ground.
+// On a dark desktop the toolkit's links and hints are as dark as their ground. Elsewhere the palette stays the
+// desktop's own: the toolkit keeps pictures of its buttons for each palette, and boxes would have one each.
 void MakeReadable() {
   QPalette colours = QApplication::palette();
   QColor ground = colours.color(QPalette::Base);
+  if (Contrast(colours.color(QPalette::Link), ground) >= TextContrast) return;
   colours.setColor(QPalette::Link, StandingOut(colours.color(QPalette::Link), ground, TextContrast));
   QColor hint = DisabledColour(colours.color(QPalette::Text), ground);
   colours.setColor(QPalette::PlaceholderText, hint);

@@ -61,6 +61,19 @@ TEST_F(Ears, ANoticeIsSaidOnce) {
   EXPECT_FALSE(Heard().contains("films.pdf"));
 }
 
+TEST_F(Ears, OfWhatWaitsForTheWindowTheLastIsKept) {
+  QWidget hidden;
+  Announcer announcer(hidden);
+  for (int number = 0; number < 1000; ++number) announcer.Add(QString::number(number));
+  announcer.Say();
+  EXPECT_EQ(announcer.Words(), "");
+  hidden.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&hidden));
+  announcer.Say();
+  EXPECT_TRUE(announcer.Words().startsWith("980. ") && announcer.Words().endsWith(" 999"))
+      << announcer.Words().toStdString();
+}
+
 TEST_F(Ears, APickListThatOpensSaysWhatItHasTaken) {
   TypeNewFilm();
   EXPECT_TRUE(Heard().contains("Format V - L- D list, DVD is taken")) << Heard().toStdString();
