@@ -52,8 +52,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 
 # Precompiled. A compiler cache is faster than precompiled headers, and together they do not work.
-set(common_headers <algorithm> <array> <functional> <map> <optional> <sstream> <string> <string_view> <vector>
-  ${PROJECT_SOURCE_DIR}/screen/frmPage1.h)
+set(standard_headers <algorithm> <array> <filesystem> <functional> <iostream> <map> <memory> <optional> <sstream>
+  <string> <string_view> <vector>)
+set(common_headers ${standard_headers} ${PROJECT_SOURCE_DIR}/screen/frmPage1.h)
 if(CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()
