@@ -42,10 +42,12 @@ if(REELORA_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   target_compile_options(reelora_options INTERFACE ${coverage})
 endif()
 
-# Tests compile with -O1 for speed; the code under test is built as shipped.
+# Tests compile with -O1 for speed, those of the target property REELORA_PLAIN with -O0; the code under test is built as
+# shipped.
 add_library(reelora_test_options INTERFACE)
 target_link_libraries(reelora_test_options INTERFACE reelora_common_options)
-target_compile_options(reelora_test_options INTERFACE $<$<CONFIG:Release>:-O1>)
+target_compile_options(reelora_test_options INTERFACE
+  $<$<CONFIG:Release>:$<IF:$<BOOL:$<TARGET_PROPERTY:REELORA_PLAIN>>,-O0,-O1>>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 warns falsely about strings whose header is precompiled.
   target_compile_options(reelora_test_options INTERFACE -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
