@@ -95,7 +95,7 @@ Slots RandomFilms(std::mt19937& engine) {
 }
 
 TEST_P(RoundTrip, KeepsRandomFilmsOfOddBytes) {
-  constexpr int Collections = 2'500;
+  constexpr int Collections = 10'000;
   std::mt19937 engine(16);
   for (int number = 0; number < Collections; ++number) {
     ExpectSame(RandomFilms(engine), number % 2 == 0 ? 1 << 16 : 1 + static_cast<std::size_t>(number) % 7);
