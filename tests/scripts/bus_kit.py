@@ -1,5 +1,6 @@
 # The program as a screen reader meets it: things on the bus with role, name, text and states, and the events they send.
-import re
+# One key at a time: the next is pressed when the one before is seen to have worked.
+import atexit
 import subprocess
 import time
 
@@ -8,7 +9,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
-PATIENCE = 30  # seconds
+PATIENCE = 180  # seconds
 # A machine with much to do answers late; in milliseconds, for each call and for the first ones.
 Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
 
@@ -29,12 +30,15 @@ def same(name, seen, wanted):
     check(f"{name}, wanted {wanted!r}", seen == wanted, seen)
 
 
-def key(*keys):
-    subprocess.run(["xdotool", "key", *keys], check=True)
+def start(program, folder):
+    """When the test listens already: while a program comes up, the toolkit takes no note of who begins to listen."""
+    running = subprocess.Popen([program], cwd=folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    atexit.register(running.wait)
+    atexit.register(running.kill)
 
 
-def type_text(text):
-    subprocess.run(["xdotool", "type", "--delay", "5", text], check=True)
+def key(keys):
+    subprocess.run(["xdotool", "key", keys], check=True)
 
 
 def pump():
@@ -55,6 +59,18 @@ def until(what, condition):
             return found
         time.sleep(0.01)
     raise TimeoutError(what)
+
+
+def press(keys, what, condition):
+    key(keys)
+    return until(f"{what} after {keys}", condition)
+
+
+def type_text(field, letters):
+    """Over what is chosen in the field, letter by letter."""
+    for end in range(1, len(letters) + 1):
+        subprocess.run(["xdotool", "type", letters[end - 1]], check=True)
+        until(f"{letters[:end]!r} in {name(field)}", lambda: text(field) == letters[:end])
 
 
 def name(thing):
@@ -85,7 +101,9 @@ def below(thing):
 
 
 def program():
+    """Asked anew each time: what the bindings keep may be old."""
     desktop = Atspi.get_desktop(0)
+    desktop.set_cache_mask(Atspi.Cache.NONE)
     app = next((app for app in children(desktop) if name(app) == "reelora-prima"), None)
     if app:
         app.set_cache_mask(Atspi.Cache.NONE)
@@ -116,6 +134,10 @@ def find(thing, wanted_role, wanted_name, showing=True):
     return None
 
 
+def names(thing, wanted_role):
+    return [name(one) for one in below(thing) if role(one) == wanted_role and has(one, "showing")]
+
+
 def related(thing, relation):
     for one in thing.get_relation_set():
         if one.get_relation_type() == relation:
@@ -124,15 +146,18 @@ def related(thing, relation):
 
 
 class Ear:
-    """Hears who gets the focus and what is announced."""
+    """Hears who gets the focus, what is chosen in lists, what is typed and what is announced."""
 
     def __init__(self):
         self.focused = []
-        self.said = []
-        self.listener = Atspi.EventListener.new(self.hear)
-        for event in ("object:state-changed:focused", "object:state-changed:showing", "object:text-changed:insert"):
-            self.listener.register(event)
+        self.holder = None
+        self.chosen = []
         self.inserted = []
+        self.said = []
+        self.gone = []
+        self.listener = Atspi.EventListener.new(self.hear)
+        for event in ("state-changed:focused", "state-changed:selected", "state-changed:showing", "text-changed:insert"):
+            self.listener.register(f"object:{event}")
 
     def hear(self, event):
         source = event.source
@@ -143,36 +168,26 @@ class Ear:
                 pass
             elif event.type == "object:state-changed:focused":
                 self.focused.append((role(source), name(source)))
+                self.holder = source
+            elif event.type == "object:state-changed:selected":
+                self.chosen.append((role(source), name(source)))
             elif role(source) == "notification":
                 self.said.append(name(source))
-        except GLib.Error:
-            pass
+        except GLib.Error:  # it went before it was asked
+            self.gone.append(event.type)
 
     def forget(self):
         pump()
-        self.focused.clear()
-        self.said.clear()
-        self.inserted.clear()
+        for heard in (self.focused, self.chosen, self.inserted, self.said):
+            heard.clear()
 
     def hears(self, words):
         return until(f"the words {words!r} among {self.said!r}", lambda: any(words in said for said in self.said))
 
+    def last(self):
+        return self.focused[-1] if self.focused else ("", "")
 
-class Source:
-    """The tables of the source: which label names which field, and in which order Tab goes."""
-
-    def __init__(self, folder):
-        controls = open(f"{folder}/screen/controls.h", encoding="utf-8").read()
-        boxes = open(f"{folder}/screen/record_boxes.h", encoding="utf-8").read()
-        self.captions = {}
-        for control, caption in re.findall(r'\{ \*this, "(\w+)",\s+"((?:[^"\\]|\\.)*)"', controls):
-            self.captions[control] = " ".join(caption.replace('\\"', '"').replace("&", "").split())
-        self.tabs = {}
-        for control, tab in re.findall(r'forms::TextBox +(\w+) +\{ \*this, "[^"]+", +\{ *(\d+)', controls):
-            self.tabs[control] = int(tab)
-        self.pages = []
-        for page in ("PageOne", "PageTwo"):
-            rows = boxes.split(f"{page}[] = {{")[1].split("};")[0]
-            pairs = re.findall(r"&PageControls::(\w+), +&PageControls::(\w+)", rows)
-            pairs.sort(key=lambda pair: self.tabs[pair[0]])
-            self.pages.append([(box, self.captions[tag]) for box, tag in pairs])
+    def finds_focus(self, wanted_role, wanted_name):
+        """The thing that has the focus at last."""
+        until(f"the focus on {wanted_name}", lambda: self.last() == (wanted_role, wanted_name))
+        return self.holder

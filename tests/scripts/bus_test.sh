@@ -17,5 +17,4 @@ export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 NO_AT_BRIDGE=0 GSETTINGS_BACKEND=memor
 cp -- "$source_folder/delivered/sample/Recpra.Dat" "$collection/"
 printf 'YES\r\n' >"$collection/Fo"
 printf 'YES\r\n' >"$collection/Fo1"
-start
-"$python" -B "$source_folder/tests/scripts/bus_test.py" "$source_folder" "$collection"
+"$python" -B "$source_folder/tests/scripts/bus_test.py" "$program" "$source_folder" "$collection"

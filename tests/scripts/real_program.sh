@@ -30,7 +30,8 @@ open_display() {
   local number pipe
   exec {pipe}<> <(:)
   # Without -noreset the server starts over when its last program goes, and refuses one that comes meanwhile.
-  Xvfb -noreset -displayfd "$pipe" -screen 0 1280x900x24 >"$work/server" 2>&1 &
+  # Without -r a key of a program that comes to a stop between press and release would repeat itself.
+  Xvfb -noreset -r -displayfd "$pipe" -screen 0 1280x900x24 >"$work/server" 2>&1 &
   server=$!
   read -r -t 30 -u "$pipe" number || return
   export DISPLAY=:$number
