@@ -56,9 +56,20 @@ class WindowInterface final : public HolderInterface {
   FormView& form_;
 };
 
-class HelpInterface final : public QAccessibleWidget {
+class HelpInterface final : public HolderInterface {
  public:
-  explicit HelpInterface(HelpViewer& help) : QAccessibleWidget(&help, QAccessible::Window) {}
+  explicit HelpInterface(HelpViewer& help) : HolderInterface(&help, QAccessible::Window), help_(help) {}
+
+ protected:
+  std::vector<QObject*> Children() const override {
+    std::vector<QObject*> all;
+    for (QWidget* part : help_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) all.push_back(part);
+    all.push_back(&help_.Speech());
+    return all;
+  }
+
+ private:
+  HelpViewer& help_;
 };
 
 // Left out: what is only there to be looked at, and lists that lie under others.

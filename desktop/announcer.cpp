@@ -16,7 +16,8 @@ constexpr qsizetype MostHeld = 20;
 
 // Between the words so far and the next.
 QString Joint(const QString& words) {
-  return words.back().isPunct() && words.back() != u'"' ? QStringLiteral(" ") : QStringLiteral(". ");
+  bool quoted = words.endsWith(u'"') || words.endsWith(u'\u201d');
+  return words.back().isPunct() && !quoted ? QStringLiteral(" ") : QStringLiteral(". ");
 }
 
 }  // namespace

@@ -56,6 +56,8 @@ HelpViewer::HelpViewer(std::string folder)
   connect(&search_, &QPushButton::clicked, this, [this] { Search(search_line_.text()); });
   connect(&search_line_, &QLineEdit::returnPressed, this, [this] { Search(search_line_.text()); });
   connect(&page_, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { GoTo(TopicOf(url.toString())); });
+  connect(&page_, &QTextBrowser::cursorPositionChanged, this, [this] { SayLinks(); });
+  page_.Tabbed = [this] { SayLinks(); };
 }
 
 void HelpViewer::LayOut() {
@@ -159,10 +161,26 @@ void HelpViewer::GoBack() {
 
 void HelpViewer::Show(const Place& place) {
   page_.setHtml(PageOf(place));
+  SayPage();
   back_.setEnabled(visited_.size() > 1);
   for (QWidget* part :
        {static_cast<QWidget*>(&contents_), static_cast<QWidget*>(&search_line_), static_cast<QWidget*>(&search_)})
     part->setEnabled(file_found_);
+}
+
+// Chapter and title, or the heading.
+void HelpViewer::SayPage() {
+  QStringList lines = page_.toPlainText().split(u'\n');
+  for (const QString& line : lines.first(std::min<qsizetype>(2, lines.size()))) speech_.Add(line);
+  speech_.Say();
+  caret_ = 0;
+}
+
+void HelpViewer::SayLinks() {
+  QTextCursor now = page_.textCursor();
+  for (const QString& words : LinksReached(now, std::exchange(caret_, now.selectionStart())))
+    speech_.Add(QStringLiteral("Link %1").arg(words));
+  speech_.Say();
 }
 
 QString HelpViewer::PageOf(const Place& place) const {

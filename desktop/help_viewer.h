@@ -10,6 +10,8 @@
 #include <variant>
 #include <vector>
 
+#include "desktop/announcer.h"
+#include "desktop/help_links.h"
 #include "help/help_file.h"
 
 namespace desktop {
@@ -34,6 +36,8 @@ class HelpViewer final : public QWidget {
 
   QTextBrowser& Page() { return page_; }
   QLineEdit& SearchLine() { return search_line_; }
+  // What is said of the window to those who do not see it: each page that comes up, and the links.
+  Announcer& Speech() { return speech_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -43,6 +47,8 @@ class HelpViewer final : public QWidget {
   using Place = std::variant<int, QString>;
   void GoTo(Place place);
   void Show(const Place& place);
+  void SayPage();
+  void SayLinks();
   QString PageOf(const Place& place) const;
   bool ReadFile();
   void LayOut();
@@ -57,7 +63,9 @@ class HelpViewer final : public QWidget {
   int scale_ = 0;               // steps from the usual size of the text
   QPushButton contents_, back_, search_;
   QLineEdit search_line_;
-  QTextBrowser page_;
+  HelpText page_;
+  int caret_ = 0;  // where it was last
+  Announcer speech_{*this};
 };
 
 }  // namespace desktop

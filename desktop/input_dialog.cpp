@@ -19,7 +19,8 @@ InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* p
                          CodePageValidator::Refused refused)
     : QDialog(parent),
       column_(this),
-      prompt_(prompt),
+      // With a field of its own the label takes an ampersand for the mark of a hot key.
+      prompt_(QString(prompt).replace(u'&', QStringLiteral("&&"))),
       validator_(line_, std::move(refused)),
       buttons_(QDialogButtonBox::Ok | QDialogButtonBox::Cancel) {
   setWindowTitle(title);
@@ -27,7 +28,10 @@ InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* p
   prompt_.setWordWrap(true);
   FitToWindow(*this);
   prompt_.setMinimumWidth(std::max(PromptWidth * fontInfo().pixelSize() / PlainText, TitleWidth(*this)));
-  line_.setAccessibleName(prompt.simplified());
+  // The label names its line by relation, too.
+  prompt_.setBuddy(&line_);
+  for (QWidget* part : {static_cast<QWidget*>(&prompt_), static_cast<QWidget*>(&line_)})
+    part->setAccessibleName(prompt.simplified());
   connect(&buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(&buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
   for (QWidget* part :

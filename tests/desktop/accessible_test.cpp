@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 
+#include "desktop/input_dialog.h"
 #include "desktop/text.h"
 #include "tests/desktop/whole_program.h"
 
@@ -114,6 +115,16 @@ TEST_F(Ears, ALabelNamesItsFieldAndAButtonTellsItsKey) {
   EXPECT_EQ(relations[0].first, &On(Screen().txtDirector));
   EXPECT_EQ(On(Screen().cmdNew).actionInterface()->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
             QStringList("Alt+W"));
+}
+
+TEST_F(Ears, TheQuestionOfAnInputBoxNamesItsLine) {
+  InputDialog box("Search", "Title & year\nto search:", nullptr, [](const QString&) {});
+  auto& line = *box.findChild<QLineEdit*>();
+  auto relations = Of(line).relations(QAccessible::Label);
+  ASSERT_EQ(relations.size(), 1);
+  EXPECT_EQ(relations[0].first->text(QAccessible::Name), "Title & year to search:");
+  EXPECT_EQ(Of(line).text(QAccessible::Name), "Title & year to search:");
+  EXPECT_EQ(Of(*box.findChild<QLabel*>()).relations(QAccessible::Labelled).at(0).first, &Of(line));
 }
 
 TEST_F(Ears, ControlsFollowEachOtherAsTheyStandOnTheWindow) {

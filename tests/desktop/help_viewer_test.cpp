@@ -29,6 +29,10 @@ struct Viewer : testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
     QTest::keyClick(&widget, key, modifiers);
   }
+  // A window says nothing before it is in front.
+  bool Said(const QString& words) {
+    return QTest::qWaitFor([&] { return Window.Speech().Words() == words; });
+  }
   double TextSize() { return Window.Page().font().pointSizeF(); }
 
   kit::FreshFolder Folder;
@@ -149,6 +153,44 @@ TEST_F(Viewer, ATopicIsFoundByKeyAlone) {
   Press(*Window.focusWidget(), Qt::Key_Tab);
   Press(*Window.focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(Shown().contains("Puts the titles"));
+}
+
+TEST_F(Viewer, APageThatComesUpIsSaid) {
+  Window.Open(170);
+  ASSERT_TRUE(Said("Buttons. Sort"));
+  Window.Open(220);
+  EXPECT_EQ(Window.Speech().Words(), "Buttons. Save");
+  Window.Search("nowhere");
+  EXPECT_EQ(Window.Speech().Words(), "Topics with \u201cnowhere\u201d. There is none.");
+}
+
+TEST_F(Viewer, ALinkIsSaidWhenTheCaretComesToItsLine) {
+  Window.Open(220);
+  ASSERT_TRUE(Said("Buttons. Save"));
+  Press(Window.Page(), Qt::Key_Down);
+  EXPECT_EQ(Window.Speech().Times(), 1);
+  Press(Window.Page(), Qt::Key_Down);
+  EXPECT_EQ(Window.Speech().Words(), "Link sorting");
+  unsigned times = Window.Speech().Times();
+  Press(Window.Page(), Qt::Key_Down);
+  EXPECT_EQ(Window.Speech().Times(), times);
+  Press(Window.Page(), Qt::Key_Up);
+  EXPECT_EQ(Window.Speech().Times(), times + 1);
+  Press(Window.Page(), Qt::Key_End);
+  EXPECT_EQ(Window.Speech().Times(), times + 1);
+  for (const char* letter = "sorting."; *letter; ++letter) Press(Window.Page(), Qt::Key_Left);
+  EXPECT_EQ(Window.Speech().Times(), times + 2) << "once, on its last letter";
+}
+
+TEST_F(Viewer, ALinkIsSaidWhenTabChoosesIt) {
+  Window.Open(0);
+  ASSERT_TRUE(Said("Contents. Buttons"));
+  for (const char* words : {"Link Save", "Link Sort", "Link Title"}) {
+    Press(Window.Page(), Qt::Key_Tab);
+    EXPECT_EQ(Window.Speech().Words(), words);
+  }
+  Press(Window.Page(), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(Window.Speech().Words(), "Link Sort");
 }
 
 TEST_F(Viewer, TabGoesFromTheSearchLineToItsButtonAndOnToTheText) {
