@@ -6,26 +6,15 @@
 #include <iterator>
 #include <system_error>
 
+#include "launcher/closed_folder.h"
+#include "launcher/collection_folder.h"
 #include "launcher/reasons.h"
-#include "runtime/disk.h"
 #include "store/master_file.h"
 
 namespace launcher {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool IsCollection(const std::string& folder) {
-  std::error_code none;
-  return std::ranges::any_of(
-      std::initializer_list<std::string_view>{store::MasterFileName, runtime::SafetyFolder, "UPPER.ALT"},
-      [&](std::string_view name) { return fs::exists(fs::path(folder) / name, none); });
-}
-
-bool IsEmpty(const std::string& folder) {
-  std::error_code none;
-  return fs::is_empty(folder, none) && !none;
-}
 
 // Absolute, without a slash at its end. Links stay in the name, as the user gave it, unless a ".." after one of them
 // counts from where the link leads.
@@ -70,13 +59,15 @@ class Opening {
     if (choice.For == Choice::What::Sample) return OpenSample();
     const std::string folder = WholeName(choice.Folder);
     if (choice.For == Choice::What::Existing && !IsCollection(folder)) {
+      if (IsClosed(folder)) return std::nullopt;
       person_.Tell("There is no collection in " + folder + ". A collection is a folder with the file " +
                    std::string(store::MasterFileName) + ".");
       return std::nullopt;
     }
     if (!Make(folder)) return std::nullopt;
     // In this order: what another start has just put there begins with what makes it a collection.
-    if (!IsEmpty(folder) && !IsCollection(folder) && !person_.MayFill(folder)) return std::nullopt;
+    if (!IsEmpty(folder) && !IsCollection(folder) && (IsClosed(folder) || !person_.MayFill(folder)))
+      return std::nullopt;
     preparation_.Prepare(folder);
     preparation_.Remember(folder);
     return Opened{folder, preparation_.Notice()};
@@ -101,10 +92,18 @@ class Opening {
     return Opened{places_.Sample, preparation_.Notice()};
   }
 
+  // Whether this user may not open the folder, which is told.
+  bool IsClosed(const std::string& folder) {
+    const std::string why = WhyClosed(folder);
+    if (!why.empty()) person_.Tell(why);
+    return !why.empty();
+  }
+
   bool Make(const std::string& folder) {
     std::error_code error, none;
     fs::create_directories(folder, error);
     if (fs::is_directory(folder, none)) return true;
+    if (IsClosed(folder)) return false;
     person_.Tell("The folder " + folder + " cannot be made. " + ReasonOf(error.value()));
     return false;
   }

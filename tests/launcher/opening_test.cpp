@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "runtime/folder_lock.h"
+#include "tests/kit/ordinary_user.h"
 #include "tests/kit/passing_disk.h"
 
 namespace launcher {
@@ -238,17 +239,6 @@ TEST_F(Opening, WithoutAHomeThereIsNoSampleAndNoMemory) {
   EXPECT_EQ(User.Questions[0].Suggested, "");
 }
 
-// Root may write everywhere, so that it is somebody else for a while.
-class OrdinaryUser {
- public:
-  OrdinaryUser() { static_cast<void>(::seteuid(IsRoot ? Nobody : ::geteuid())); }
-  ~OrdinaryUser() { static_cast<void>(::seteuid(::getuid())); }
-
- private:
-  static constexpr uid_t Nobody = 65534;
-  const bool IsRoot = ::geteuid() == 0;
-};
-
 TEST_F(Opening, AHomeThatCannotBeWrittenIsNamed) {
   fs::permissions(Machine.Path(), fs::perms(0755));
   fs::permissions(Home, fs::perms(0555));
@@ -257,7 +247,7 @@ TEST_F(Opening, AHomeThatCannotBeWrittenIsNamed) {
   User.Choices = {New(Home / "Film Collection"), New(Machine.Path() / "open/films")};
   std::optional<Opened> opened;
   {
-    OrdinaryUser user;
+    kit::OrdinaryUser user;
     opened = Open();
   }
   fs::permissions(Home, fs::perms::owner_all);
@@ -266,6 +256,65 @@ TEST_F(Opening, AHomeThatCannotBeWrittenIsNamed) {
   ExpectTold("You have no permission to write there.");
   EXPECT_EQ(opened->Notice.find("This collection is not remembered in " + Where.Settings), 0U) << opened->Notice;
   EXPECT_TRUE(fs::is_empty(Home));
+}
+
+// Each way to a folder that its owner keeps private: the folder itself, one in it, one that is not there.
+TEST_F(Opening, AFolderThatAnotherUserKeepsPrivateIsNamed) {
+  const fs::path others = Home / "anna";
+  Put(others / "films/Recpra.Dat", "films");
+  fs::permissions(Machine.Path(), fs::perms(0755));
+  fs::permissions(others, fs::perms::owner_all);
+  const std::string owner = ::geteuid() == 0 ? "the user root, and" : "you, but";
+  if (::geteuid() != 0) fs::permissions(others, fs::perms::none);
+  {
+    kit::OrdinaryUser user;
+    EXPECT_FALSE(OpenFolder("anna"));
+    ExpectTold("The folder " + others.string() + " cannot be opened. It belongs to " + owner +
+               " you have no permission to read it.");
+    for (const char* below : {"films", "new"}) {
+      EXPECT_FALSE(OpenFolder("anna/" + std::string(below)));
+      ExpectTold("The folder " + (others / below).string() + " cannot be opened. The folder " + others.string() +
+                 ", which it is in, belongs to " + owner + " you have no permission to read it.");
+    }
+    User.Choices = {Existing(others / "films")};
+    EXPECT_FALSE(Open({Wish::Choose, "", ""}));
+    ExpectTold("cannot be opened");
+  }
+  fs::permissions(others, fs::perms::owner_all);
+  EXPECT_TRUE(User.Filled.empty());
+  EXPECT_EQ(ContentOf(others / "films/Recpra.Dat"), "films");
+  EXPECT_FALSE(fs::exists(others / "new"));
+}
+
+TEST_F(Opening, ALinkIntoAPrivateFolderIsNamed) {
+  const fs::path others = Home / "anna";
+  fs::create_directories(others / "films");
+  fs::create_directory_symlink(others / "films", Home / "link");
+  fs::permissions(Machine.Path(), fs::perms(0755));
+  fs::permissions(others, ::geteuid() == 0 ? fs::perms::owner_all : fs::perms::none);
+  {
+    kit::OrdinaryUser user;
+    EXPECT_FALSE(OpenFolder("link"));
+  }
+  fs::permissions(others, fs::perms::owner_all);
+  ExpectTold("The folder " + (Home / "link").string() + " cannot be opened. It belongs to another user, and");
+}
+
+// A collection can be read and not listed where its folder may be searched only.
+TEST_F(Opening, APrivateFolderIsOneThatCannotBeListed) {
+  const fs::path films = Known("films");
+  const fs::path empty = Home / "empty";
+  fs::create_directory(empty);
+  fs::permissions(Machine.Path(), fs::perms(0755));
+  for (const fs::path& folder : {films, empty}) fs::permissions(folder, fs::perms(0111));
+  {
+    kit::OrdinaryUser user;
+    EXPECT_TRUE(OpenFolder("films"));
+    User.Told.clear();
+    EXPECT_FALSE(OpenFolder("empty"));
+    ExpectTold("The folder " + empty.string() + " cannot be opened. It belongs to");
+  }
+  for (const fs::path& folder : {films, empty}) fs::permissions(folder, fs::perms::owner_all);
 }
 
 TEST_F(Opening, SettingsThatCannotBeWrittenAreNamed) {

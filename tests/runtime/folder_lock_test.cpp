@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/ordinary_user.h"
 
 namespace runtime {
 namespace {
@@ -28,23 +29,8 @@ TEST(FolderLock, LiesInTheFoldersOwnSubfolder) {
   EXPECT_TRUE(std::filesystem::exists(folder.Path() / ".reelora/lock"));
 }
 
-// Another user's lock file can be read and not written. To the superuser every file is writable; so the test steps
-// down.
-class AsAnotherUser {
- public:
-  AsAnotherUser() { stepped_down_ = geteuid() == 0 && seteuid(65534) == 0; }
-  ~AsAnotherUser() {
-    if (stepped_down_) static_cast<void>(seteuid(0));
-  }
-  AsAnotherUser(const AsAnotherUser&) = delete;
-  AsAnotherUser& operator=(const AsAnotherUser&) = delete;
-
- private:
-  bool stepped_down_ = false;
-};
-
 bool HeldByAnotherUser(const std::string& folder) {
-  AsAnotherUser user;
+  kit::OrdinaryUser user;
   return FolderLock(folder).Held();
 }
 
