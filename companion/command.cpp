@@ -158,9 +158,11 @@ int WrongUsage(std::string_view verb, Output& output, std::string_view complaint
   return Usage;
 }
 
-int RunCommand(const std::vector<std::string>& arguments, Output& output, const DiskIn& make_disk) {
+int RunCommand(const std::vector<std::string>& arguments, Output& output, const DiskIn& make_disk,
+               const std::string& delivered) {
   Invocation invocation;
   invocation.MakeDisk = make_disk;
+  invocation.Delivered = delivered;
   std::vector<std::string> line = {std::string(Program)};
   line.insert(line.end(), arguments.begin(), arguments.end());
   OptionReader before(line, OptionsOf(nullptr), true);

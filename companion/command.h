@@ -8,7 +8,9 @@
 
 namespace companion {
 
-// Arguments: without the program name. Returns the exit status; a Failure of the verb is told and is Found.
-int RunCommand(const std::vector<std::string>& arguments, Output& output, const DiskIn& make_disk = RealDiskIn);
+// Arguments: without the program name. Delivered: the folder of the files that are delivered with the program; "" if it
+// is not there. Returns the exit status; a Failure of the verb is told and is Found.
+int RunCommand(const std::vector<std::string>& arguments, Output& output, const DiskIn& make_disk = RealDiskIn,
+               const std::string& delivered = "");
 
 }  // namespace companion

@@ -95,6 +95,9 @@ std::int64_t CountSteps(const std::vector<Step>& steps, Action what) {
 }
 
 void PrintImport(const ImportReport& report, std::ostream& text) {
+  if (!report.NewFolder.empty()) {
+    text << "A new collection " << (report.Written ? "was made in " : "would be made in ") << report.NewFolder << ".\n";
+  }
   PrintColumns(report.File, text);
   for (const Step& step : report.Steps) PrintStep(report, step, text);
   for (const ActionWords& row : Actions) {
@@ -119,6 +122,7 @@ void PrintImportJson(const ImportReport& report, std::ostream& text) {
   for (const Step& step : report.Steps) AddFilm(report, step, json);
   json.End();
   json.Add("untitled", report.File.Untitled);
+  json.AddTruth("newCollection", !report.NewFolder.empty());
   json.AddTruth("written", report.Written);
 }
 

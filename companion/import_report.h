@@ -1,6 +1,7 @@
 // What an import would do, or did: each film as it is stored, and what is changed on the way.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,7 @@ struct ImportReport {
   const exchange::FilmsOfFile& File;
   const std::vector<exchange::Step>& Steps;
   const std::vector<store::FilmRecord>& Slots;  // of the collection, before the import
+  std::string NewFolder;                        // of a collection that is made for the import; "" if there is one
   bool Written = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "companion/bar.h"
 #include "companion/import_report.h"
+#include "companion/new_collection.h"
 #include "companion/reading.h"
 #include "companion/sort_run.h"
 #include "companion/verbs.h"
@@ -64,6 +65,13 @@ bool ReadFile(const std::string& path, const Request& request, exchange::FilmsOf
   return !fault;
 }
 
+// Whether the collection has as few records as an import can count; if not, that is told.
+bool HasRoom(const Invocation& invocation, Output& output) {
+  if (Reading(invocation).Slots() <= exchange::MostSlots) return true;
+  output.Errors << "This collection has more than " << exchange::MostSlots << " records, too many for an import.\n";
+  return false;
+}
+
 void Print(const ImportReport& report, const Invocation& invocation, Output& output) {
   if (invocation.Json) return PrintImportJson(report, output.Text);
   PrintImport(report, output.Text);
@@ -76,6 +84,8 @@ int StatusOf(const std::vector<exchange::Step>& steps) {
 
 int Write(runtime::Disk& disk, const Invocation& invocation, const Request& request, const exchange::FilmsOfFile& films,
           Output& output) {
+  const bool is_new = !HasMasterFile(disk);
+  if (is_new && !MakeCollection(disk, invocation, output)) return Found;
   runtime::Files files(disk);
   store::OpenMaster(files, 1);
   const std::vector<store::FilmRecord> slots = exchange::ReadSlots(disk);
@@ -87,7 +97,7 @@ int Write(runtime::Disk& disk, const Invocation& invocation, const Request& requ
     });
   }
   files.Close(1);
-  Print({films, steps, slots, true}, invocation, output);
+  Print({films, steps, slots, is_new ? WholeName(invocation.Folder) : "", true}, invocation, output);
   if (invocation.Has("sort")) return std::max(StatusOf(steps), PrintSorted(SortCollection(files, output), output));
   if (files.RecordsWritten() > 0 && !invocation.Json) output.Text << SortAfterwards;
   return StatusOf(steps);
@@ -98,20 +108,18 @@ int Write(runtime::Disk& disk, const Invocation& invocation, const Request& requ
 int Import(const Invocation& invocation, Output& output) {
   const Request request = Parse(invocation);
   if (!request.Mistake.empty()) return WrongUsage(invocation.Verb, output, request.Mistake);
-  const Reading reading(invocation);  // which refuses a folder that is no collection
-  if (reading.Slots() > exchange::MostSlots) {
-    output.Errors << "This collection has more than " << exchange::MostSlots << " records, too many for an import.\n";
-    return Found;
-  }
+  const std::unique_ptr<runtime::Disk> disk = invocation.MakeDisk(invocation.Folder);
+  const bool is_new = !HasMasterFile(*disk);
+  if (!(is_new ? MayBecomeCollection(invocation, output) : HasRoom(invocation, output))) return Found;
   exchange::FilmsOfFile films;
   if (!ReadFile(invocation.Arguments[0], request, films, output)) return Found;
   if (invocation.Write) {
     return WriteLocked(invocation, output,
                        [&](runtime::Disk& disk) { return Write(disk, invocation, request, films, output); });
   }
-  const std::vector<store::FilmRecord> slots = exchange::ReadSlots(reading.Disk());
+  const std::vector<store::FilmRecord> slots = exchange::ReadSlots(*disk);
   const std::vector<exchange::Step> steps = exchange::PlanImport(slots, films.Films, request.Doubles);
-  Print({films, steps, slots}, invocation, output);
+  Print({films, steps, slots, is_new ? WholeName(invocation.Folder) : ""}, invocation, output);
   return StatusOf(steps);
 }
 

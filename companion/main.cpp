@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "companion/command.h"
+#include "launcher/places.h"
 
 namespace {
 
@@ -22,7 +23,8 @@ int main(int argc, char** argv) {
   companion::Output output{std::cout, std::cerr, std::cin};
   output.Columns = TerminalColumns();
   output.ShowsBars = isatty(STDERR_FILENO) != 0;
-  const int status = companion::RunCommand({argv + 1, argv + argc}, output);
+  const int status = companion::RunCommand({argv + 1, argv + argc}, output, companion::RealDiskIn,
+                                           launcher::DeliveredFiles(launcher::ThisProgram(argv[0])));
   std::cout.flush();
   if (std::cout) return status;
   std::cerr << "The output could not be written.\n";

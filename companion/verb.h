@@ -42,6 +42,7 @@ struct Invocation {
   std::vector<std::string> Arguments;                        // without options
   std::vector<std::pair<std::string, std::string>> Options;  // of the verb, by long name, in the order given
   DiskIn MakeDisk = RealDiskIn;
+  std::string Delivered;  // the folder of the files that are delivered with the program; "" if it is not there
 
   bool Has(std::string_view option) const;
   // The last one given.

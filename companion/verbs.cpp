@@ -56,7 +56,8 @@ constexpr std::string_view ImportDetails =
     "Shows each film as it would be stored, and what is changed on the way: values that are cut, words that become codes,\n"
     "characters that cannot be stored, articles that move as a save moves them. Columns go into fields by their names; those\n"
     "of other catalogues are known. FIELD may also be \"Stars\" for a list that fills the six, or nothing. New films go into\n"
-    "free records first. Films of an export into a collection without films keep their records.\n";
+    "free records first. Films of an export into a collection without films keep their records. An empty folder becomes a\n"
+    "new collection.\n";
 
 constexpr Option ImportOptions[] = {
   { "format",        'f', "FORMAT",       "csv, json, rec or tellico; as the name of FILE says by default" },

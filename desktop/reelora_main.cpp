@@ -21,17 +21,8 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int Failed = 1;
 constexpr int WrongUse = 2;
-
-// The system knows it whatever the PATH is and however the command was written.
-std::string Executable(const char* name) {
-  std::error_code error;
-  fs::path path = fs::read_symlink("/proc/self/exe", error);
-  return error ? fs::absolute(name, error).string() : path.string();
-}
 
 std::string VariableOf(std::string_view name) {
   const char* value = std::getenv(std::string(name).c_str());
@@ -45,7 +36,7 @@ std::string AccountHome() {
 
 std::string CurrentFolder() {
   std::error_code none;
-  return fs::current_path(none).string();
+  return std::filesystem::current_path(none).string();
 }
 
 // Returns only if the program cannot be started.
@@ -92,6 +83,6 @@ int main(int argc, char** argv) {
       desktop::LauncherBoxes().Tell(arguments.Text + " The command reelora --help lists what can be given.");
       return WrongUse;
     default:
-      return Open(arguments, launcher::FindPlaces(Executable(argv[0]), VariableOf, AccountHome()));
+      return Open(arguments, launcher::FindPlaces(launcher::ThisProgram(argv[0]), VariableOf, AccountHome()));
   }
 }

@@ -10,12 +10,13 @@
 
 #include "runtime/checksum.h"
 #include "runtime/whole_io.h"
+#include "store/sort_pass.h"
 
 namespace launcher {
 namespace {
 
 constexpr std::string_view HelpFile = "Reelora4.HLP";
-constexpr std::string_view Updated[] = {"UPPER.ALT", HelpFile};
+constexpr std::string_view Updated[] = {store::WeightsFile, HelpFile};
 constexpr std::int64_t LongestFile = 4 * 1024 * 1024;  // bytes that are compared
 
 using Checksums = std::map<std::string, std::uint64_t, std::less<>>;
@@ -83,6 +84,14 @@ bool GivesWay(std::string_view name, const std::string& present, const Checksums
 
 const std::vector<std::uint64_t> EarlierHelp{0xC55E0D3CB8FE2906, 0x8A88E39A58BFBF2A, 0xFBA0007D342C9CE5,
                                              0xAB72A1653D18015B, 0x3A8C0159AA438FD4};
+
+std::string NoDeliveredFiles() {
+  return "The files that come with Reelora Prima are missing. " + std::string(InstallAgain);
+}
+
+std::string EmptyDeliveredFile(const std::string& name) {
+  return "The file " + name + " that comes with Reelora Prima is empty. " + std::string(InstallAgain);
+}
 
 std::string CompleteCollection(runtime::Disk& delivered, runtime::Disk& collection,
                                const std::vector<std::uint64_t>& earlier_help) {

@@ -19,6 +19,12 @@ inline constexpr std::string_view DeliveryFile = "delivered";
 // The checksums of help files that were delivered before there was such a record.
 extern const std::vector<std::uint64_t> EarlierHelp;
 
+inline constexpr std::string_view InstallAgain = "Install Reelora Prima again.";
+
+// What to tell if the delivered files cannot be found, and of one that is empty.
+std::string NoDeliveredFiles();
+std::string EmptyDeliveredFile(const std::string& name);
+
 // Puts every delivered file into the collection where it is missing or empty. UPPER.ALT and the help file are replaced,
 // too, if they are still as an earlier delivery put them; a file that was changed by hand stays. Returns the name of a
 // delivered file that is empty and would be needed, "" if there is none. Throws the Failure that names the first file

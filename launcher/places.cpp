@@ -6,6 +6,8 @@
 namespace launcher {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr std::string_view Name = "reelora-prima";
 
 // The folder that the variable names; the conventions say that a relative one does not count.
@@ -18,26 +20,32 @@ std::string Below(const std::string& folder, std::string_view name) {
   return folder.empty() ? "" : folder + "/" + std::string(name);
 }
 
+}  // namespace
+
+std::string ThisProgram(const std::string& name) {
+  std::error_code error;
+  const fs::path path = fs::read_symlink("/proc/self/exe", error);
+  return error ? fs::absolute(name, error).string() : path.string();
+}
+
 // Installed, or in the build folder. REELORA_DATA: from the folder of the programs to that of their data.
-std::string DeliveredBeside(const std::filesystem::path& folder) {
-  for (const std::filesystem::path& there : {folder / REELORA_DATA / Name / "delivered", folder / "delivered"}) {
+std::string DeliveredFiles(const std::string& executable) {
+  const fs::path folder = fs::path(executable).parent_path();
+  for (const fs::path& there : {folder / REELORA_DATA / Name / "delivered", folder / "delivered"}) {
     std::error_code none;
-    if (std::filesystem::is_directory(there, none)) return there.lexically_normal().string();
+    if (fs::is_directory(there, none)) return there.lexically_normal().string();
   }
   return "";
 }
 
-}  // namespace
-
 Places FindPlaces(const std::string& executable, const Variable& variable, const std::string& account_home) {
   Places places;
-  const std::filesystem::path folder = std::filesystem::path(executable).parent_path();
   places.Home = variable("HOME");
   if (!places.Home.starts_with('/')) places.Home = account_home;
   places.Settings = Below(FolderOf(variable("XDG_CONFIG_HOME"), places.Home, "/.config"), Name);
   places.Sample = Below(Below(FolderOf(variable("XDG_DATA_HOME"), places.Home, "/.local/share"), Name), "sample");
-  places.Delivered = DeliveredBeside(folder);
-  places.Program = (folder / Name).string();
+  places.Delivered = DeliveredFiles(executable);
+  places.Program = (fs::path(executable).parent_path() / Name).string();
   return places;
 }
 

@@ -16,10 +16,17 @@ struct Places {
   std::string Program;    // reelora-prima
 };
 
+// The path of the running program, links resolved. Name: the word of the command line, which counts if the system does
+// not tell.
+std::string ThisProgram(const std::string& name);
+
+// Where the files are that are delivered with the program of that path; "" if they are not there.
+std::string DeliveredFiles(const std::string& executable);
+
 // The value of an environment variable, "" if it is not set.
 using Variable = std::function<std::string(std::string_view name)>;
 
-// Executable: the path of this program, links resolved. AccountHome: the home folder of the user's account, which
+// Executable: the path of this program. AccountHome: the home folder of the user's account, which
 // counts where HOME is not set.
 Places FindPlaces(const std::string& executable, const Variable& variable, const std::string& account_home);
 

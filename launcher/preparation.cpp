@@ -21,8 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view InstallAgain = "Install Reelora Prima again.";
-
 bool IsFolder(const std::string& path) {
   std::error_code none;
   return fs::is_directory(path, none);
@@ -107,14 +105,13 @@ bool Preparation::PutSample(const std::string& folder) {
 }
 
 void Preparation::Complete(const std::string& folder) {
-  if (places_.Delivered.empty())
-    return tell_("The files that come with Reelora Prima are missing. " + std::string(InstallAgain));
+  if (places_.Delivered.empty()) return tell_(NoDeliveredFiles());
   try {
     const auto delivered = DiskOf(places_.Delivered);
     const auto collection = DiskOf(folder);
     collection->NewFilesLike(std::string(store::MasterFileName));
     if (std::string damaged = CompleteCollection(*delivered, *collection); !damaged.empty())
-      tell_("The file " + damaged + " that comes with Reelora Prima is empty. " + std::string(InstallAgain));
+      tell_(EmptyDeliveredFile(damaged));
   } catch (const runtime::Failure& failure) {
     tell_("The file " + failure.File + " cannot be put into the collection in " + folder + ". " + ReasonOf(failure));
   }

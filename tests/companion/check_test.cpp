@@ -7,18 +7,12 @@
 #include "runtime/journal_block.h"
 #include "store/draft.h"
 #include "tests/companion/command_test.h"
+#include "tests/companion/titled_film.h"
 #include "tests/kit/collection.h"
 #include "tests/story/world.h"
 
 namespace companion {
 namespace {
-
-store::FilmRecord Film(std::string_view title) {
-  store::FilmRecord film;
-  film.Set(store::FilmField::Title, title);
-  film.Set(store::FilmField::Tail, "\r\n");
-  return film;
-}
 
 class CheckTest : public testing::Test {
  protected:
@@ -28,7 +22,7 @@ class CheckTest : public testing::Test {
     for (int number = 1; number <= count; ++number) {
       char title[64];
       std::snprintf(title, sizeof title, "%-40.40s", ("Film " + std::to_string(100000 + number)).c_str());
-      const store::FilmRecord film = Film(title);
+      const store::FilmRecord film = TitledFilm(title);
       master.append(film.Bytes.data(), film.Bytes.size());
       std::snprintf(title + 40, sizeof title - 40, "%07d\r\n", number);
       keys.append(title, 49);
@@ -60,8 +54,8 @@ TEST_F(CheckTest, TellsOfASaveThatWasCutOff) {
   PutFilms(2);
   runtime::RealDisk disk(Folder.Folder());
   runtime::MakeSafetyFolder(disk);
-  const store::FilmRecord before = Film("Film 100002");
-  store::FilmRecord after = Film("Film 100002, again");
+  const store::FilmRecord before = TitledFilm("Film 100002");
+  store::FilmRecord after = TitledFilm("Film 100002, again");
   after.Set(store::FilmField::Music, "Goldsmith");
   const std::string old_film(before.Bytes.data(), 649), new_film(after.Bytes.data(), 649);
   runtime::WriteBlock(runtime::OpenJournal(disk), {"Recpra.Dat", 2, 2 * 649, old_film, new_film});
@@ -89,7 +83,7 @@ TEST_F(CheckTest, TellsOfADraft) {
   PutFilms(2);
   runtime::RealDisk disk(Folder.Folder());
   runtime::MakeSafetyFolder(disk);
-  store::WriteDraft(disk, "draft2", {3, true, "Alien", {}, Film("Alien")});
+  store::WriteDraft(disk, "draft2", {3, true, "Alien", {}, TitledFilm("Alien")});
   EXPECT_EQ(Check().Text,
             "record 3, draft2: \"Alien\" was typed and not saved. The next start of the program asks about it; draft "
             "shows it.\n"

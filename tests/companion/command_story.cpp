@@ -115,7 +115,7 @@ class Player {
     std::istringstream answers(expected.Answers);
     companion::Output output{text, errors, answers};
     if (line[0] == '%') output.Columns = TerminalColumns;
-    const int status = companion::RunCommand(arguments, output);
+    const int status = companion::RunCommand(arguments, output, companion::RealDiskIn, kit::DeliveredFolder());
     Printed printed;
     AddLines(">", Neutral(text.str()), printed.Lines);
     AddLines("!", Neutral(errors.str()), printed.Lines);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "companion/command.h"
+#include "tests/kit/source_tree.h"
 
 namespace companion {
 
@@ -19,7 +20,7 @@ inline Ran RunIn(const std::string& folder, std::vector<std::string> arguments, 
   std::ostringstream text, errors;
   std::istringstream none;
   Output output{text, errors, none};
-  const int status = RunCommand(arguments, output, disk);
+  const int status = RunCommand(arguments, output, disk, kit::DeliveredFolder());
   return {status, text.str(), errors.str()};
 }
 

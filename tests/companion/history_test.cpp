@@ -10,24 +10,18 @@
 #include "runtime/files.h"
 #include "runtime/folder_lock.h"
 #include "store/master_file.h"
+#include "tests/companion/titled_film.h"
 #include "tests/kit/fresh_folder.h"
 #include "tests/story/world.h"
 
 namespace companion {
 namespace {
 
-store::FilmRecord Film(std::string_view title) {
-  store::FilmRecord film;
-  film.Set(store::FilmField::Title, title);
-  film.Set(store::FilmField::Tail, "\r\n");
-  return film;
-}
-
 class HistoryVerbs : public testing::Test {
  protected:
   HistoryVerbs() {
-    Put(1, Film("Alien"));
-    Put(2, Film("Solaris"));
+    Put(1, TitledFilm("Alien"));
+    Put(2, TitledFilm("Solaris"));
   }
 
   void Put(std::int64_t slot, const store::FilmRecord& film) {
@@ -66,16 +60,16 @@ using Lines = std::vector<std::string>;
 
 TEST_F(HistoryVerbs, PutsAFilmBackIntoItsSlotAndNothingElse) {
   std::string before = Master();
-  Put(2, Film("Brazil"));
+  Put(2, TitledFilm("Brazil"));
   EXPECT_EQ(Run({"restore", "1", "--write"}), 0);
   EXPECT_EQ(Master(), before);
 }
 
 TEST_F(HistoryVerbs, SendsNoControlCharacterToTheTerminal) {
-  Put(2, Film("\x1B]0;owned\x07"));
-  Put(2, Film("\x9D"
-              "1\x90\x7F\x80"));
-  Put(2, Film("Ran"));
+  Put(2, TitledFilm("\x1B]0;owned\x07"));
+  Put(2, TitledFilm("\x9D"
+                    "1\x90\x7F\x80"));
+  Put(2, TitledFilm("Ran"));
   EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     2         2  ?]0;owned? - Ran",
                              "     3         2  ?1??€ - Ran"}));
   std::fstream history(HistoryPath(), std::ios::in | std::ios::out | std::ios::binary);
@@ -86,7 +80,7 @@ TEST_F(HistoryVerbs, SendsNoControlCharacterToTheTerminal) {
 }
 
 TEST_F(HistoryVerbs, DoesNothingWhileTheProgramRunsOnTheFolder) {
-  Put(2, Film("Brazil"));
+  Put(2, TitledFilm("Brazil"));
   std::string before = Master();
   runtime::FolderLock lock(Folder.Path().string());
   EXPECT_EQ(Run({"restore", "1", "--write"}), 1);
@@ -96,7 +90,7 @@ TEST_F(HistoryVerbs, DoesNothingWhileTheProgramRunsOnTheFolder) {
 }
 
 TEST_F(HistoryVerbs, NamesAFolderAndASlotThatAreNotThere) {
-  Put(2, Film("Brazil"));
+  Put(2, TitledFilm("Brazil"));
   EXPECT_EQ(RunIn("/nowhere", {"restore", "1"}), 1);
   EXPECT_EQ(Complaints.str(), "File not found: /nowhere/Recpra.Dat\n");
   std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", store::RecordLength);
@@ -107,17 +101,17 @@ TEST_F(HistoryVerbs, NamesAFolderAndASlotThatAreNotThere) {
 }
 
 TEST_F(HistoryVerbs, PassesOverAnEntryThatWasNeverFinished) {
-  Put(2, Film("Brazil"));
+  Put(2, TitledFilm("Brazil"));
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << std::string(677, '\0');
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary)
       << "2026-11-21 05:30:00 0000000 " << std::string(649, ' ');
-  Put(2, Film("Ran"));
+  Put(2, TitledFilm("Ran"));
   std::ofstream(HistoryPath(), std::ios::app | std::ios::binary) << "2026-11-21 05:30:00 00000";
   EXPECT_EQ(Listed(), (Lines{"     1         2  Solaris - Ran", "     4         2  Brazil - Ran"}));
 }
 
 TEST_F(HistoryVerbs, ListsNoHistoryThatNobodyCanHaveMade) {
-  Put(2, Film("Brazil"));
+  Put(2, TitledFilm("Brazil"));
   std::filesystem::resize_file(HistoryPath(), 1'000'001 * std::uintmax_t{677});
   EXPECT_EQ(Run({"history"}), 1);
   EXPECT_EQ(Complaints.str(), "The history is damaged: it has 1000001 entries.\n");

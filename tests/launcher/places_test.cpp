@@ -74,5 +74,11 @@ TEST(FindPlaces, FindsTheDeliveredFilesInTheBuildFolder) {
   EXPECT_EQ(Find({}, executable).Delivered, build.Path() / "delivered");
 }
 
+TEST(ThisProgram, IsTheFileThatRuns) {
+  const fs::path path = ThisProgram("elsewhere");
+  EXPECT_TRUE(path.is_absolute());
+  EXPECT_TRUE(fs::equivalent(path, "/proc/self/exe"));
+}
+
 }  // namespace
 }  // namespace launcher
