@@ -10,8 +10,6 @@
 
 namespace sort {
 
-inline constexpr std::size_t BlockBytes = 512 * 1024;
-
 // Gets the part of a file that has been read, from 0 to 1.
 using Progress = std::function<void(double done)>;
 

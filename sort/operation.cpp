@@ -92,7 +92,7 @@ std::int64_t Operation::WriteThroughRuns(Table& table, const IncludeFilter& incl
     table.Load(input, include, progress_);
     table.Sort();
   }
-  runs.Merge(output, limits_.MemoryBytes, workers);
+  runs.Merge(output, limits_.MemoryBytes, limits_.BlockBytes, workers);
   return runs.Count();
 }
 
@@ -111,7 +111,7 @@ Result Operation::BuildAside(std::string_view statement) {
   Workers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
   std::optional<Table> table = std::exchange(last_, std::nullopt);
   if (!table || !table->Suits(layout, records) || !table->Reload(input, include, progress_)) {
-    table.emplace(layout, records, RoomFor(layout, records, limits_), workers);
+    table.emplace(layout, records, RoomFor(layout, records, limits_), limits_.BlockBytes, workers);
     table->Load(input, include, progress_);
     table->Sort();
   }

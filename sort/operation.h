@@ -34,6 +34,8 @@ struct Limits {
   std::size_t MemoryBytes = 192 * 1024 * 1024;
   // Record count from which two threads work; both call the disk.
   std::int64_t TwoWorkersFrom = 16'384;
+  // Of a file at once; at least a record in any case.
+  std::size_t BlockBytes = std::size_t{512} * 1024;
 };
 
 // Runs sorts one after the other. If only Include differs from the sort before, unchanged records keep their order; the

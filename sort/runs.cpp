@@ -65,8 +65,8 @@ class Heads {
 
 void Runs::Add(std::int64_t count) { runs_.push_back({Count(), Count() + count}); }
 
-void Runs::Merge(const runtime::OpenFile& output, std::size_t memory, Workers* workers) const {
-  std::size_t block = std::min(BlockBytes, memory / (2 * (runs_.size() + 1)));
+void Runs::Merge(const runtime::OpenFile& output, std::size_t memory, std::size_t block_bytes, Workers* workers) const {
+  std::size_t block = std::min(block_bytes, memory / (2 * (runs_.size() + 1)));
   if (!workers) {
     MergeRanges(runs_, output, 0, block);
     return;

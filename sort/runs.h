@@ -30,7 +30,7 @@ class Runs {
 
   // Writes the output records of all entries in order; equal ones by their numbers. Memory: bytes for the blocks of all
   // runs. Workers: nullptr for one thread.
-  void Merge(const runtime::OpenFile& output, std::size_t memory, Workers* workers) const;
+  void Merge(const runtime::OpenFile& output, std::size_t memory, std::size_t block_bytes, Workers* workers) const;
 
  private:
   using Ranges = std::vector<EntryRange>;

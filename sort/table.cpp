@@ -18,12 +18,12 @@ const Progress* ProgressOf(int worker, const Progress& progress) {
 
 }  // namespace
 
-Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, Workers* workers)
+Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, std::size_t block_bytes, Workers* workers)
     : layout_(layout),
       records_(records),
       holds_all_(room >= records),
       workers_(workers),
-      block_length_(std::max(BlockBytes, layout.EntryLength())),
+      block_length_(std::max({block_bytes, layout.RecordLength(), layout.EntryLength()})),
       blocks_(std::make_unique_for_overwrite<char[]>((workers ? 2 : 1) * block_length_)),
       entries_(runtime::MakeLargeArray<char>(static_cast<std::size_t>(room) * layout.EntryLength())),
       included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),

@@ -24,8 +24,9 @@ class Table {
   // Memory per record.
   static std::size_t BytesPerRecord(const Layout& layout) { return layout.EntryLength() + 2 * sizeof(Item) + 1; }
 
-  // Records: count in the input; room: count that fits. Workers: to halve the work, or nullptr.
-  Table(const Layout& layout, std::int64_t records, std::int64_t room, Workers* workers);
+  // Records: count in the input; room: count that fits. Block_bytes: read or written at once. Workers: to halve the
+  // work, or nullptr.
+  Table(const Layout& layout, std::int64_t records, std::int64_t room, std::size_t block_bytes, Workers* workers);
 
   const sort::Layout& EntryLayout() const { return layout_; }
   // Whether there is room for all records, and whether all have been loaded.

@@ -46,9 +46,7 @@ bool Same(const store::Draft& one, const store::Draft& other) {
          one.Before.Bytes == other.Before.Bytes && one.Film.Bytes == other.Film.Bytes;
 }
 
-bool HasTitle(std::string_view film) {
-  return film.substr(0, TitleWidth).find_first_not_of(' ') != std::string_view::npos;
-}
+bool IsFree(std::string_view slot) { return runtime::Trim(slot.substr(0, TitleWidth)).empty(); }
 
 // At most one slot differs: one that was free, the film's own, or one behind the last.
 void CheckKept(const std::string& before, const std::string& after, const store::Draft& draft) {
@@ -68,7 +66,7 @@ void CheckKept(const std::string& before, const std::string& after, const store:
     if (now == then || runtime::Fixed(now, store::RecordLength) == then) continue;
     const bool own = !draft.IsNew && draft.Slot == static_cast<std::int64_t>(slot) &&
                      then.substr(0, TitleWidth) == draft.Before.Get(store::FilmField::Title);
-    fuzz::Require(is_film && (own || !HasTitle(then)), "a film kept takes the slot of no other");
+    fuzz::Require(is_film && (own || IsFree(then)), "a film kept takes the slot of no other");
   }
   fuzz::Require(found, "a film kept is in the master file");
 }

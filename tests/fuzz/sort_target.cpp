@@ -70,6 +70,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   sort::Limits limits;
   const std::size_t memory = input.Below(1 << 16);
   if (memory % 4 != 0) limits.MemoryBytes = 1 + memory / 16;
+  // Small, so that it costs little and records lie on the ends of blocks.
+  limits.BlockBytes = 1 + memory % 256;
   if (input.Byte() == 255) limits.TwoWorkersFrom = 0;
   sort::Statement statement = AnyStatement(input);
   const sort::Weights weights = AnyWeights(input);
