@@ -42,6 +42,9 @@ class Disk {
   virtual std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) = 0;
   virtual std::int64_t Length(int handle) = 0;
   virtual int Truncate(int handle, std::int64_t length) = 0;
+  // Tells how long the file is about to become: the disk may take the room at once. Promises nothing and changes
+  // neither length nor content.
+  virtual void Reserve(int, std::int64_t) {}
   virtual int Sync(int handle) = 0;
   virtual int Identify(int handle, FileIdentity& identity) = 0;
   // Time of the last change. A disk that keeps no times leaves it as it is, and setting one succeeds.
@@ -75,6 +78,7 @@ class RealDisk final : public Disk {
   std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override;
   std::int64_t Length(int handle) override;
   int Truncate(int handle, std::int64_t length) override;
+  void Reserve(int handle, std::int64_t length) override;
   int Sync(int handle) override;
   int Identify(int handle, FileIdentity& identity) override;
   int Modified(int handle, FileTime& time) override;

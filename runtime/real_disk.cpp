@@ -94,6 +94,11 @@ int RealDisk::Truncate(int handle, std::int64_t length) {
   return static_cast<int>(OrError(::ftruncate(handle, length)));
 }
 
+// Some file systems cannot do so, and where there is no room the write says so.
+void RealDisk::Reserve(int handle, std::int64_t length) {
+  static_cast<void>(::fallocate(handle, FALLOC_FL_KEEP_SIZE, 0, length));
+}
+
 int RealDisk::Sync(int handle) { return static_cast<int>(OrError(::fsync(handle))); }
 
 int RealDisk::Identify(int handle, FileIdentity& identity) {

@@ -48,6 +48,8 @@ class OpenFile {
   std::size_t Read(char* target, std::size_t count, std::int64_t offset) const;
   void Write(std::string_view bytes, std::int64_t offset) const;
   void Truncate(std::int64_t length) const;
+  // Call before writing that many bytes.
+  void Reserve(std::int64_t length) const { disk_->Reserve(handle_, length); }
   // A failed sync is never repeated: the second may report success for lost data.
   void Sync() const;
 

@@ -18,10 +18,23 @@ bool BlockReader::Fill() {
   return true;
 }
 
+void BlockWriter::MakeRoom() {
+  constexpr std::int64_t Boundary = 64 * 1024;
+  auto rest = static_cast<std::size_t>((offset_ + static_cast<std::int64_t>(filled_)) % Boundary);
+  if (rest + record_length_ > block_.size() || rest > filled_) rest = 0;
+  WriteOut(filled_ - rest);
+  std::copy_n(block_.data() + filled_ - rest, rest, block_.data());
+  filled_ = rest;
+}
+
 void BlockWriter::Flush() {
-  file_.Write({block_.data(), filled_}, offset_);
-  offset_ += static_cast<std::int64_t>(filled_);
+  WriteOut(filled_);
   filled_ = 0;
+}
+
+void BlockWriter::WriteOut(std::size_t length) {
+  file_.Write({block_.data(), length}, offset_);
+  offset_ += static_cast<std::int64_t>(length);
 }
 
 }  // namespace sort

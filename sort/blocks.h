@@ -47,6 +47,7 @@ class BlockReader {
   const char* filled_ = nullptr;
 };
 
+// Writes up to boundaries of the system's pages, which is faster, and keeps the rest for the next block.
 class BlockWriter {
  public:
   BlockWriter(const runtime::OpenFile& file, std::size_t record_length, std::int64_t first, std::span<char> block)
@@ -57,7 +58,7 @@ class BlockWriter {
 
   // The place for the next record, in the buffer.
   char* Next() {
-    if (filled_ + record_length_ > block_.size()) Flush();
+    if (filled_ + record_length_ > block_.size()) MakeRoom();
     char* record = block_.data() + filled_;
     filled_ += record_length_;
     return record;
@@ -66,6 +67,9 @@ class BlockWriter {
   void Flush();
 
  private:
+  void MakeRoom();
+  void WriteOut(std::size_t length);
+
   const runtime::OpenFile& file_;
   std::size_t record_length_, filled_ = 0;
   std::int64_t offset_;

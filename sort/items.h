@@ -25,7 +25,7 @@ struct Item {
 // both ends of each are prefetched ahead.
 template <typename Use>
 void ForEachEntry(std::span<const Item> items, const char* entries, std::size_t entry_length, Use&& use) {
-  constexpr std::size_t Ahead = 12;
+  constexpr std::size_t Ahead = 40;
   for (std::size_t at = 0; at < items.size(); ++at) {
     if (at + Ahead < items.size()) {
       const char* later = entries + items[at + Ahead].Entry * entry_length;

@@ -11,6 +11,9 @@
 namespace sort {
 namespace {
 
+// In bytes; for fewer the call costs more than it saves.
+constexpr std::int64_t WorthReserving = 1024 * 1024;
+
 // Worker 0 is the caller's thread; the other half goes about as fast.
 const Progress* ProgressOf(int worker, const Progress& progress) {
   return worker == 0 && progress ? &progress : nullptr;
@@ -170,13 +173,16 @@ void Table::PickIncluded() {
 std::int64_t Table::Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first) {
   PickIncluded();
   const auto lower = static_cast<std::int64_t>(picked_[0].size());
+  const std::int64_t count = lower + static_cast<std::int64_t>(picked_[1].size());
+  const std::int64_t bytes = count * static_cast<std::int64_t>(length);
+  if (bytes >= WorthReserving) file.Reserve(first * static_cast<std::int64_t>(length) + bytes);
   RunHalves(workers_, [&](int half) {
     BlockWriter writer(file, length, half == 0 ? first : first + lower, Block(half));
     ForEachEntry(picked_.at(half), entries_.get(), layout_.EntryLength(),
                  [&](const char* entry) { std::copy_n(entry, length, writer.Next()); });
     writer.Flush();
   });
-  return lower + static_cast<std::int64_t>(picked_[1].size());
+  return count;
 }
 
 }  // namespace sort

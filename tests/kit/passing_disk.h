@@ -27,6 +27,7 @@ class PassingDisk : public runtime::Disk {
   }
   std::int64_t Length(int handle) override { return below_.Length(handle); }
   int Truncate(int handle, std::int64_t length) override { return below_.Truncate(handle, length); }
+  void Reserve(int handle, std::int64_t length) override { below_.Reserve(handle, length); }
   int Sync(int handle) override { return below_.Sync(handle); }
   int Identify(int handle, runtime::FileIdentity& identity) override { return below_.Identify(handle, identity); }
   int Modified(int handle, runtime::FileTime& time) override { return below_.Modified(handle, time); }

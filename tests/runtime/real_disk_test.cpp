@@ -132,6 +132,24 @@ TEST_F(RealDiskTest, AHandleThatIsNotOpenIsAnErrorOfEachCall) {
   EXPECT_EQ(disk_.SetModified(-1, time), -EBADF);
 }
 
+TEST_F(RealDiskTest, ReservedRoomChangesNeitherLengthNorContent) {
+  story::WriteBytes(Path("Last"), "7");
+  struct stat before {};
+  ASSERT_EQ(::stat(Path("Last").c_str(), &before), 0);
+  OpenFile(disk_, "Last", Mode::Create).Reserve(1024 * 1024);
+  EXPECT_EQ(story::ReadBytes(Path("Last")), "7");
+  struct stat after {};
+  ASSERT_EQ(::stat(Path("Last").c_str(), &after), 0);
+  EXPECT_GT(after.st_blocks, before.st_blocks);
+}
+
+TEST_F(RealDiskTest, ReservingWhatTheSystemRefusesIsNoError) {
+  story::WriteBytes(Path("Last"), "7");
+  OpenFile(disk_, "Last", Mode::Read).Reserve(1024);
+  OpenFile(disk_, "Last", Mode::Create).Reserve(std::int64_t{1} << 62);
+  EXPECT_EQ(story::ReadBytes(Path("Last")), "7");
+}
+
 TEST_F(RealDiskTest, ATimeThatTheSystemRefusesIsNoError) {
   story::WriteBytes(Path("Recpra.Dat"), "films");
   const OpenFile file(disk_, "Recpra.Dat", Mode::Create);

@@ -198,6 +198,50 @@ TEST(SortOperation, LeavesTheTemporaryFilesOfAnEarlierStopToTheNextStart) {
   EXPECT_EQ(Leftovers(disk), ".reelora/Titlepra.Dat.new .reelora/Titlepra.Dat.runs.new ") << "those of the stop";
 }
 
+// Notes what it is told to reserve, and where writes end.
+class NotingDisk final : public kit::PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  void Reserve(int handle, std::int64_t length) override {
+    EXPECT_EQ(NameOf(handle), ".reelora/out.new");
+    EXPECT_TRUE(Ends.empty()) << "before the first write";
+    Reserved.push_back(length);
+  }
+  std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) override {
+    Ends.push_back(offset + static_cast<std::int64_t>(count));
+    return PassingDisk::WriteAt(handle, source, count, offset);
+  }
+  std::vector<std::int64_t> Reserved, Ends;
+};
+
+TEST(SortOperation, ReservesTheRoomOfALargeOutputAndWritesItInWholePages) {
+  constexpr std::int64_t Worth = 1024 * 1024;
+  constexpr std::int64_t Width = 49;  // of an output record
+  for (std::int64_t records : {Worth / Width, Worth / Width + 1}) {
+    std::string master;
+    std::string expected;
+    for (std::int64_t record = 1; record <= records; ++record) {
+      const std::string number = std::to_string(10'000'000 + record).substr(1);
+      master += number;
+      expected += number + std::string(Width - 16, '0') + number + "\r\n";
+    }
+    kit::MemoryDisk memory({{"Recpra.Dat", master}});
+    NotingDisk disk(memory);
+    const std::string zeros = ",1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1";
+    SortOn(disk, "out", "S(1,7,C,A) OUTREC(1,7" + zeros + zeros + zeros + zeros + ",1,1,Arrn,CRLF) Record(7)",
+           {.TwoWorkersFrom = MaxRecords});
+    EXPECT_TRUE(FileOn(memory, "out") == expected);
+    ASSERT_GT(disk.Ends.size(), 1U);
+    for (std::size_t at = 0; at + 1 < disk.Ends.size(); ++at) EXPECT_EQ(disk.Ends[at] % (64 * 1024), 0);
+    EXPECT_EQ(disk.Ends.back(), records * Width);
+    if (records * Width < Worth) {
+      EXPECT_TRUE(disk.Reserved.empty());
+    } else {
+      EXPECT_EQ(disk.Reserved, std::vector{records * Width});
+    }
+  }
+}
+
 TEST(SortOperation, TellsHowMuchOfTheInputItHasRead) {
   std::string master;
   for (int film = 0; film < 2000; ++film) master += Film(std::to_string(film));
