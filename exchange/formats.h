@@ -19,7 +19,7 @@ void WriteHtml(const Collection& collection, const ByteSink& sink);
 Fault ReadCsv(const ByteSource& source, Rows& rows);
 Fault ReadJson(const ByteSource& source, Rows& rows);
 Fault ReadRec(const ByteSource& source, Rows& rows);
-// The XML of a Tellico file; see OpenImport for one that is zipped.
+// The XML of a Tellico file; ImportFile unzips one that is zipped.
 Fault ReadTellico(const ByteSource& source, Rows& rows);
 
 struct Format {

@@ -31,7 +31,7 @@ struct Step {
 inline constexpr std::int64_t MostSlots = 32'767;
 
 // One step for each film, in their order. slots: of the collection, from 1. New films take free slots first, the lowest
-// first, then those behind the last. But if the collection holds no film, films of an export keep their numbers. A file
+// first, then those after the last. But if the collection holds no film, films of an export keep their numbers. A file
 // that was imported before makes no Add or Update.
 std::vector<Step> PlanImport(const std::vector<store::FilmRecord>& slots, const std::vector<ReadFilm>& films,
                              Doubles doubles);

@@ -40,7 +40,7 @@ class Rows {
 
   // The number of the column, a new one at its first use; MostColumns if there are too many.
   std::size_t Column(std::string_view name);
-  // A second text of a cell goes behind "; ". The end of a very long one is dropped.
+  // A second text of a cell is appended after "; ". The end of a very long one is dropped.
   void Add(std::size_t column, std::string_view text);
   // Ends the row; does nothing if it is empty. False: end the reading.
   bool End();

@@ -32,7 +32,7 @@ Summary Summarize(const Films& films);
 // How many films, how long they run, what they cost.
 std::string Headline(const Summary& summary);
 
-// A price in cents: the first number in the text, its decimals behind a point or a comma; -1 if there is none.
+// A price in cents: the first number in the text, its decimals after a point or a comma; -1 if there is none.
 std::int64_t CentsOf(std::string_view text);
 // "1,234.50"
 std::string MoneyText(std::int64_t cents);

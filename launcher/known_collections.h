@@ -21,8 +21,7 @@ struct KnownCollections {
 
 inline constexpr std::size_t MostFolders = 10;
 
-// A missing file is an empty one. Throws the Failure of a file that cannot be
-// read.
+// A missing file is an empty one. Throws the Failure of a file that cannot be read.
 KnownCollections ReadKnown(runtime::Disk& settings);
 // Writes the file aside and renames it. Throws the Failure that names what went wrong; the old file stays then.
 void WriteKnown(runtime::Disk& settings, const KnownCollections& known);

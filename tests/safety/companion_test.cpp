@@ -48,6 +48,13 @@ kit::Folder WithDrafts() {
   return memory.Content();
 }
 
+// The delivered files are there, since the starts of this test need them.
+kit::Folder WithoutAMasterFile() {
+  kit::Folder folder = kit::FolderOfFilms(0);
+  folder.erase(std::string(store::MasterFileName));
+  return folder;
+}
+
 // With a copy of other films.
 kit::Folder WithCopy() {
   kit::Folder folder = Edited();
@@ -91,6 +98,7 @@ const std::vector<Writing>& Writings() {
       {"Draft", {"draft", "--keep", "--write"}, WithDrafts, 32, 1, false},
       // Updates the film of slot 7 and adds one.
       {"Import", {"import", films.string(), "--doubles", "update", "--write"}, Edited, 32},
+      {"ImportIntoANewCollection", {"import", films.string(), "--write"}, WithoutAMasterFile, 16, 1, true, false},
       {"Backup", {"backup", "--write"}, Edited, 2, 7},
       {"BackupAsZip", {"backup", "--zip", "--write"}, Edited, 8, 5},
       {"RestoreBackup", {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"}, WithCopy, 4, 5, true, false},
