@@ -16,13 +16,16 @@ class Desk final : public kit::QuietDesk {
  public:
   // To every question.
   forms::Answer Question = forms::Answer::Yes;
+  // Whether the film on the screen could be saved. A key that begins with "49" makes Reset ask that without any typing.
+  bool AskedToSave = false;
   // Called with each document printed.
   std::function<void(const runtime::PrintJob&)> Printed = [](const runtime::PrintJob&) {};
 
   void Print(const runtime::PrintJob& job) override { Printed(job); }
 
  protected:
-  forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view, forms::Buttons buttons) override {
+  forms::Answer AskMessageBox(forms::Icon, std::string_view, std::string_view text, forms::Buttons buttons) override {
+    AskedToSave = AskedToSave || text.starts_with("You have not saved your work.");
     return buttons == forms::Buttons::Ok ? forms::Answer::Ok : Question;
   }
 };
