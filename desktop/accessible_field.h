@@ -13,6 +13,9 @@ class FieldInterface final : public ControlInterface,
                              public QAccessibleTableCellInterface {
  public:
   explicit FieldInterface(FieldView& field);
+  // Without the focus it sends nothing of a new text: with three events for each field, a film that comes up would make
+  // screen readers drop what is announced.
+  bool isValid() const override { return ControlInterface::isValid() && (!field_.Mirroring() || field_.hasFocus()); }
   QAccessible::State state() const override;
   QAccessibleInterface* parent() const override;
   QString text(QAccessible::Text kind) const override;

@@ -8,8 +8,8 @@
 namespace desktop {
 namespace {
 
-// A window that others follow at once is at the front for a moment only.
-constexpr int AfterFront = 200;  // milliseconds
+// A window that others follow at once is at the front for a moment only, and a screen reader has much to take in then.
+constexpr int AfterFront = 500;  // milliseconds
 
 // Words that wait for their window to come to the front; a report alone may write hundreds behind its box.
 constexpr qsizetype MostHeld = 20;

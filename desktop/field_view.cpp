@@ -55,10 +55,10 @@ void FieldView::ApplyContent() {
   if (wanted_text == text()) return;
   mirroring_ = true;
   validator_.SetText(wanted_text);
-  mirroring_ = false;
-  FitFont();
   // Shows the start of a long text unless it is being edited.
   if (!box_.HoldsFocus()) home(false);
+  mirroring_ = false;
+  FitFont();
 }
 
 // Long texts are shown whole in a somewhat smaller font.

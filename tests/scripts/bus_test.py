@@ -62,6 +62,7 @@ def walking():
         key("alt+n")
         ear.hears(f"{title[step]}, ")
         ear.hears(f"record {step + 1} of")
+        same("what is told of fields without the focus", ear.inserted, [])
     ear.forget()
     key("alt+b")
     ear.hears(f"{title[1]}, ")
