@@ -27,10 +27,7 @@ void BlockWriter::MakeRoom() {
   filled_ = rest;
 }
 
-void BlockWriter::Flush() {
-  WriteOut(filled_);
-  filled_ = 0;
-}
+void BlockWriter::Flush() { WriteOut(filled_); }
 
 void BlockWriter::WriteOut(std::size_t length) {
   file_.Write({block_.data(), length}, offset_);

@@ -97,6 +97,10 @@ TEST_F(Drafts, OfARecordNumberThatNoSaveWritesAreKeptAsNewFilms) {
   stopped.Type(stopped.Screen.txtTitle, "Kept");
   stopped.Click(stopped.Screen.cmdSave);
   ASSERT_EQ(stopped.Desk.Reported, runtime::BadRecordNumber);
+  const std::optional<store::Draft> left = store::ReadDraft(memory, "draft");
+  ASSERT_TRUE(left);
+  EXPECT_TRUE(left->IsNew);
+  EXPECT_EQ(left->Slot, 1);
 
   ProgramRun run(memory);
   run.Desk.Draft = forms::DraftAnswer::Keep;
@@ -105,6 +109,27 @@ TEST_F(Drafts, OfARecordNumberThatNoSaveWritesAreKeptAsNewFilms) {
   const std::string master = memory.Content().at(Master);
   EXPECT_EQ(master.substr(0, 9 * store::RecordLength), folder.at(Master));
   EXPECT_EQ(master.substr(9 * store::RecordLength, 5), "Kept ");
+}
+
+TEST_F(Drafts, OfNewFilmsSaySo) {
+  ProgramRun run(Disk);
+  run.Program.StartRecordScreen();
+  run.Click(run.Screen.cmdNew);
+  run.Type(run.Screen.txtTitle, "Alien");
+  ASSERT_TRUE(Left());
+  EXPECT_TRUE(Left()->IsNew);
+}
+
+TEST_F(Drafts, StayWhereTheFilmCannotBeReadAgain) {
+  ProgramRun run(Disk);
+  run.Program.StartRecordScreen();
+  run.Edit(7);
+  run.Type(run.Screen.txtTitle, "Kept");
+  run.Program.Deliver([&] {
+    run.Program.Files.Close(static_cast<int>(run.Screen.MasterFileNo));
+    run.Screen.EditMode = 0;
+  });
+  EXPECT_TRUE(HasDraft());
 }
 
 TEST_F(Drafts, ThatCannotBeReadStayForALaterStart) {

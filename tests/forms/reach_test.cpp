@@ -8,9 +8,9 @@
 namespace forms {
 namespace {
 
-constexpr Look Plain;
-constexpr Place Spot = {0, 0, 100, 100};
-constexpr Place Elsewhere = {200, 0, 100, 100};
+const Look Plain;
+const Place Spot = {0, 0, 100, 100};
+const Place Elsewhere = {200, 0, 100, 100};
 
 struct ThreeButtons : Window {
   using Window::Window;

@@ -14,8 +14,9 @@ TEST(ParseHelp, ReadsChaptersTopicsParagraphsAndItems) {
       "lost words\r\n"
       "\r\n"
       "== Buttons\r\n"
-      "= Save {220 221}\r\n"
-      "Writes the\r\n"
+      "= Save {220 221} \r\n"
+      "# a remark on Save\r\n"
+      "Writes the \r\n"
       "film.\r\n"
       "\r\n"
       "Twice.\r\n"
@@ -71,6 +72,11 @@ TEST(HelpTopic, HoldsAllWordsInCapitalsOrNot) {
   EXPECT_TRUE(topic.Contains("ENTER laser"));
   EXPECT_TRUE(topic.Contains("press enter twice"));
   EXPECT_FALSE(topic.Contains("laser tape"));
+  EXPECT_FALSE(topic.Contains("discspress"));
+  EXPECT_FALSE(topic.Contains("laser qenter"));
+  EXPECT_FALSE(topic.Contains("ylaser"));
+  EXPECT_TRUE(ParseHelp("= AaZz {1}\n").Topics.at(0).Contains("aAzZ"));
+  EXPECT_FALSE(ParseHelp("= a[b {1}\n").Topics.at(0).Contains("a{b"));
 }
 
 // A search for the end of each link, through the whole text, would take a quarter of a minute.

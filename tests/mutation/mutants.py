@@ -114,6 +114,14 @@ class Source:
                 return there
         raise ValueError(f"{self.file}: unbalanced brackets")
 
+    def _close_of_template(self, position):
+        depth = 0
+        for there in range(position, len(self.code)):
+            depth += (self.at(there) == "<") - (self.at(there) == ">")
+            if depth == 0:
+                return there
+        raise ValueError(f"{self.file}: an unclosed template")
+
     def next_of(self, position, marks):
         while self.at(position) not in marks:
             position += 1
@@ -145,7 +153,7 @@ class Source:
             elif word == "0" and self.at(here - 1) == "=" and self.at(here - 2) in (")", "const", "noexcept"):
                 self.leave_out(here, here, "pure")
             elif word == "array" and self.at(here + 1) == "<":
-                self.leave_out(here, self.next_of(here, ">"), "frozen")
+                self.leave_out(here, self._close_of_template(here + 1), "frozen")
             elif word == "[" and self.at(here + 2) == "]" and self._declares(here - 1):
                 self.leave_out(here, here + 2, "frozen")
             elif word == "constexpr" and self.at(here - 1) == "if":
@@ -163,7 +171,7 @@ class Source:
             mark = self._first_mark(here + 1)
             is_function = self.at(mark) == "("
             end = self._end_of(mark, is_function)
-            key = f"{self.file}:{self.tokens[self.code[here]].line}:{self.at(mark - 1)}"
+            key = f"{self.file}:{self.at(mark - 1)}"
             lines = (self.tokens[self.code[there]].line for there in (here, end))
             constant = Constant(key, self.code[here], self.code[end], is_function, key in frozen, *lines)
             self.constants.append(constant)
@@ -239,7 +247,7 @@ class Copy:
             elif source.literal(index):
                 self._literal(source, index)
         for constant in source.constants:
-            if not constant.frozen and not constant.is_function:
+            if not constant.is_function:
                 self._rows(source, constant)
         text = self._text_of(source, self.mutants[first:])
         if not target.exists() or target.read_text(encoding="utf-8") != text:

@@ -58,11 +58,22 @@ class Sources(unittest.TestCase):
         self.assertNotIn("static_assert", text)
         self.assertEqual(text.count("\n"), 6)
 
+    def test_the_numbers_of_a_type_are_left_out(self):
+        _, copy = copied("std::array<std::array<int, 256>, 4> one = Two(7);")
+        self.assertEqual([m.was for m in copy.mutants], ["7"])
+
     def test_a_frozen_constant_stays_as_it_is(self):
         source = "inline constexpr int Width = 649;"
         _, copy = copied(source)
         text, copy = copied(source, frozen={copy.constants["sort/one.h"][0].key})
         self.assertEqual((text, copy.mutants), (source, []))
+
+    def test_a_frozen_table_leaves_the_numbers_of_the_others(self):
+        source = "constexpr int Rows[] = { One(), Two() };\nint One() { return 5; }\nconstexpr int More[] = { A(), B() };"
+        _, copy = copied(source)
+        numbers = {m.was: m.number for m in copy.mutants}
+        _, frozen = copied(source, frozen={"sort/one.h:Rows"})
+        self.assertEqual({m.was: numbers[m.was] for m in copy.mutants if m.line > 1}, {m.was: m.number for m in frozen.mutants})
 
     def test_a_refused_mutant_leaves_the_numbers_of_the_others(self):
         _, copy = copied("int One() { return 5 + 6; }")

@@ -1,4 +1,5 @@
-// Part of the unit tests of a mutated copy: writes to the file MUTATION_REACHED which mutants each test reached.
+// Part of the unit tests of a mutated copy: writes to the file MUTATION_REACHED which mutants each test reached, and
+// whether it passed.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -12,8 +13,13 @@ class ReachedByTests : public testing::EmptyTestEventListener {
  public:
   explicit ReachedByTests(const char* path) : file_(path) {}
 
+  void OnTestProgramStart(const testing::UnitTest&) override {
+    file_ << "start\tpassed\t0\t";
+    mutation::WriteReached(file_);
+  }
+
   void OnTestEnd(const testing::TestInfo& test) override {
-    file_ << test.test_suite_name() << '.' << test.name() << "\t\t" << test.result()->elapsed_time() << '\t';
+    file_ << test.test_suite_name() << '.' << test.name() << (test.result()->Passed() ? "\tpassed\t" : "\tfailed\t") << test.result()->elapsed_time() << '\t';
     mutation::WriteReached(file_);
   }
 
@@ -23,8 +29,10 @@ class ReachedByTests : public testing::EmptyTestEventListener {
 
 [[maybe_unused]] const bool Listens = [] {
   const char* path = std::getenv("MUTATION_REACHED");
-  if (path) testing::UnitTest::GetInstance()->listeners().Append(new ReachedByTests(path));
-  return path != nullptr;
+  if (!path) return false;
+  testing::UnitTest::GetInstance()->listeners().Append(new ReachedByTests(path));
+  unsetenv("MUTATION_REACHED");  // a test may start this program again
+  return true;
 }();
 
 }  // namespace

@@ -18,6 +18,22 @@ std::string_view FailureOf(Doing doing) {
   return "";
 }
 
+TEST(Words, OverflowsNameNoFile) {
+  try {
+    RoundToInt16(32768);
+    FAIL() << "no failure";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.File, "");
+    EXPECT_EQ(failure.SystemError, 0);
+  }
+  try {
+    Int16 word = 32768;
+    FAIL() << "no failure: " << word;
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.File, "");
+  }
+}
+
 TEST(Words, RoundTiesToEven) {
   EXPECT_EQ(RoundToInt16(0.5), 0);
   EXPECT_EQ(RoundToInt16(1.5), 2);

@@ -22,6 +22,12 @@ TEST(CodePage, KnowsItsOwnStretch) {
   EXPECT_EQ(FromUnicode(U'\u0153'), '\x9C');
 }
 
+TEST(CodePage, HasTheseCharactersFrom80To9F) {
+  std::string stretch;
+  for (int code = 0x80; code < 0xA0; ++code) stretch += static_cast<char>(code);
+  EXPECT_EQ(ToUtf8(stretch), "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008dŽ\u008f\u0090‘’“”•–—˜™š›œ\u009džŸ");
+}
+
 TEST(CodePage, LacksTheRestOfUnicode) {
   for (char32_t character : {U'\u0080', U'\u0100', U'\u0391', U'\u4E2D', U'\U0001F600'})
     EXPECT_EQ(FromUnicode(character), std::nullopt);
@@ -34,7 +40,8 @@ TEST(CodePage, ReadsUtf8) {
 }
 
 TEST(CodePage, RefusesMalformedUtf8) {
-  for (const char* text : {"\xC3", "\xC3(", "\xE2\x82", "\x80", "\xC0\xAF", "\xF0\x9F\x98\x80", "\xFF", "\xE0\x83\xA9"})
+  for (const char* text :
+       {"\xC3", "\xC3(", "\xE2\x82", "\x80", "\xC0\xAF", "\xF0\x9F\x98\x80", "\xFF", "\xE0\x83\xA9", "\xE0\xA0"})
     EXPECT_EQ(FromUtf8(text), std::nullopt) << text;
 }
 

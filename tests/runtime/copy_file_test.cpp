@@ -277,6 +277,17 @@ TEST(LongDateText, NamesDayAndMonthInEnglish) {
   EXPECT_EQ(runtime::LongDateText(local_days(2026y / 11 / 21)), "Saturday, November 21, 2026");
   EXPECT_EQ(runtime::LongDateText(local_days(2000y / 1 / 2) + hours(23)), "Sunday, January 2, 2000");
   EXPECT_EQ(runtime::LongDateText(local_days(2024y / 2 / 29)), "Thursday, February 29, 2024");
+  struct Row {
+    unsigned Month, Day;
+    std::string Text;
+  };
+  for (const Row& row :
+       {Row{1, 1, "Monday, January 1"}, Row{1, 2, "Tuesday, January 2"}, Row{1, 3, "Wednesday, January 3"},
+        Row{1, 5, "Friday, January 5"}, Row{3, 1, "Friday, March 1"}, Row{4, 1, "Monday, April 1"},
+        Row{5, 1, "Wednesday, May 1"}, Row{6, 1, "Saturday, June 1"}, Row{7, 1, "Monday, July 1"},
+        Row{8, 1, "Thursday, August 1"}, Row{9, 1, "Sunday, September 1"}, Row{10, 1, "Tuesday, October 1"},
+        Row{12, 1, "Sunday, December 1"}})
+    EXPECT_EQ(runtime::LongDateText(local_days(2024y / row.Month / row.Day)), row.Text + ", 2024");
 }
 
 TEST(ShortTimeText, HasTwelveHoursWithoutALeadingZero) {

@@ -59,6 +59,15 @@ TEST_F(FilesTest, NumbersGoFromOneToFive) {
   EXPECT_EQ(FailureOf([&] { files.OpenOutput(5, "Last"); }), "");
 }
 
+TEST_F(FilesTest, ANumberTellsWhetherItIsThatFile) {
+  files.OpenOutput(2, "Last");
+  files.OpenOutput(3, "Other");
+  EXPECT_TRUE(files.IsOpen(2, "Last"));
+  EXPECT_TRUE(files.IsOpen(3, "Other"));
+  EXPECT_FALSE(files.IsOpen(3, "Last"));
+  EXPECT_FALSE(files.IsOpen(4, "Last"));
+}
+
 TEST_F(FilesTest, ClosingWhatIsNotOpenDoesNothing) {
   for (int number : {0, 1, 5, 6}) EXPECT_EQ(FailureOf([&] { files.Close(number); }), "");
 }

@@ -102,6 +102,16 @@ TEST_F(RealDiskTest, NewFilesTakeThePermissionsOfTheModel) {
   }
 }
 
+TEST_F(RealDiskTest, FilesThatAreThereKeepTheirPermissions) {
+  story::WriteBytes(Path("Recpra.Dat"), "films");
+  story::WriteBytes(Path("Last"), "7");
+  ASSERT_EQ(::chmod(Path("Recpra.Dat").c_str(), 0600), 0);
+  ASSERT_EQ(::chmod(Path("Last").c_str(), 0640), 0);
+  disk_.NewFilesLike("Recpra.Dat");
+  for (Mode mode : {Mode::Read, Mode::ReadWrite}) OpenFile(disk_, "Last", mode);
+  EXPECT_EQ(PermissionsOf("Last"), 0640U);
+}
+
 TEST_F(RealDiskTest, NewFilesAreForEveryoneWhereTheModelIsMissing) {
   disk_.NewFilesLike("Recpra.Dat");
   const mode_t mask = ::umask(0);

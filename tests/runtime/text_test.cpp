@@ -77,6 +77,7 @@ TEST(Text, AValuePastAllNumbersIsEndlessOfItsSign) {
   const std::string nines(400, '9');
   EXPECT_EQ(NumericValue(nines), std::numeric_limits<double>::infinity());
   EXPECT_EQ(NumericValue("-" + nines), -std::numeric_limits<double>::infinity());
+  EXPECT_EQ(NumericValue(std::string(400, '5')), std::numeric_limits<double>::infinity());
   EXPECT_EQ(NumericValue("0." + std::string(400, '0') + "1"), 0);
 }
 
@@ -94,6 +95,7 @@ TEST(Text, AWholeNumberIsRoundedToEven) {
 
 TEST(Text, WhatIsNoNumberIsATypeMismatch) {
   for (const char* text : {"", "  ", "abc", "12a", "1 2", "--1", "."}) EXPECT_EQ(FailureOf(text), TypeMismatch) << text;
+  for (const char* text : {"1.5.6", "1:", "1/"}) EXPECT_EQ(FailureOf(text), TypeMismatch) << text;
 }
 
 TEST(Text, WhatDoesNotFitOverflows) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "runtime/journal_block.h"
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
 #include "store/history.h"
@@ -272,6 +273,16 @@ TEST(RecordJournal, RefusesASlotThatLiesFarBehindTheFile) {
   EXPECT_EQ(disk.Content(), (kit::Folder{{Master, kit::Films(1, 8)}}));
 }
 
+TEST(Recovery, KnowsTheWidestGap) {
+  constexpr std::int64_t LastSlot = runtime::WidestGap / store::RecordLength + 1;
+  kit::Folder folder = Stopped("", 1);
+  for (std::int64_t slot : {LastSlot, LastSlot + 1}) {
+    folder[Journal] = Forged(folder[Journal], 40, slot);
+    kit::MemoryDisk disk(folder);
+    EXPECT_EQ(runtime::ReadJournal(disk, Master, store::RecordLength).Block.has_value(), slot == LastSlot);
+  }
+}
+
 TEST(RecordJournal, PutsBlanksBetweenTheEndAndTheSlot) {
   kit::MemoryDisk disk(kit::Folder{{Master, kit::Films(1, 2)}});
   Write(disk, 5, kit::FilmBytes(5, 1));
@@ -279,21 +290,22 @@ TEST(RecordJournal, PutsBlanksBetweenTheEndAndTheSlot) {
             kit::Films(1, 2) + std::string(2 * store::RecordLength, ' ') + kit::FilmBytes(5, 1));
 }
 
+class CountingFolders final : public kit::PassingDisk {
+ public:
+  using PassingDisk::PassingDisk;
+  int SyncFolder(const std::string& name) override {
+    Synced.push_back(name);
+    return kit::PassingDisk::SyncFolder(name);
+  }
+  std::vector<std::string> Synced;
+};
+
 // A run that was stopped may have made the files and not have synced the folders; one that has marked a block has.
 TEST(RecordJournal, SyncsTheFoldersUnlessAnEarlierRunDid) {
-  class Counting final : public kit::PassingDisk {
-   public:
-    using PassingDisk::PassingDisk;
-    int SyncFolder(const std::string& name) override {
-      Synced.push_back(name);
-      return kit::PassingDisk::SyncFolder(name);
-    }
-    std::vector<std::string> Synced;
-  };
   const std::vector<std::string> none, both = {".reelora", ""};
   kit::MemoryDisk fresh(kit::Folder{{Master, kit::Films(1, 8)}});
   for (const std::vector<std::string>& expected : {both, none}) {
-    Counting disk(fresh);
+    CountingFolders disk(fresh);
     RecordJournal journal(disk);
     OpenFile file(disk, Master, Disk::Mode::Create);
     journal.Recover(file, store::RecordLength);
@@ -301,13 +313,52 @@ TEST(RecordJournal, SyncsTheFoldersUnlessAnEarlierRunDid) {
     EXPECT_EQ(disk.Synced, expected);
   }
   kit::MemoryDisk stopped(Written());
-  Counting disk(stopped);
+  CountingFolders disk(stopped);
   RecordJournal journal(disk);
   OpenFile file(disk, Master, Disk::Mode::Create);
   journal.Recover(file, store::RecordLength);
   EXPECT_EQ(disk.Synced, both);
   journal.Write(file, 7, kit::FilmBytes(7, 4), store::KeepOverwritten);
   EXPECT_EQ(disk.Synced, both);
+}
+
+// What another program has done to the safety folder in the meantime is not known to last.
+TEST(RecordJournal, SyncsTheFoldersForAJournalThatWasRemovedOrIsNotWhole) {
+  kit::MemoryDisk disk(Written());
+  RecordJournal journal(disk);
+  OpenFile file(disk, Master, Disk::Mode::Create);
+  journal.Recover(file, store::RecordLength);
+  disk.Remove(Journal);
+  disk.SyncFolder(".reelora");
+  journal.Write(file, 7, kit::FilmBytes(7, 2), store::KeepOverwritten);
+  for (const kit::Folder& state : disk.AfterPowerLoss(disk.Moments(), 64)) EXPECT_TRUE(state.contains(Journal));
+
+  const std::string whole = Written().at(Journal);
+  for (const std::string& found : {whole.substr(0, 40), Forged(whole, 40, -1)}) {
+    kit::Folder folder = Written();
+    folder[Journal] = found;
+    kit::MemoryDisk other(folder);
+    CountingFolders counting(other);
+    RecordJournal again(counting);
+    OpenFile master(counting, Master, Disk::Mode::Create);
+    again.Recover(master, store::RecordLength);
+    again.Write(master, 7, kit::FilmBytes(7, 2), store::KeepOverwritten);
+    EXPECT_EQ(counting.Synced, (std::vector<std::string>{".reelora", ""}));
+  }
+}
+
+// A backup that was restored under a block of ours.
+TEST(RecordJournal, SyncsTheFoldersAfterABlockThatIsLeftAlone) {
+  kit::Folder folder = Written();
+  folder[Master] = kit::Films(1, 3) + std::string(5 * store::RecordLength, 'x');
+  kit::MemoryDisk memory(folder);
+  CountingFolders disk(memory);
+  RecordJournal journal(disk);
+  OpenFile file(disk, Master, Disk::Mode::Create);
+  journal.Recover(file, store::RecordLength);
+  EXPECT_EQ(disk.Synced, std::vector<std::string>());
+  journal.Write(file, 1, kit::FilmBytes(1, 2), store::KeepOverwritten);
+  EXPECT_EQ(disk.Synced, (std::vector<std::string>{".reelora", ""}));
 }
 
 TEST(RecordJournal, SyncsTheFoldersForAnEmptyMasterFileAndANewHistory) {

@@ -52,6 +52,17 @@ TEST_F(SyncCost, OfASettingIsThree) { EXPECT_EQ(Of(WriteSmallFile("Last", "7")),
 // Eight files and two folders.
 TEST_F(SyncCost, OfASortRunIsTen) { EXPECT_EQ(Of(SortFilms()), 10); }
 
+TEST_F(SyncCost, OfASettingAfterASortRunIsThree) {
+  Of(SortFilms());
+  EXPECT_EQ(Of(WriteSmallFile("Last", "7")), 3);
+}
+
+TEST_F(SyncCost, OfASettingAfterAFailedSortRunIsThree) {
+  const auto fail = [] { throw runtime::Failure{runtime::DiskFull, ""}; };
+  EXPECT_THROW(Started.Program.Files.ReplaceTogether(fail), runtime::Failure);
+  EXPECT_EQ(Of(WriteSmallFile("Last", "7")), 3);
+}
+
 // Leaving the last field saves the film, sorts, and notes the film's number.
 TEST_F(SyncCost, OfANewFilmSavedAndSortedByTheAutomaticFlowIsThirteen) {
   frmPage1& screen = Started.Program.RecordScreen;

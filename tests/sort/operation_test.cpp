@@ -8,6 +8,8 @@
 #include <thread>
 #include <vector>
 
+#include "sort/layout.h"
+#include "sort/statement.h"
 #include "store/film_record.h"
 #include "tests/sort/calls.h"
 
@@ -67,6 +69,58 @@ TEST(SortOperation, MakesAnEmptyOutputOfAnEmptyInput) {
   }
 }
 
+TEST(SortOperation, NumbersRecordsOfSevenDigits) {
+  const std::optional<Statement> statement = ParseStatement("S(1,1,C,A) OUTREC(Arrn) Record(1)");
+  const Layout layout(*statement, {});
+  for (std::uint32_t number : {1U, 12'345U, 1'234'567U, 9'999'999U}) {
+    std::string entry(layout.EntryLength(), ' ');
+    layout.MakeEntry("a", number, entry.data());
+    const std::string digits = "000000" + std::to_string(number);
+    EXPECT_EQ(entry.substr(0, 7), digits.substr(digits.size() - 7));
+  }
+}
+
+TEST(SortOperation, WeighsTheFirstAndTheLastCharacterUpAndDown) {
+  std::string weights(256, '\x55');
+  weights[0] = '\xAA';
+  weights['b'] = '\0';
+  weights[255] = '\x10';
+  kit::Folder folder = {{"Recpra.Dat", std::string("a\0\xFF"
+                                                   "b",
+                                                   4)},
+                        {"W", weights}};
+  kit::MemoryDisk disk(folder);
+  ASSERT_EQ(SortOn(disk, "up", "S(1,1,C,A) ALTSEQ(W) OUTREC(1,1) Record(1)").Status, Status::Done);
+  EXPECT_EQ(FileOn(disk, "up"), std::string("b\xFF"
+                                            "a\0",
+                                            4));
+  ASSERT_EQ(SortOn(disk, "down", "S(1,1,C,D) ALTSEQ(W) OUTREC(1,1) Record(1)").Status, Status::Done);
+  EXPECT_EQ(FileOn(disk, "down"), std::string("\0a\xFF"
+                                              "b",
+                                              4));
+}
+
+// Of many records, those that differ late in the key are told apart by halves of its later windows.
+TEST(SortOperation, TellsManyRecordsApartByAnyPartOfTheKey) {
+  std::string master, sorted;
+  for (int number = 0; number < 400; ++number) {
+    const std::string late = std::to_string(1000 + number);
+    const std::string early = std::to_string(9999 - number);
+    master += "samesame" + early + late;
+    sorted = "samesame" + early + late + sorted;
+  }
+  kit::MemoryDisk memory(kit::Folder{{"Recpra.Dat", master}});
+  SharedDisk disk(memory);
+  for (const auto& [bytes, two_workers_from] :
+       {std::pair(1'000'000, 0), std::pair(2000, 0), std::pair(2000, 100'000)}) {
+    Limits limits;
+    limits.MemoryBytes = static_cast<std::size_t>(bytes);
+    limits.TwoWorkersFrom = two_workers_from;
+    ASSERT_EQ(SortOn(disk, "out", "S(1,16,C,A) OUTREC(1,16) Record(16)", limits).Status, Status::Done);
+    EXPECT_EQ(FileOn(memory, "out"), sorted);
+  }
+}
+
 TEST(SortOperation, GivesStatus1ForAStatementThatCannotBeRead) {
   kit::MemoryDisk disk(OldFolder());
   EXPECT_EQ(RefusedStatus(disk, "S(1,40,C,A) nothing of that kind"), Status::StatementUnreadable);
@@ -99,6 +153,7 @@ class LongInput final : public kit::PassingDisk {
 };
 
 TEST(SortOperation, GivesStatus2ForMoreRecordsThanSevenDigitsNumber) {
+  EXPECT_EQ(MaxRecords, 9'999'999);
   kit::MemoryDisk memory(OldFolder());
   LongInput disk(memory, MaxRecords);
   Result outcome = SortOn(disk, "Titlepra.Dat", TitlesStatement);

@@ -117,6 +117,13 @@ TEST(Statement, IsNoneWhereAPartIsMissingWrongOrTooMuch) {
            "S(1,40,C,A) OUTREC(1,40) Include(266,1,C,EQ,\"D\"x) Record(649)",
            "S(1,40,C,A) OUTREC(1,40) Include(266,1,C,EQ,\"D\"\") Record(649)",
            "S(1,40,C,A) OUTREC(1,40) Record(649) and more",
+           "S(1,40,C,X OUTREC(1,40) Record(649)",
+           "S(1,40,C,A) OUTREC(Number Record(649)",
+           "S(1,40,C,A) OUTREC(1,40) Record(64:)",
+           "S(1,40,C,A) OUTREC(1,40) Record(649) ALTSEQ(",
+           "S(1,40,C,A) OUTREC(1,40) Record(649) Include(",
+           "S(1,40,C,A) OUTREC(1,40) Record(649) Include(266,1,C,XX",
+           "S(1,40,C,A) OUTREC(1,40) Include(266,1,C,EQ,\") Record(649)",
        }) {
     EXPECT_FALSE(ParseStatement(text)) << text;
   }

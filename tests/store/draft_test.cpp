@@ -59,6 +59,7 @@ TEST_F(DraftFile, IsReadAsItWasWritten) {
   Draft draft = DraftOf(17, true, "The Third Man");
   draft.Before = FilmOf(kit::FilmBytes(17, 3));
   WriteDraft(Disk, Name, draft);
+  EXPECT_TRUE(Disk.Content().at(File).starts_with("REELDRF1"));
   std::optional<Draft> read = ReadDraft(Disk, Name);
   ASSERT_TRUE(read);
   EXPECT_EQ(read->Slot, 17);
@@ -109,6 +110,8 @@ TEST_F(DraftFile, OfAMadNumberUnderARightSumIsNoDraft) {
 TEST_F(DraftFile, OfAnotherNameIsNoDraft) {
   kit::MemoryDisk disk(kit::Folder{{".reelora/journal", ""}, {".reelora/draft.new", ""}, {".reelora/draft7", ""}});
   EXPECT_EQ(DraftNames(disk), std::vector<std::string>{"draft7"});
+  kit::MemoryDisk of_all_digits(kit::Folder{{".reelora/draft1234567890", ""}});
+  EXPECT_EQ(DraftNames(of_all_digits), std::vector<std::string>{"draft1234567890"});
 }
 
 TEST_F(DraftFile, OfAnyOtherLengthIsNoDraft) {
@@ -198,6 +201,31 @@ TEST_F(KeptDraft, TakesTheFirstFreeSlotThen) {
   KeepDraft(Files, Edited(7, "Alien"));
   EXPECT_EQ(TitleIn(Disk, 4), Padded("Alien"));
   EXPECT_EQ(Disk.Content().at(Master).size(), 9u * RecordLength);
+}
+
+TEST_F(KeptDraft, TakesTheVeryFirstSlotIfThatIsFree) {
+  Put(1, FilmRecord());
+  KeepDraft(Files, DraftOf(7, true, "Alien"));
+  EXPECT_EQ(TitleIn(Disk, 1), Padded("Alien"));
+}
+
+TEST_F(KeptDraft, CountsARecordThatTheFileCutsOffAsASlot) {
+  kit::Folder folder = kit::FolderOfFilms(9);
+  folder[Master] += 'X';
+  Disk = kit::MemoryDisk(folder);
+  KeepDraft(Files, DraftOf(7, true, "Alien"));
+  EXPECT_EQ(Disk.Content().at(Master)[9 * RecordLength], 'X');
+  EXPECT_EQ(TitleIn(Disk, 11), Padded("Alien"));
+}
+
+TEST_F(KeptDraft, LeavesNoGapBehindTheLastFilm) {
+  KeepDraft(Files, DraftOf(11, true, "Alien"));
+  EXPECT_EQ(TitleIn(Disk, 10), Padded("Alien"));
+}
+
+TEST(IsBlank, IsToldFromAFilm) {
+  EXPECT_TRUE(IsBlank(FilmRecord()));
+  EXPECT_FALSE(IsBlank(FilmOf(kit::FilmBytes(1, 0))));
 }
 
 TEST_F(KeptDraft, IsNotKeptTwiceInTwoSlots) {
