@@ -19,7 +19,8 @@ class ReachedByTests : public testing::EmptyTestEventListener {
   }
 
   void OnTestEnd(const testing::TestInfo& test) override {
-    file_ << test.test_suite_name() << '.' << test.name() << (test.result()->Passed() ? "\tpassed\t" : "\tfailed\t") << test.result()->elapsed_time() << '\t';
+    file_ << test.test_suite_name() << '.' << test.name() << (test.result()->Passed() ? "\tpassed\t" : "\tfailed\t")
+          << test.result()->elapsed_time() << '\t';
     mutation::WriteReached(file_);
   }
 
