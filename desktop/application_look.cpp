@@ -1,73 +1,57 @@
-// One style, so that the windows look the same on every desktop.
+// One style, so that the windows look the same on every desktop, in the desktop's colours as far as they can be read.
 #include "desktop/application_look.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QIconEngine>
-#include <QPainter>
-#include <QProxyStyle>
-#include <QStyleOption>
+#include <QPalette>
 #include <memory>
 
 #include "desktop/artwork.h"
 #include "desktop/contrast.h"
 #include "desktop/control_view.h"
 #include "desktop/grid.h"
+#include "desktop/style.h"
 
 namespace desktop {
 namespace {
 
-constexpr QStyle::StandardPixmap MenuArrow = QStyle::SP_ToolBarHorizontalExtensionButton;
+// On many desktops links, hints and what cannot be used are too like their ground.
+void MakeReadable(QPalette& colours, QPalette::ColorRole words, QPalette::ColorRole ground) {
+  for (auto group : {QPalette::Active, QPalette::Inactive}) {
+    QColor back = colours.color(group, ground);
+    QColor fore = StandingOut(colours.color(group, words), back, TextContrast);
+    if (fore != colours.color(group, words)) colours.setColor(group, words, fore);
+  }
+  QColor back = colours.color(QPalette::Disabled, ground);
+  if (Contrast(colours.color(QPalette::Disabled, words), back) >= TextContrast) return;
+  colours.setColor(QPalette::Disabled, words, DisabledColour(colours.color(QPalette::Active, words), back));
+}
 
-// The arrow of a menu bar that is too narrow, read when it is first painted.
-class LateArrow final : public QIconEngine {
- public:
-  explicit LateArrow(const QStyle& style) : style_(style) {}
-  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
-    Read().paint(painter, area, Qt::AlignCenter, mode, state);
-  }
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    return Read().pixmap(size, mode, state);
-  }
-  QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    return Read().actualSize(size, mode, state);
-  }
-  QIconEngine* clone() const override { return std::make_unique<LateArrow>(style_).release(); }
+// The chosen line, its words, and the mark of the focus, which has the colour of the line.
+void MakeChoiceReadable(QPalette& colours) {
+  QColor ground = colours.color(QPalette::Window);
+  QColor words = colours.color(QPalette::HighlightedText);
+  QColor mark = StandingOut(colours.color(QPalette::Highlight), ground, MarkContrast);
+  QColor other = StandingOut(mark, words, TextContrast);
+  if (Contrast(other, ground) >= MarkContrast) mark = other;
+  words = StandingOut(words, mark, TextContrast);
+  if (mark != colours.color(QPalette::Highlight)) colours.setColor(QPalette::Highlight, mark);
+  if (words != colours.color(QPalette::HighlightedText)) colours.setColor(QPalette::HighlightedText, words);
+}
 
- private:
-  QIcon Read() const { return style_.standardIcon(MenuArrow); }
-  const QStyle& style_;
-};
-
-// Every menu bar asks for its arrow at once, and the first picture file that is read loads all image plugins.
-class Style final : public QProxyStyle {
- public:
-  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
-  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
-    if (which != MenuArrow) return QProxyStyle::standardIcon(which, option, widget);
-    return QIcon(std::make_unique<LateArrow>(*baseStyle()).release());
-  }
-  // The chosen line of the bar shows also before its menu is open, as after Alt alone.
-  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                   const QWidget* widget) const override {
-    const auto* line = element == CE_MenuBarItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
-    if (!line) return QProxyStyle::drawControl(element, option, painter, widget);
-    QStyleOptionMenuItem shown = *line;
-    if (shown.state & State_Selected) shown.state |= State_Sunken;
-    QProxyStyle::drawControl(element, &shown, painter, widget);
-  }
-};
-
-// On a dark desktop the toolkit's links and hints are as dark as their ground. Elsewhere the palette stays the
-// desktop's own: the toolkit keeps pictures of its buttons for each palette, and boxes would have one each.
 void MakeReadable() {
   QPalette colours = QApplication::palette();
-  QColor ground = colours.color(QPalette::Base);
-  if (Contrast(colours.color(QPalette::Link), ground) >= TextContrast) return;
-  colours.setColor(QPalette::Link, StandingOut(colours.color(QPalette::Link), ground, TextContrast));
-  QColor hint = DisabledColour(colours.color(QPalette::Text), ground);
-  colours.setColor(QPalette::PlaceholderText, hint);
-  QApplication::setPalette(colours);
+  MakeReadable(colours, QPalette::WindowText, QPalette::Window);
+  MakeReadable(colours, QPalette::ButtonText, QPalette::Button);
+  MakeReadable(colours, QPalette::ToolTipText, QPalette::ToolTipBase);
+  for (auto words : {QPalette::Text, QPalette::Link, QPalette::LinkVisited})
+    MakeReadable(colours, words, QPalette::Base);
+  QColor base = colours.color(QPalette::Base);
+  QColor hint = colours.color(QPalette::PlaceholderText);
+  if (hint.alpha() < 255 || Contrast(hint, base) < TextContrast)
+    colours.setColor(QPalette::PlaceholderText, DisabledColour(colours.color(QPalette::Text), base));
+  MakeChoiceReadable(colours);
+  if (colours != QApplication::palette()) QApplication::setPalette(colours);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "desktop/artwork.h"
 #include "desktop/contrast.h"
+#include "desktop/face.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -14,48 +15,40 @@ namespace {
 
 constexpr int CaptionFlags = Qt::AlignCenter | Qt::TextShowMnemonic;
 
-constexpr int SmallestFont = 6;  // pixels
+constexpr int SmallestFont = 6;         // pixels
+constexpr double ToolbarPoints = 9.75;  // of all captions below pictures
+constexpr double PicturePart = 0.9;     // of the room above the caption
+constexpr QColor FocusMark(0x00, 0x40, 0xC0);
 
 // Of the ring or the square of an option.
 double MarkSize(const QWidget& option) { return option.font().pixelSize() * 1.05; }
 
-void PaintFace(QPainter& painter, const QWidget& button, const QColor& back, bool down) {
-  QRectF face = QRectF(button.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-  QLinearGradient shade(face.topLeft(), face.bottomLeft());
-  bool hovered = button.isEnabled() && button.underMouse() && !down;
-  shade.setColorAt(down ? 1 : 0, back.lighter(hovered ? 130 : 118));
-  shade.setColorAt(down ? 0 : 1, hovered ? back.lighter(108) : back.darker(104));
-  double corner = std::max(2.0, face.height() / 14);
-  painter.setPen(QPen(back.darker(170), 1));
-  painter.setBrush(shade);
-  painter.drawRoundedRect(face, corner, corner);
-  if (!button.hasFocus()) return;
-  painter.setPen(QPen(StandingOut(QColor(0x00, 0x40, 0xC0), back, MarkContrast), 2));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(face.adjusted(1.5, 1.5, -1.5, -1.5), corner, corner);
+ButtonFace FaceOf(const QPushButton& button, const forms::Button& control) {
+  ButtonFace face{Lit(ToColour(control.Look().Back)), button.parentWidget()->palette().color(QPalette::Window),
+                  FocusMark};
+  face.Flat = !control.Icon.empty();
+  if (face.Flat) face.Ground = face.Back;  // of the toolbar
+  face.Enabled = button.isEnabled();
+  face.Hovered = button.underMouse();
+  face.Down = button.isDown();
+  face.Focused = button.hasFocus();
+  return face;
 }
 
-// A ring or a square with its mark, as high as the text, and the caption to its right.
-void PaintOption(QWidget& option, const forms::Captioned& control, bool round, bool marked, bool down) {
+// The mark, as high as the text, and the caption to its right. An option of the window's own colour paints no ground,
+// so that a band of the window shows through.
+void PaintOption(QWidget& option, const forms::Captioned& control, bool round, bool set, bool down) {
   QPainter painter(&option);
   painter.setRenderHint(QPainter::Antialiasing);
+  QColor around = option.parentWidget()->palette().color(QPalette::Window);
+  QColor ground = control.Look().Transparent ? around : ToColour(control.Look().Back);
+  if (ground != around) painter.fillRect(option.rect(), ground);
   QColor fore = ToColour(control.Look().Fore);
-  if (!option.isEnabled()) fore.setAlphaF(0.5F);
+  if (!option.isEnabled()) fore = DisabledColour(fore, ground);
+  QColor colour = StandingOut(fore, ground, MarkContrast);
   double size = MarkSize(option);
-  QRectF ring(2, (option.height() - size) / 2, size, size);
-  painter.setPen(QPen(Qt::black, std::max(1.0, size / 14)));
-  painter.setBrush(down ? QColor(0xD0, 0xD0, 0xD0) : QColor(Qt::white));
-  round ? painter.drawEllipse(ring) : painter.drawRect(ring);
-  if (marked && round) {
-    painter.setBrush(Qt::black);
-    double inset = size * 0.27;
-    painter.drawEllipse(ring.adjusted(inset, inset, -inset, -inset));
-  } else if (marked) {
-    painter.setPen(QPen(Qt::black, size / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({ring.topLeft() + QPointF(size * 0.22, size * 0.52),
-                                    ring.topLeft() + QPointF(size * 0.42, size * 0.74),
-                                    ring.topLeft() + QPointF(size * 0.8, size * 0.26)}));
-  }
+  bool hovered = option.isEnabled() && option.underMouse();
+  PaintMark(painter, {2, (option.height() - size) / 2, size, size}, {colour, ground, round, set, hovered, down});
   QRect words = CaptionArea(control, option);
   QString caption = Shown(control.Caption());
   painter.setPen(fore);
@@ -63,20 +56,14 @@ void PaintOption(QWidget& option, const forms::Captioned& control, bool round, b
   int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
   painter.drawText(words, flags, caption);
   if (!option.hasFocus()) return;
-  QColor ground = option.palette().color(QPalette::Window);
-  if (control.Look().Transparent) ground = option.parentWidget()->palette().color(QPalette::Window);
-  painter.setPen(QPen(StandingOut(fore, ground, MarkContrast), 2));
-  painter.drawRect(painter.boundingRect(words, flags, caption).adjusted(-2, -1, 2, 1));
+  painter.setPen(QPen(colour, 2));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(painter.boundingRect(words, flags, caption)).adjusted(-3, -1, 3, 1), 3, 3);
 }
 
-// Options have their own background, so that they stand out from what is below them.
 void ApplyOptionLook(QWidget& option, const forms::Look& look, const Grid& grid) {
   option.setFont(grid.Font(look));
-  QPalette colours = option.palette();
-  colours.setColor(QPalette::Window, ToColour(look.Back));
-  option.setPalette(colours);
-  option.setBackgroundRole(QPalette::Window);
-  option.setAutoFillBackground(!look.Transparent);
+  option.update();
 }
 
 }  // namespace
@@ -99,7 +86,12 @@ ButtonView::ButtonView(forms::Button& button, QWidget& parent)
 }
 
 void ButtonView::ApplyLook(const Grid& grid) {
-  setFont(grid.Font(button_.Look()));
+  QFont font = grid.Font(button_.Look());
+  if (!button_.Icon.empty()) {
+    font.setPixelSize(grid.Pixels(ToolbarPoints));
+    font.setBold(false);
+  }
+  setFont(font);
   update();
 }
 
@@ -110,24 +102,22 @@ void ButtonView::ApplyContent() {
 
 void ButtonView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  PaintFace(painter, *this, ToColour(button_.Look().Back), isDown());
-  if (isDown()) painter.translate(1, 1);
+  ButtonFace face = FaceOf(*this, button_);
+  PaintFace(painter, rect(), face, std::max(3.0, height() / 12.0));
   QString caption = Shown(button_.Caption());
   QRect words = CaptionArea(button_, *this);
   if (!button_.Icon.empty()) {
     int text_height = caption.isEmpty() ? 0 : QFontMetrics(font()).height();
-    int side = std::min(words.width(), words.height() - text_height - 2);
-    QRect area(words.left() + (words.width() - side) / 2, words.top() + 1, side, side);
+    int side = static_cast<int>(std::min(words.width(), words.height() - text_height) * PicturePart);
+    int above = (words.height() - text_height - side) / 2;
+    QRect area(words.left() + (words.width() - side) / 2, words.top() + above, side, side);
     painter.setOpacity(isEnabled() ? 1 : 0.35);
     painter.drawPixmap(area, Artwork(button_.Icon, area.size(), devicePixelRatioF()));
     painter.setOpacity(1);
     words.setTop(words.bottom() - text_height + 1);
   }
   painter.setFont(FittedFont(font(), caption, words.width()));
-  QColor fore = ToColour(button_.Look().Fore);
-  if (!isEnabled()) fore.setAlphaF(0.4F);
-  painter.setPen(fore);
+  painter.setPen(CaptionColour(ToColour(button_.Look().Fore), face));
   painter.drawText(words, CaptionFlags, caption);
 }
 

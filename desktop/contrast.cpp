@@ -25,7 +25,16 @@ QColor StandingOut(const QColor& wanted, const QColor& ground, double contrast) 
     for (const QColor& shade : {wanted.darker(percent), wanted.lighter(percent)})
       if (Contrast(shade, ground) >= contrast) return shade;
   }
+  return BlackOrWhite(ground);
+}
+
+QColor BlackOrWhite(const QColor& ground) {
   return Contrast(Qt::black, ground) > Contrast(Qt::white, ground) ? Qt::black : Qt::white;
+}
+
+QColor Mixed(const QColor& one, const QColor& other, double part) {
+  auto mixed = [part](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * part)); };
+  return {mixed(one.red(), other.red()), mixed(one.green(), other.green()), mixed(one.blue(), other.blue())};
 }
 
 }  // namespace desktop

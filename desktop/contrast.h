@@ -13,5 +13,9 @@ inline constexpr double MarkContrast = 3;
 double Contrast(const QColor& one, const QColor& other);
 // The wanted colour, or the nearest of its shades that stands out from the ground so far; else black or white.
 QColor StandingOut(const QColor& wanted, const QColor& ground, double contrast);
+// Whichever stands out more.
+QColor BlackOrWhite(const QColor& ground);
+// The one colour with a part, from 0 to 1, of the other in it.
+QColor Mixed(const QColor& one, const QColor& other, double part);
 
 }  // namespace desktop

@@ -66,11 +66,8 @@ QColor ToColour(forms::Colour colour) {
 
 QColor DisabledColour(const QColor& fore, const QColor& back) {
   QColor paler = fore;
-  for (int part : {5, 4, 3}) {  // fifths
-    auto mixed = [part](int one, int other) { return (part * one + (5 - part) * other) / 5; };
-    QColor mix(mixed(fore.red(), back.red()), mixed(fore.green(), back.green()), mixed(fore.blue(), back.blue()));
-    if (Contrast(mix, back) >= TextContrast) paler = mix;
-  }
+  for (double part : {0.0, 0.2, 0.4})
+    if (QColor mix = Mixed(fore, back, part); Contrast(mix, back) >= TextContrast) paler = mix;
   return paler;
 }
 

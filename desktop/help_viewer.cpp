@@ -55,6 +55,8 @@ HelpViewer::HelpViewer(std::string folder)
   connect(&back_, &QPushButton::clicked, this, [this] { GoBack(); });
   connect(&search_, &QPushButton::clicked, this, [this] { Search(search_line_.text()); });
   connect(&search_line_, &QLineEdit::returnPressed, this, [this] { Search(search_line_.text()); });
+  // The toolkit paints the text anew when the focus comes or goes, but not its frame.
+  connect(qApp, &QApplication::focusChanged, &page_, qOverload<>(&QWidget::update));
   connect(&page_, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { GoTo(TopicOf(url.toString())); });
   connect(&page_, &QTextBrowser::cursorPositionChanged, this, [this] { SayLinks(); });
   page_.Tabbed = [this] { SayLinks(); };
@@ -72,7 +74,10 @@ void HelpViewer::LayOut() {
   setLayout(column.release());
   setTabOrder(&search_line_, &search_);
   setTabOrder(&search_, &page_);
-  search_line_.setPlaceholderText(QStringLiteral("Search for words"));
+  auto hint = QStringLiteral("Search for words");
+  QFontMetrics letters(search_line_.font());
+  search_line_.setPlaceholderText(hint);
+  search_line_.setMinimumWidth(letters.horizontalAdvance(hint) + letters.height());
   search_line_.setAccessibleName(QStringLiteral("Words to search for"));
   page_.setAccessibleName(QStringLiteral("Help text"));
   page_.setOpenLinks(false);

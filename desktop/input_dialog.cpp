@@ -38,6 +38,9 @@ InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* p
        {static_cast<QWidget*>(&prompt_), static_cast<QWidget*>(&line_), static_cast<QWidget*>(&buttons_)})
     column_.addWidget(part);
   line_.setFocus();
+  // By itself the toolkit keeps to two thirds of the display, which may cut off a prompt in large letters.
+  int width = column_.sizeHint().width();
+  resize(width, column_.totalHeightForWidth(width));
 }
 
 }  // namespace desktop

@@ -1,4 +1,4 @@
-// At every size and shape of the window, and in every palette, what is written can be read.
+// At every size and shape of the window what is written is whole.
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -6,12 +6,14 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "desktop/application_look.h"
 #include "desktop/button_view.h"
-#include "desktop/contrast.h"
+#include "desktop/help_viewer.h"
 #include "desktop/input_dialog.h"
 #include "desktop/message_box.h"
 #include "desktop/text.h"
 #include "tests/desktop/whole_program.h"
+#include "tests/kit/source_tree.h"
 
 namespace desktop {
 namespace {
@@ -106,45 +108,31 @@ INSTANTIATE_TEST_SUITE_P(Sizes, Fit, testing::ValuesIn(Sizes), [](const auto& si
   return std::to_string(size.param.width()) + "x" + std::to_string(size.param.height());
 });
 
-class Palettes : public testing::Test {
+class FitOfHelp : public testing::Test {
  protected:
-  ~Palettes() override { QApplication::setPalette(before_); }
-  QPalette before_ = QApplication::palette();
+  FitOfHelp() { SetUpLook(); }
+  ~FitOfHelp() override {
+    QApplication::setFont(font_);
+    QApplication::setPalette(palette_);
+  }
+
+ private:
+  QFont font_ = QApplication::font();
+  QPalette palette_ = QApplication::palette();
 };
 
-// What lies behind a control: its own ground, or the window's.
-QColor GroundOf(const forms::Control& control) {
-  return ToColour(control.Look().Transparent ? control.Owner().BackColor() : control.Look().Back);
-}
-
-TEST_F(Palettes, TheFormsAreReadableInALightAndADarkDesktop) {
-  for (const QPalette& palette : {QPalette(Qt::white, QColor(0x20, 0x20, 0x20)), QPalette(Qt::lightGray)}) {
-    QApplication::setPalette(palette);
-    WholeProgram program;
-    for (FormView* form : program.OpenAll()) {
-      for (forms::Control* control : form->Window().Controls()) {
-        ControlView* view = control->Visible() ? form->ViewOf(*control) : nullptr;
-        auto* label = view ? qobject_cast<QLabel*>(&view->Widget()) : nullptr;
-        auto* field = view ? qobject_cast<QLineEdit*>(&view->Widget()) : nullptr;
-        if (!label && !field) continue;
-        QColor text = view->Widget().palette().color(label ? QPalette::WindowText : QPalette::Text);
-        EXPECT_GE(Contrast(text, GroundOf(*control)), TextContrast) << control->Name;
-      }
-    }
+TEST_F(FitOfHelp, ButtonsAndHintInLettersOfTwiceTheSize) {
+  QFont twice = QApplication::font();
+  twice.setPointSizeF(2 * QFontInfo(twice).pointSizeF());
+  QApplication::setFont(twice);
+  HelpViewer help(kit::DeliveredFolder().string());
+  help.Open(0);
+  for (const QPushButton* button : help.findChildren<QPushButton*>()) {
+    QFontMetrics letters(button->font());
+    EXPECT_GE(button->width(), letters.size(Qt::TextShowMnemonic, button->text()).width() + letters.height() / 2);
   }
-}
-
-TEST_F(Palettes, TheNoticeLineIsReadableInADarkDesktop) {
-  QApplication::setPalette(QPalette(Qt::black, QColor(0x10, 0x10, 0x10)));
-  NoticeLine line([] {});
-  line.Show("Saved as films.pdf", {{"Open", [] {}}}, "a");
-  for (const QWidget* part : line.findChildren<QWidget*>()) {
-    if (!part->isVisibleTo(&line) || qobject_cast<const QProgressBar*>(part)) continue;
-    bool button = qobject_cast<const QPushButton*>(part);
-    QColor text = part->palette().color(button ? QPalette::ButtonText : QPalette::WindowText);
-    QColor ground = part->palette().color(button ? QPalette::Button : QPalette::Window);
-    EXPECT_GE(Contrast(text, ground), TextContrast) << part->metaObject()->className();
-  }
+  const auto* line = help.findChild<QLineEdit*>();
+  EXPECT_GE(line->width(), line->fontMetrics().horizontalAdvance(line->placeholderText()));
 }
 
 }  // namespace
