@@ -7,7 +7,7 @@
 namespace desktop {
 namespace {
 
-constexpr int TextMargin = 2;  // pixels before the first letter
+constexpr int ToolkitMargin = 2;  // pixels before the first letter, besides the margin of the box
 
 }  // namespace
 
@@ -57,7 +57,8 @@ void FieldInterface::selection(int index, int* start, int* end) const {
 QRect FieldInterface::characterRect(int offset) const {
   QFontMetrics metrics(field_.font());
   int room = field_.width() - metrics.horizontalAdvance(field_.text());
-  int from = field_.alignment() & Qt::AlignLeft ? TextMargin : std::max(TextMargin, room / 2);
+  int margin = field_.textMargins().left() + ToolkitMargin;
+  int from = field_.alignment() & Qt::AlignLeft ? margin : std::max(margin, room / 2);
   int left = from + metrics.horizontalAdvance(field_.text().left(offset));
   int width = metrics.horizontalAdvance(field_.text().mid(offset, 1));
   return {field_.mapToGlobal(QPoint(left, 0)), QSize(width, field_.height())};

@@ -1,10 +1,12 @@
-// A text box as a line edit, with a plain frame that shows the focus.
+// A text box as a line edit, with a frame that shows the focus.
 #pragma once
 
 #include <QLineEdit>
+#include <optional>
 
 #include "desktop/code_page_validator.h"
 #include "desktop/control_view.h"
+#include "desktop/list_table.h"
 
 namespace desktop {
 
@@ -27,7 +29,10 @@ class FieldView final : public QLineEdit, public ControlView {
 
  private:
   void FitFont();
+  double Corner() const;
+  void PaintGround();
   forms::TextBox& box_;
+  std::optional<ListCell> cell_;  // in the list of twenty
   CodePageValidator validator_;
   QFont full_size_;
   bool mirroring_ = false;

@@ -132,6 +132,7 @@ void FormView::SyncFrame() {
     title_ = window_.Caption();
     setWindowTitle(Shown(title_));
   }
+  surface_.Sync();
   QColor back = ToColour(window_.BackColor());
   if (surface_.palette().color(QPalette::Window) == back) return;
   QPalette colours = surface_.palette();

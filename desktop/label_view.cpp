@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/artwork.h"
+#include "desktop/face.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -36,11 +37,11 @@ LabelView::LabelView(forms::Label& label, QWidget& parent, bool tag)
 void LabelView::ApplyLook(const Grid& grid) {
   const forms::Look& look = label_.Look();
   full_size_ = grid.Font(look);
+  if (tag_) full_size_.setBold(false);
   QPalette colours = palette();
   colours.setColor(QPalette::WindowText, ToColour(look.Fore));
   colours.setColor(QPalette::Window, ToColour(look.Back));
   setPalette(colours);
-  setAutoFillBackground(!look.Transparent);
   fitted_ = false;
 }
 
@@ -56,6 +57,14 @@ void LabelView::ApplyContent() {
   // Each font size costs time when it is first used: an empty label needs none.
   if (std::exchange(fitted_, true) || wanted.isEmpty()) return;
   FitFont();
+}
+
+// A label of the window's own colour paints no ground, so that a band of the window shows through.
+void LabelView::paintEvent(QPaintEvent* event) {
+  QColor back = palette().color(QPalette::Window);
+  if (!label_.Look().Transparent && back != parentWidget()->palette().color(QPalette::Window))
+    QPainter(this).fillRect(rect(), back);
+  QLabel::paintEvent(event);
 }
 
 void LabelView::FitFont() {
@@ -83,9 +92,9 @@ void StripView::ApplyLook(const Grid&) {
 
 void StripView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  QColor back = palette().color(QPalette::Window);
-  painter.fillRect(0, 0, width(), 1, back.lighter(125));
-  painter.fillRect(0, height() - 1, width(), 1, back.darker(160));
+  QColor back = Lit(palette().color(QPalette::Window));
+  painter.fillRect(rect(), back);
+  painter.fillRect(0, height() - 1, width(), 1, EdgeOn(back, Qt::black));
 }
 
 PictureView::PictureView(forms::Picture& picture, QWidget& parent)

@@ -17,6 +17,7 @@ class LabelView final : public QLabel, public ControlView {
  protected:
   void ApplyLook(const Grid& grid) override;
   void ApplyContent() override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void FitFont();
