@@ -5,7 +5,6 @@
 #include <QContextMenuEvent>
 #include <QListWidget>
 #include <QTest>
-#include <memory>
 
 #include "tests/desktop/drawn_window.h"
 
@@ -175,23 +174,6 @@ TEST_F(MouseOn, AScreenReadersPressIsAClick) {
   Window.Push.Click = [&] { ++clicks; };
   dynamic_cast<QAbstractButton&>(WidgetOf(Window.Push)).click();
   EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(MouseOn, AFingerDoesWhatTheMouseDoes) {
-  int clicks = 0;
-  Window.Push.Click = [&] { ++clicks; };
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Drawn()));
-  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-  auto tap = [&](QWidget& widget) {
-    QPoint place = widget.mapTo(&Drawn(), widget.rect().center());
-    QTest::touchEvent(&Drawn(), screen.get()).press(0, place);
-    QTest::touchEvent(&Drawn(), screen.get()).release(0, place);
-    QCoreApplication::processEvents();
-  };
-  tap(WidgetOf(Window.Push));
-  EXPECT_EQ(clicks, 1);
-  tap(WidgetOf(Window.Second));
-  EXPECT_EQ(Focus(), &WidgetOf(Window.Second));
 }
 
 TEST_F(MouseOn, TheCloseBoxAsksTheForm) {
