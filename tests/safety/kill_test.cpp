@@ -5,17 +5,14 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "tests/kit/under_sanitizer.h"
 #include "tests/safety/disabled_safeguard.h"
 #include "tests/safety/kill_trial.h"
 
 namespace safety {
 namespace {
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int UsualTrials = 1000;  // a process under the sanitizer starts slowly
-#else
-constexpr int UsualTrials = 20000;
-#endif
+constexpr int UsualTrials = kit::UnderSanitizer ? 1000 : 20000;
 
 int Asked(const char* variable, int otherwise) {
   const char* asked = std::getenv(variable);
@@ -57,9 +54,7 @@ bool KillsSee(Safeguard guard, std::string_view action) {
 class KillStrength : public testing::Test {
  protected:
   void SetUp() override {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "processes under the sanitizer start too slowly for so many kills";
-#endif
+    if (kit::UnderSanitizer) GTEST_SKIP() << "processes under the sanitizer start too slowly for so many kills";
   }
 };
 

@@ -14,6 +14,7 @@
 #include "store/master_file.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/under_sanitizer.h"
 #include "tests/safety/disabled_safeguard.h"
 #include "tests/safety/steps.h"
 #include "tests/story/world.h"
@@ -128,13 +129,7 @@ class Memory : public testing::Test {
     return ::truncate((Fresh.Path() / name).c_str(), length) == 0;
   }
   void SetUp() override {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "the sanitizer takes more memory than the program";
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-    GTEST_SKIP() << "the sanitizer takes more memory than the program";
-#endif
-#endif
+    if (kit::UnderSanitizer) GTEST_SKIP() << "the sanitizer takes more memory than the program";
   }
 
   const kit::FreshFolder Fresh;
