@@ -32,14 +32,11 @@ class Overwritten : public testing::Test {
 };
 
 TEST_F(Overwritten, AreOfferedOnce) {
-  const std::string title = [&] {
-    Overwrite(Screen.txtTitle);
-    const std::vector<store::KeptFilm> lost = Films.TakeLost();
-    EXPECT_EQ(lost.size(), 1u);
-    EXPECT_EQ(lost.front().Slot, 7);
-    return std::string(lost.front().Film.Get(store::FilmField::Title));
-  }();
-  EXPECT_EQ(title, kit::FilmBytes(7, 0).substr(0, 40));
+  Overwrite(Screen.txtTitle);
+  const std::vector<store::KeptFilm> lost = Films.TakeLost();
+  ASSERT_EQ(lost.size(), 1u);
+  EXPECT_EQ(lost[0].Slot, 7);
+  EXPECT_EQ(lost[0].Film.Get(store::FilmField::Title), kit::FilmBytes(7, 0).substr(0, 40));
   EXPECT_TRUE(Films.TakeLost().empty());
 }
 
