@@ -49,6 +49,11 @@ struct ProgramRun {
     while (Screen.CurrentRecNo < slot) Click(Screen.cmdNext);
     Click(Screen.cmdEdit);
   }
+  void TypeNewFilm() {
+    Program.StartRecordScreen();
+    Click(Screen.cmdNew);
+    Type(Screen.txtTitle, "Alien");
+  }
 };
 
 class Drafts : public testing::Test {
@@ -113,9 +118,7 @@ TEST_F(Drafts, OfARecordNumberThatNoSaveWritesAreKeptAsNewFilms) {
 
 TEST_F(Drafts, OfNewFilmsSaySo) {
   ProgramRun run(Disk);
-  run.Program.StartRecordScreen();
-  run.Click(run.Screen.cmdNew);
-  run.Type(run.Screen.txtTitle, "Alien");
+  run.TypeNewFilm();
   ASSERT_TRUE(Left());
   EXPECT_TRUE(Left()->IsNew);
 }
@@ -212,9 +215,7 @@ TEST_F(Drafts, GoWhenTheFilmIsDeleted) {
 
 TEST_F(Drafts, OfANewFilmGoWhenItIsDeleted) {
   ProgramRun run(Disk);
-  run.Program.StartRecordScreen();
-  run.Click(run.Screen.cmdNew);
-  run.Type(run.Screen.txtTitle, "Alien");
+  run.TypeNewFilm();
   ASSERT_TRUE(HasDraft());
   run.Click(run.Screen.cmdDelete);
   EXPECT_FALSE(HasDraft());
