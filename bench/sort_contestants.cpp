@@ -95,8 +95,10 @@ double SortPasses(const std::string& path, bool synced) {
   RemoveOutputs(folder.Files());
   return Timed([&] {
     sort::Sorter sorter(folder.Files());
-    for (const Pass& pass : Passes) {
-      sort::Result result = sorter.Sort(store::MasterFileName, pass.Output, pass.Statement);
+    for (std::size_t number = 0; number < std::size(Passes); ++number) {
+      const Pass& pass = Passes[number];
+      const std::string_view next = number + 1 < std::size(Passes) ? Passes[number + 1].Statement : "";
+      sort::Result result = sorter.Sort(store::MasterFileName, pass.Output, pass.Statement, next);
       if (result.Status != sort::Status::Done) throw std::runtime_error("the sort has failed");
     }
   });

@@ -3,6 +3,8 @@
 #include "sort/operation.h"
 
 #include <algorithm>
+#include <atomic>
+#include <future>
 #include <optional>
 #include <string>
 #include <utility>
@@ -48,23 +50,27 @@ std::int64_t RoomFor(const Layout& layout, std::int64_t records, const Limits& l
 class Operation {
  public:
   Operation(Disk& disk, std::string_view input, std::string_view output, const Limits& limits, Workers& workers,
-            std::optional<Table>& last, const sort::Progress& progress)
+            std::optional<Table>& last, std::optional<BegunSort>& begun, const sort::Progress& progress)
       : disk_(disk),
         input_(input),
         output_(output),
         limits_(limits),
         workers_(workers),
         last_(last),
+        begun_(begun),
         progress_(progress) {}
 
   // Replaces the output. Unless done, the output is unchanged and no temporary file is left.
-  Result Run(std::string_view statement);
+  Result Run(std::string_view statement, std::string_view next);
 
  private:
-  Result BuildAside(std::string_view statement);
+  Result BuildAside(std::string_view statement, std::string_view next);
   // Writes the whole output to an empty file, beginning with a sorted table; returns the record count.
   std::int64_t WriteThroughRuns(Table& table, const IncludeFilter& include, const OpenFile& input,
                                 const OpenFile& output, Workers* workers);
+  // Syncs the output and meanwhile reads the input for the next sort, if that can take over the table.
+  void SyncReadingAhead(const OpenFile& aside, const OpenFile& input, Table& table, const Weights& weights,
+                        std::string_view next);
   // A temporary file, discarded at the end of the run if it is still there.
   OpenFile CreateTemporary(const std::string& base);
 
@@ -74,6 +80,7 @@ class Operation {
   const Limits& limits_;
   Workers& workers_;
   std::optional<Table>& last_;
+  std::optional<BegunSort>& begun_;
   const sort::Progress& progress_;
 };
 
@@ -96,7 +103,24 @@ std::int64_t Operation::WriteThroughRuns(Table& table, const IncludeFilter& incl
   return runs.Count();
 }
 
-Result Operation::BuildAside(std::string_view statement) {
+void Operation::SyncReadingAhead(const OpenFile& aside, const OpenFile& input, Table& table, const Weights& weights,
+                                 std::string_view next) {
+  const std::optional<Statement> parsed = ParseStatement(next);
+  if (!parsed || !table.Suits(Layout(*parsed, weights), table.Records())) {
+    aside.Sync();
+    return;
+  }
+  begun_ = {std::string(next), input.Identity(), input.Modified()};
+  std::atomic<bool> synced = false;
+  auto sync = std::async(std::launch::async, [&] {
+    aside.Sync();
+    synced = true;
+  });
+  table.ReadAhead(input, IncludeFilter(parsed->Include, weights), synced);
+  sync.get();
+}
+
+Result Operation::BuildAside(std::string_view statement, std::string_view next) {
   std::optional<Statement> parsed = ParseStatement(statement);
   if (!parsed) return {Status::StatementUnreadable};
   OpenFile input(disk_, input_, Disk::Mode::Read);
@@ -110,22 +134,28 @@ Result Operation::BuildAside(std::string_view statement) {
   OpenFile aside = CreateTemporary(output_);
   Workers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
   std::optional<Table> table = std::exchange(last_, std::nullopt);
-  if (!table || !table->Suits(layout, records) || !table->Reload(input, include, progress_)) {
+  const std::optional<BegunSort> begun = std::exchange(begun_, std::nullopt);
+  const bool resume = begun && *begun == BegunSort{std::string(statement), input.Identity(), input.Modified()};
+  if (!table || !table->Suits(layout, records) || !table->Reload(input, include, progress_, resume)) {
     table.emplace(layout, records, RoomFor(layout, records, limits_), limits_.BlockBytes, workers);
     table->Load(input, include, progress_);
     table->Sort();
   }
   const std::int64_t written =
       table->AtEnd() ? table->WriteOutput(aside) : WriteThroughRuns(*table, include, input, aside, workers);
-  aside.Sync();
+  if (workers) {
+    SyncReadingAhead(aside, input, *table, *weights, next);
+  } else {
+    aside.Sync();
+  }
   if (table->HoldsAll()) last_ = std::move(table);
   return {Status::Done, static_cast<std::int32_t>(written)};
 }
 
-Result Operation::Run(std::string_view statement) {
+Result Operation::Run(std::string_view statement, std::string_view next) {
   Result result;
   try {
-    result = BuildAside(statement);
+    result = BuildAside(statement, next);
     if (result.Status != Status::Done) return result;
     const std::string& aside = temporary_.front();
     runtime::RetryInterrupted(aside, [&] { return disk_.Rename(aside, output_); });
@@ -139,8 +169,9 @@ Result Operation::Run(std::string_view statement) {
 
 }  // namespace
 
-Result Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement) {
-  return Operation(disk_, input, output, limits_, workers_, last_, Progress).Run(statement);
+Result Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement,
+                    std::string_view next) {
+  return Operation(disk_, input, output, limits_, workers_, last_, begun_, Progress).Run(statement, next);
 }
 
 }  // namespace sort

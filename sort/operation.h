@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "runtime/disk.h"
@@ -38,6 +39,14 @@ struct Limits {
   std::size_t BlockBytes = std::size_t{512} * 1024;
 };
 
+// A sort whose reading has begun.
+struct BegunSort {
+  std::string Statement;
+  runtime::FileIdentity Input;
+  runtime::FileTime Modified;
+  bool operator==(const BegunSort&) const = default;
+};
+
 // Runs sorts one after the other. If only Include differs from the sort before, unchanged records keep their order; the
 // whole input is read all the same.
 class Sorter {
@@ -47,7 +56,9 @@ class Sorter {
   // Replaces the output by the extract; a stop at any moment leaves the old file or the new one. Stable; a partial last
   // record is ignored; an input of more than MaxRecords is unreadable. Unless done, the output is unchanged. The
   // new file is sure to stay once the folders are synced, which is left to the caller.
-  Result Sort(std::string_view input, std::string_view output, std::string_view statement);
+  // Next: the statement of the next sort of the same input, if it is known and nothing is written to the input in
+  // between; while this output is synced, the input is read for it.
+  Result Sort(std::string_view input, std::string_view output, std::string_view statement, std::string_view next = "");
 
   // Gets the part of the input that a sort has read; called from the thread of Sort.
   sort::Progress Progress;
@@ -57,6 +68,7 @@ class Sorter {
   Limits limits_;
   Workers workers_;
   std::optional<Table> last_;
+  std::optional<BegunSort> begun_;
 };
 
 }  // namespace sort

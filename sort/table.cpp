@@ -79,20 +79,53 @@ bool Table::Suits(const Layout& layout, std::int64_t records) const {
   return holds_all_ && records_ == records && layout_ == layout;
 }
 
-bool Table::Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress) {
-  std::array<bool, 2> same{};
-  RunHalves(workers_,
-            [&](int worker) { same.at(worker) = ReloadPart(input, include, ProgressOf(worker, progress), worker); });
-  return same[0] && same[1];
+bool Table::Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
+                   bool resume) {
+  if (!resume) {
+    reread_ = 0;
+    unchanged_ = true;
+  }
+  Reread(input, include, progress, false);
+  if (unchanged_ && progress) progress(1);
+  return unchanged_;
 }
 
-bool Table::ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress,
-                       int worker) {
-  const Part& part = parts_.at(worker);
-  const auto count = static_cast<std::int64_t>(part.Loaded);
-  BlockReader reader(input, layout_.RecordLength(), part.End - count, count, Block(worker), progress);
-  const char* entry = entries_.get() + part.Begin * layout_.EntryLength();
-  for (std::size_t place = part.Begin; const char* record = reader.Next(); ++place) {
+// A failure is left to the next sort, which reads again.
+void Table::ReadAhead(const runtime::OpenFile& input, const IncludeFilter& next, const std::atomic<bool>& stop) {
+  reread_ = 0;
+  unchanged_ = true;
+  try {
+    Reread(input, next, nullptr, stop);
+  } catch (const runtime::Failure&) {
+    unchanged_ = false;
+  }
+}
+
+// Each worker takes one block after the other.
+void Table::Reread(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
+                   const std::atomic<bool>& stop) {
+  const auto in_block = static_cast<std::int64_t>(block_length_ / layout_.RecordLength());
+  std::atomic<std::int64_t> next = reread_;
+  std::atomic<bool> unchanged = unchanged_;
+  RunHalves(workers_, [&](int worker) {
+    const Progress* shown = ProgressOf(worker, progress);
+    while (unchanged && !stop) {
+      const std::int64_t first = next.fetch_add(in_block);
+      if (first >= records_) return;
+      if (!RereadBlock(input, include, first, worker)) unchanged = false;
+      if (shown) (*shown)(static_cast<double>(first) / static_cast<double>(records_));
+    }
+  });
+  reread_ = next;
+  unchanged_ = unchanged;
+}
+
+bool Table::RereadBlock(const runtime::OpenFile& input, const IncludeFilter& include, std::int64_t first, int worker) {
+  const auto in_block = static_cast<std::int64_t>(block_length_ / layout_.RecordLength());
+  BlockReader reader(input, layout_.RecordLength(), first, std::min(in_block, records_ - first), Block(worker));
+  auto place = static_cast<std::size_t>(first);
+  const char* entry = entries_.get() + place * layout_.EntryLength();
+  for (; const char* record = reader.Next(); ++place) {
     if (!layout_.IsEntryOf(record, entry)) return false;
     included_[place] = include.Keeps(record) ? 1 : 0;
     entry += layout_.EntryLength();

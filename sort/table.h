@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -29,6 +30,8 @@ class Table {
   Table(const Layout& layout, std::int64_t records, std::int64_t room, std::size_t block_bytes, Workers* workers);
 
   const sort::Layout& EntryLayout() const { return layout_; }
+  // In the input.
+  std::int64_t Records() const { return records_; }
   // Whether there is room for all records, and whether all have been loaded.
   bool HoldsAll() const { return holds_all_; }
   bool AtEnd() const { return parts_[0].Next == parts_[0].End && parts_[1].Next == parts_[1].End; }
@@ -39,8 +42,10 @@ class Table {
 
   // Whether a sort with that layout and record count could take over this table.
   bool Suits(const Layout& layout, std::int64_t records) const;
-  // Rereads all records and applies the new test; false if one has changed.
-  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
+  // Rereads all records and applies the new test; false if one has changed. Resume: after ReadAhead with that test.
+  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress, bool resume);
+  // Begins to reread for the test of the next sort; returns at the end of the input, or soon after the stop.
+  void ReadAhead(const runtime::OpenFile& input, const IncludeFilter& next, const std::atomic<bool>& stop);
 
   // Write the included records in order and return their count: as the output's first records, or as entries from
   // entry `first` on.
@@ -59,7 +64,9 @@ class Table {
   std::span<char> Block(int worker);
   std::span<Item> Loaded(int worker);
   void LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress, int worker);
-  bool ReloadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress, int worker);
+  void Reread(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
+              const std::atomic<bool>& stop);
+  bool RereadBlock(const runtime::OpenFile& input, const IncludeFilter& include, std::int64_t first, int worker);
   std::uint64_t MiddleWindow();
   std::size_t CountBelow(std::uint64_t window);
   void SortHalves();
@@ -75,6 +82,8 @@ class Table {
   std::unique_ptr<char[]> blocks_, entries_;
   std::unique_ptr<unsigned char[]> included_;  // 1 or 0 for each entry
   std::unique_ptr<Item[]> items_, scratch_;
+  std::int64_t reread_ = 0;  // records
+  bool unchanged_ = true;    // none of them has changed
   // By half: the sorted items, a buffer of the same length, and the included items.
   std::array<std::span<Item>, 2> sorted_{}, free_{}, picked_{};
 };
