@@ -2,11 +2,12 @@
 #include "sort/workers.h"
 
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include <array>
 #include <stdexcept>
 #include <string>
+
+#include "tests/kit/no_new_threads.h"
 
 namespace sort {
 namespace {
@@ -32,21 +33,17 @@ TEST(SortWorkersTest, DoBothPartsOnTheCallersThreadWhereThereIsNoOther) {
   EXPECT_EQ(parts, "01");
 }
 
-// A thread with a stack this large cannot start.
 TEST(SortWorkersTest, DoBothPartsOnTheCallersThreadIfTheSystemRefusesAnother) {
-  pthread_attr_t usual, huge;
-  ASSERT_EQ(pthread_getattr_default_np(&usual), 0);
-  ASSERT_EQ(pthread_attr_init(&huge), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&huge, std::size_t{1} << 50), 0);
-  ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
   Workers workers;
   std::string parts;
   std::thread::id second;
-  workers.RunHalves([&](int worker) {
-    parts += std::to_string(worker);
-    second = std::this_thread::get_id();
-  });
-  ASSERT_EQ(pthread_setattr_default_np(&usual), 0);
+  {
+    const kit::NoNewThreads refused;
+    workers.RunHalves([&](int worker) {
+      parts += std::to_string(worker);
+      second = std::this_thread::get_id();
+    });
+  }
   EXPECT_EQ(parts, "01");
   EXPECT_EQ(second, std::this_thread::get_id());
   workers.RunHalves([&](int worker) {
@@ -67,9 +64,9 @@ TEST(SortWorkersTest, ThrowWhatEitherPartThrowsAndGoOnAfterwards) {
     EXPECT_TRUE(other_done);
   }
   EXPECT_THROW(workers.RunHalves([](int) { throw std::runtime_error("both"); }), std::runtime_error);
-  int done = 0;
-  workers.RunHalves([&](int worker) { done += worker; });
-  EXPECT_EQ(done, 1);
+  std::array<bool, 2> done{};
+  workers.RunHalves([&](int worker) { done.at(worker) = true; });
+  EXPECT_EQ(done, (std::array{true, true}));
 }
 
 }  // namespace
