@@ -27,7 +27,8 @@ std::string_view Reason(sort::Status status) {
 // A pass that fails leaves its old key file and its old count.
 sort::Result MakePass(runtime::Files& files, const store::SortPass& pass, sort::Sorter& sorter) {
   files.OpenRandom(KeyFileNo, pass.Keys.Name, store::KeyLength);
-  const sort::Result result = sorter.Sort(store::MasterFileName, pass.Keys.Name, store::StatementOf(pass));
+  const sort::Result result =
+      sorter.Sort(store::MasterFileName, pass.Keys.Name, store::StatementOf(pass), store::StatementAfter(pass));
   if (result.Status == sort::Status::Done) files.Replaced(pass.Keys.Name);
   files.Close(KeyFileNo);
   if (result.Status != sort::Status::Done) return result;

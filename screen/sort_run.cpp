@@ -37,7 +37,8 @@ void MakePass(frmPage1& window, const LabelledPass& pass, sort::Sorter& sorter, 
   window.Desk.RepaintNow();
   window.SortIncludeValue = pass.Pass.IncludeValue;
   window.SortStatement = store::StatementOf(pass.Pass);
-  const sort::Result result = sorter.Sort(store::MasterFileName, keys.Name, window.SortStatement);
+  const sort::Result result =
+      sorter.Sort(store::MasterFileName, keys.Name, window.SortStatement, store::StatementAfter(pass.Pass));
   Retcode = static_cast<std::int32_t>(result.Status);
   if (result.Status == sort::Status::Done) {
     Numrec = result.Records;

@@ -12,7 +12,6 @@ bool BlockReader::Fill() {
   std::int64_t offset = next_ * static_cast<std::int64_t>(record_length_);
   if (file_.Read(block_, length, offset) < length) throw runtime::Failure{runtime::InputPastEnd, file_.Name()};
   next_ += count;
-  if (progress_) (*progress_)(static_cast<double>(next_) / static_cast<double>(end_));
   at_ = block_;
   filled_ = at_ + length;
   return true;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string_view>
 
@@ -10,17 +9,13 @@
 
 namespace sort {
 
-// Gets the part of a file that has been read, from 0 to 1.
-using Progress = std::function<void(double done)>;
-
 // Lengths in bytes, records from 0. Block: buffer of at least one record. A failure of the file is thrown.
 class BlockReader {
  public:
-  // Count: of records, which must exist. Progress: called after each block; nullptr for none.
+  // Count: of records, which must exist.
   BlockReader(const runtime::OpenFile& file, std::size_t record_length, std::int64_t first, std::int64_t count,
-              std::span<char> block, const Progress* progress = nullptr)
+              std::span<char> block)
       : file_(file),
-        progress_(progress),
         record_length_(record_length),
         in_block_(static_cast<std::int64_t>(block.size() / record_length)),
         next_(first),
@@ -39,7 +34,6 @@ class BlockReader {
   bool Fill();
 
   const runtime::OpenFile& file_;
-  const Progress* progress_;
   std::size_t record_length_;
   std::int64_t in_block_, next_, end_;
   char* block_;

@@ -40,24 +40,27 @@ std::optional<Weights> ReadWeights(Disk& disk, const std::optional<std::string>&
   }
 }
 
-// Records that fit into memory; each of two workers needs room for one.
+// Records that fit into memory.
 std::int64_t RoomFor(const Layout& layout, std::int64_t records, const Limits& limits) {
   auto in_memory = static_cast<std::int64_t>(limits.MemoryBytes / Table::BytesPerRecord(layout));
-  return std::min(records, std::max<std::int64_t>(2, in_memory));
+  return std::min(records, std::max<std::int64_t>(1, in_memory));
+}
+
+Reading ReadingOf(const OpenFile& input, std::string_view statement) {
+  return {input.Identity(), input.Modified(), std::string(statement)};
 }
 
 // State of one Sort call.
 class Operation {
  public:
   Operation(Disk& disk, std::string_view input, std::string_view output, const Limits& limits, Workers& workers,
-            std::optional<Table>& last, std::optional<BegunSort>& begun, const sort::Progress& progress)
+            std::optional<Table>& last, const sort::Progress& progress)
       : disk_(disk),
         input_(input),
         output_(output),
         limits_(limits),
         workers_(workers),
         last_(last),
-        begun_(begun),
         progress_(progress) {}
 
   // Replaces the output. Unless done, the output is unchanged and no temporary file is left.
@@ -80,7 +83,6 @@ class Operation {
   const Limits& limits_;
   Workers& workers_;
   std::optional<Table>& last_;
-  std::optional<BegunSort>& begun_;
   const sort::Progress& progress_;
 };
 
@@ -110,13 +112,13 @@ void Operation::SyncReadingAhead(const OpenFile& aside, const OpenFile& input, T
     aside.Sync();
     return;
   }
-  begun_ = {std::string(next), input.Identity(), input.Modified()};
   std::atomic<bool> synced = false;
-  auto sync = std::async(std::launch::async, [&] {
+  // In a thread of its own; if the system refuses one, after the reading.
+  auto sync = std::async([&] {
     aside.Sync();
     synced = true;
   });
-  table.ReadAhead(input, IncludeFilter(parsed->Include, weights), synced);
+  table.ReadAhead(input, IncludeFilter(parsed->Include, weights), ReadingOf(input, next), synced);
   sync.get();
 }
 
@@ -134,20 +136,15 @@ Result Operation::BuildAside(std::string_view statement, std::string_view next) 
   OpenFile aside = CreateTemporary(output_);
   Workers* workers = records >= limits_.TwoWorkersFrom ? &workers_ : nullptr;
   std::optional<Table> table = std::exchange(last_, std::nullopt);
-  const std::optional<BegunSort> begun = std::exchange(begun_, std::nullopt);
-  const bool resume = begun && *begun == BegunSort{std::string(statement), input.Identity(), input.Modified()};
-  if (!table || !table->Suits(layout, records) || !table->Reload(input, include, progress_, resume)) {
+  if (!table || !table->Suits(layout, records) ||
+      !table->Reload(input, include, ReadingOf(input, statement), progress_)) {
     table.emplace(layout, records, RoomFor(layout, records, limits_), limits_.BlockBytes, workers);
     table->Load(input, include, progress_);
     table->Sort();
   }
   const std::int64_t written =
       table->AtEnd() ? table->WriteOutput(aside) : WriteThroughRuns(*table, include, input, aside, workers);
-  if (workers) {
-    SyncReadingAhead(aside, input, *table, *weights, next);
-  } else {
-    aside.Sync();
-  }
+  SyncReadingAhead(aside, input, *table, *weights, workers ? next : "");
   if (table->HoldsAll()) last_ = std::move(table);
   return {Status::Done, static_cast<std::int32_t>(written)};
 }
@@ -171,7 +168,7 @@ Result Operation::Run(std::string_view statement, std::string_view next) {
 
 Result Sorter::Sort(std::string_view input, std::string_view output, std::string_view statement,
                     std::string_view next) {
-  return Operation(disk_, input, output, limits_, workers_, last_, begun_, Progress).Run(statement, next);
+  return Operation(disk_, input, output, limits_, workers_, last_, Progress).Run(statement, next);
 }
 
 }  // namespace sort

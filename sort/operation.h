@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "runtime/disk.h"
@@ -39,14 +38,6 @@ struct Limits {
   std::size_t BlockBytes = std::size_t{512} * 1024;
 };
 
-// A sort whose reading has begun.
-struct BegunSort {
-  std::string Statement;
-  runtime::FileIdentity Input;
-  runtime::FileTime Modified;
-  bool operator==(const BegunSort&) const = default;
-};
-
 // Runs sorts one after the other. If only Include differs from the sort before, unchanged records keep their order; the
 // whole input is read all the same.
 class Sorter {
@@ -68,7 +59,6 @@ class Sorter {
   Limits limits_;
   Workers workers_;
   std::optional<Table> last_;
-  std::optional<BegunSort> begun_;
 };
 
 }  // namespace sort

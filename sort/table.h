@@ -10,15 +10,26 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <string>
 
 #include "runtime/whole_io.h"
-#include "sort/blocks.h"
 #include "sort/include.h"
 #include "sort/items.h"
 #include "sort/layout.h"
 #include "sort/workers.h"
 
 namespace sort {
+
+// Gets the part of the input that has been read, from 0 to 1.
+using Progress = std::function<void(double done)>;
+
+// One reading of the input: which file, as of which time, and for which statement.
+struct Reading {
+  runtime::FileIdentity Input;
+  runtime::FileTime Modified;
+  std::string Statement;
+  bool operator==(const Reading&) const = default;
+};
 
 class Table {
  public:
@@ -33,19 +44,21 @@ class Table {
   // In the input.
   std::int64_t Records() const { return records_; }
   // Whether there is room for all records, and whether all have been loaded.
-  bool HoldsAll() const { return holds_all_; }
-  bool AtEnd() const { return parts_[0].Next == parts_[0].End && parts_[1].Next == parts_[1].End; }
-  // Replaces the present records by the next ones of the input; without room for all, only included ones are loaded.
+  bool HoldsAll() const { return room_ >= records_; }
+  bool AtEnd() const { return end_ == records_; }
+  // Replaces the present records by the next ones of the input.
   void Load(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
   // Call once after each load.
   void Sort();
 
   // Whether a sort with that layout and record count could take over this table.
   bool Suits(const Layout& layout, std::int64_t records) const;
-  // Rereads all records and applies the new test; false if one has changed. Resume: after ReadAhead with that test.
-  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress, bool resume);
-  // Begins to reread for the test of the next sort; returns at the end of the input, or soon after the stop.
-  void ReadAhead(const runtime::OpenFile& input, const IncludeFilter& next, const std::atomic<bool>& stop);
+  // Rereads all records but those that ReadAhead has reread, and applies the new test; false if one has changed.
+  bool Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Reading& reading,
+              const Progress& progress);
+  // Begins a reload; returns at the end of the input, or soon after the stop.
+  void ReadAhead(const runtime::OpenFile& input, const IncludeFilter& include, const Reading& reading,
+                 const std::atomic<bool>& stop);
 
   // Write the included records in order and return their count: as the output's first records, or as entries from
   // entry `first` on.
@@ -55,35 +68,32 @@ class Table {
   }
 
  private:
-  // Of one worker: records Next to End (exclusive) are still to be loaded; its entries are at Begin and after.
-  struct Part {
-    std::int64_t Next, End;
-    std::size_t Begin, Room, Loaded;
-  };
-
   std::span<char> Block(int worker);
-  std::span<Item> Loaded(int worker);
-  void LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, const Progress* progress, int worker);
+  std::span<Item> Loaded() { return {items_.get(), static_cast<std::size_t>(end_ - first_)}; }
+  // Without room for all, excluded records are not sorted.
+  bool Sorts(const Item& item) const { return HoldsAll() || included_[item.Entry] != 0; }
+  template <typename Use>
+  bool ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, std::int64_t to, const Progress& progress,
+                     const std::atomic<bool>& stop, Use&& use);
   void Reread(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
               const std::atomic<bool>& stop);
-  bool RereadBlock(const runtime::OpenFile& input, const IncludeFilter& include, std::int64_t first, int worker);
   std::uint64_t MiddleWindow();
-  std::size_t CountBelow(std::uint64_t window);
-  void SortHalves();
+  void Divide();
   void PickIncluded();
   std::int64_t Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first);
 
   Layout layout_;
-  std::int64_t records_;
-  bool holds_all_;
+  std::int64_t records_, room_;
   Workers* workers_;
-  std::array<Part, 2> parts_;
   std::size_t block_length_;
   std::unique_ptr<char[]> blocks_, entries_;
   std::unique_ptr<unsigned char[]> included_;  // 1 or 0 for each entry
   std::unique_ptr<Item[]> items_, scratch_;
-  std::int64_t reread_ = 0;  // records
-  bool unchanged_ = true;    // none of them has changed
+  std::int64_t first_ = 0, end_ = 0;  // the records that are in the table, end exclusive
+  // The reading that ReadAhead began, how many records it has compared, and whether all are as they were.
+  Reading ahead_;
+  std::int64_t reread_ = 0;
+  bool unchanged_ = true;
   // By half: the sorted items, a buffer of the same length, and the included items.
   std::array<std::span<Item>, 2> sorted_{}, free_{}, picked_{};
 };

@@ -7,4 +7,8 @@ std::string StatementOf(const SortPass& pass) {
   return statement.append(pass.IncludeTest).append("\"").append(pass.IncludeValue).append("\"").append(pass.Tail);
 }
 
+std::string StatementAfter(const SortPass& pass) {
+  return &pass == &SortPasses.back() ? "" : StatementOf(*(&pass + 1));
+}
+
 }  // namespace store

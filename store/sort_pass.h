@@ -30,5 +30,7 @@ inline constexpr std::array<SortPass, 4> SortPasses = {{
 inline constexpr std::string_view WeightsFile = "UPPER.ALT";
 
 std::string StatementOf(const SortPass& pass);
+// The statement of the pass that follows this one of SortPasses; "" after the last.
+std::string StatementAfter(const SortPass& pass);
 
 }  // namespace store

@@ -53,8 +53,8 @@ sort::Weights AnyWeights(fuzz::Input& input) {
 }
 
 void SortAndCompare(sort::Sorter& sorter, const fuzz::PlainDisk& disk, const sort::Statement& statement,
-                    const sort::Weights& weights) {
-  const sort::Result result = sorter.Sort("in", "out", sort::Written(statement));
+                    const sort::Weights& weights, std::string_view next = "") {
+  const sort::Result result = sorter.Sort("in", "out", sort::Written(statement), next);
   fuzz::Require(result.Status == sort::Status::Done, "the sort is done");
   const sort::Sorted sorted =
       sort::PlainlySorted(statement, statement.WeightsFile ? weights : sort::PlainWeights(), disk.Content("in"));
@@ -73,18 +73,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // Small, so that it costs little and records lie on the ends of blocks.
   limits.BlockBytes = 1 + memory % 256;
   if (input.Byte() == 255) limits.TwoWorkersFrom = 0;
-  sort::Statement statement = AnyStatement(input);
+  const sort::Statement statement = AnyStatement(input);
   const sort::Weights weights = AnyWeights(input);
   const std::size_t changed = input.Below(1 << 16);
   std::string records(input.Rest());
   fuzz::PlainDisk disk({{"in", records}, {"weights", {weights.begin(), weights.end()}}});
   sort::Sorter sorter(disk, limits);
-  SortAndCompare(sorter, disk, statement, weights);
-  statement.Include.reset();
-  SortAndCompare(sorter, disk, statement, weights);
+  sort::Statement all = statement;
+  all.Include.reset();
+  SortAndCompare(sorter, disk, statement, weights, sort::Written(all));
+  SortAndCompare(sorter, disk, all, weights);
   if (records.empty()) return 0;
   const runtime::OpenFile file(disk, "in", runtime::Disk::Mode::ReadWrite);
   file.Write("x", static_cast<std::int64_t>(changed % records.size()));
-  SortAndCompare(sorter, disk, statement, weights);
+  SortAndCompare(sorter, disk, all, weights);
   return 0;
 }

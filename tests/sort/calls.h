@@ -17,9 +17,9 @@ inline constexpr std::string_view TitlesStatement =
 
 Result SortOn(runtime::Disk& disk, std::string_view output, std::string_view statement, const Limits& limits = {});
 // One of several sorts of the same sorter.
-Result SortWith(Sorter& sorter, std::string_view output, std::string_view statement);
+Result SortWith(Sorter& sorter, std::string_view output, std::string_view statement, std::string_view next = "");
 
-// The statement of a pass, in the order of the reference's pairs.
+// The statement of a pass, in the order of the reference's pairs; "" after the last.
 std::string StatementOfPass(std::size_t pass);
 
 // The delivered weights.
@@ -32,7 +32,7 @@ std::string FileOn(const kit::MemoryDisk& disk, const std::string& name);
 // The names of the files in the safety folder, each with a blank after it.
 std::string Leftovers(const kit::MemoryDisk& disk);
 
-// Safe for reads and writes of two threads.
+// Safe for reads, writes and syncs of several threads.
 class SharedDisk final : public kit::PassingDisk {
  public:
   using PassingDisk::PassingDisk;
@@ -44,12 +44,17 @@ class SharedDisk final : public kit::PassingDisk {
     std::scoped_lock lock(mutex_);
     return PassingDisk::WriteAt(handle, source, count, offset);
   }
+  int Sync(int handle) override {
+    std::scoped_lock lock(mutex_);
+    return PassingDisk::Sync(handle);
+  }
 
  private:
   std::mutex mutex_;
 };
 
-// Checks the four passes with these limits against the reference: each with a sorter of its own, then all with one.
+// Checks the four passes with these limits against the reference: each with a sorter of its own, all with one, and all
+// with one that is told the next.
 void ExpectAsReference(const std::string& master, const Limits& limits);
 
 }  // namespace sort
