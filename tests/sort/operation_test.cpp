@@ -314,7 +314,8 @@ TEST(SortOperation, TellsHowMuchOfTheInputItHasRead) {
     for (std::size_t pass : {0U, 1U}) {
       parts.clear();
       EXPECT_EQ(SortWith(sorter, "Titlepra.Dat", StatementOfPass(pass)).Status, Status::Done);
-      ASSERT_GE(parts.size(), 2U);
+      // Of two workers the other one may take all blocks, and then only the end is told.
+      ASSERT_GE(parts.size(), two_workers_from == 1 ? 1U : 2U);
       EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
       EXPECT_GT(parts.front(), 0);
       EXPECT_EQ(parts.back(), 1);
