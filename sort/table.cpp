@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "runtime/large_array.h"
 #include "sort/blocks.h"
+#include "sort/divide.h"
 
 namespace sort {
 namespace {
@@ -112,64 +112,22 @@ void Table::Reread(const runtime::OpenFile& input, const IncludeFilter& include,
 }
 
 void Table::Sort() {
+  const std::span<Item> loaded = Loaded();
+  // Without room for all, excluded records are not sorted.
+  const unsigned char* included = HoldsAll() ? nullptr : included_.get();
   sorted_ = {};
   free_ = {};
   if (workers_) {
-    Divide();
+    sorted_ = Divide(loaded, included, scratch_.get(), *workers_);
+    free_ = {loaded.first(sorted_[0].size()), loaded.subspan(sorted_[0].size(), sorted_[1].size())};
   } else {
-    const std::span<Item> loaded = Loaded();
-    Item* end =
-        std::remove_if(loaded.data(), loaded.data() + loaded.size(), [&](const Item& item) { return !Sorts(item); });
-    sorted_[0] = {loaded.data(), end};
+    const auto end =
+        std::remove_if(loaded.begin(), loaded.end(), [&](const Item& item) { return !Sorts(item, included); });
+    sorted_[0] = {loaded.begin(), end};
     free_[0] = {scratch_.get(), sorted_[0].size()};
   }
   RunHalves(workers_, [&](int half) {
     if (!sorted_.at(half).empty()) ItemSorter(layout_, entries_.get()).Sort(sorted_.at(half), free_.at(half));
-  });
-}
-
-// Estimated from a sample. Any value is correct; a good one balances the halves.
-std::uint64_t Table::MiddleWindow() {
-  constexpr std::size_t SampleSize = 512;
-  const std::span<const Item> items = Loaded();
-  std::vector<std::uint64_t> sample;
-  const std::size_t step = items.size() / SampleSize + 1;
-  for (std::size_t at = 0; at < items.size(); at += step) {
-    if (Sorts(items[at])) sample.push_back(items[at].Window());
-  }
-  if (sample.empty()) return 0;
-  auto middle = sample.begin() + static_cast<std::ptrdiff_t>(sample.size() / 2);
-  std::nth_element(sample.begin(), middle, sample.end());
-  return *middle;
-}
-
-// Gives each worker a half of the items to sort: those below a middle window, and the rest.
-void Table::Divide() {
-  const std::span<const Item> items = Loaded();
-  const std::uint64_t middle = MiddleWindow();
-  std::array<std::array<std::size_t, 2>, 2> counts{};  // by worker: the items below, and the rest
-  RunHalves(workers_, [&](int worker) {
-    const std::size_t half = items.size() / 2;
-    std::size_t below = 0;
-    std::size_t all = 0;
-    for (const Item& item : worker == 0 ? items.first(half) : items.subspan(half)) {
-      const bool sorts = Sorts(item);
-      below += sorts && item.Window() < middle ? 1 : 0;
-      all += sorts ? 1 : 0;
-    }
-    counts.at(worker) = {below, all - below};
-  });
-  const std::size_t lower = counts[0][0] + counts[1][0];
-  const std::size_t upper = counts[0][1] + counts[1][1];
-  // Branch-free partition: it may write one item past each half, hence the gap.
-  sorted_ = {std::span(scratch_.get(), lower), std::span(scratch_.get() + lower + 1, upper)};
-  free_ = {std::span(items_.get(), lower), std::span(items_.get() + lower, upper)};
-  RunHalves(workers_, [&](int half) {
-    Item* target = sorted_.at(half).data();
-    for (const Item& item : items) {
-      *target = item;
-      target += Sorts(item) && (item.Window() < middle) == (half == 0) ? 1 : 0;
-    }
   });
 }
 

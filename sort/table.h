@@ -70,15 +70,11 @@ class Table {
  private:
   std::span<char> Block(int worker);
   std::span<Item> Loaded() { return {items_.get(), static_cast<std::size_t>(end_ - first_)}; }
-  // Without room for all, excluded records are not sorted.
-  bool Sorts(const Item& item) const { return HoldsAll() || included_[item.Entry] != 0; }
   template <typename Use>
   bool ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, std::int64_t to, const Progress& progress,
                      const std::atomic<bool>& stop, Use&& use);
   void Reread(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
               const std::atomic<bool>& stop);
-  std::uint64_t MiddleWindow();
-  void Divide();
   void PickIncluded();
   std::int64_t Write(const runtime::OpenFile& file, std::size_t length, std::int64_t first);
 
