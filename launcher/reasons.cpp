@@ -14,8 +14,7 @@ struct Reason {
   std::string_view Text;
 };
 
-constexpr std::string_view NotAllowed =
-    "You have no permission to write there. Give your user account that permission.";
+constexpr std::string_view NotAllowed = "Your user account has no permission for that. Give it that permission.";
 
 // The first row that fits is taken.
 // clang-format off

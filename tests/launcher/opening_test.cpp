@@ -253,7 +253,7 @@ TEST_F(Opening, AHomeThatCannotBeWrittenIsNamed) {
   fs::permissions(Home, fs::perms::owner_all);
   ASSERT_TRUE(opened);
   EXPECT_EQ(opened->Folder, Machine.Path() / "open/films");
-  ExpectTold("You have no permission to write there.");
+  ExpectTold("Your user account has no permission for that.");
   EXPECT_EQ(opened->Notice.find("This collection is not remembered in " + Where.Settings), 0U) << opened->Notice;
   EXPECT_TRUE(fs::is_empty(Home));
 }
