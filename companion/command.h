@@ -9,7 +9,7 @@
 namespace companion {
 
 // Arguments: without the program name. Delivered: the folder of the files that are delivered with the program; "" if it
-// is not there. Returns the exit status; a Failure of the verb is told and is Found.
+// is not there. Returns the exit status; reports a Failure of the verb and returns Found.
 int RunCommand(const std::vector<std::string>& arguments, Output& output, const DiskIn& make_disk = RealDiskIn,
                const std::string& delivered = "");
 

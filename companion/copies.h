@@ -1,5 +1,5 @@
 // Copies of a whole collection: a folder that is a collection itself, or a zip of its files. The copies that the
-// command reelora makes before each start are of the films alone, in the same folder `backups`.
+// command reelora makes before each start contain the films only; they are in the same folder, `backups`.
 #pragma once
 
 #include <chrono>
@@ -16,9 +16,9 @@ namespace companion {
 // Larger collections are refused: a copy is held in memory.
 inline constexpr std::size_t LargestCopy = std::size_t{512} * 1024 * 1024;
 
-// Whether a copy has such a file.
+// Whether a copy includes a file of that name.
 bool BelongsToCollection(std::string_view name);
-// Those files of a folder. Nothing if they are larger than LargestCopy.
+// Reads those files of a folder. Nothing if they are larger than LargestCopy.
 std::optional<FilesByName> ReadCollection(runtime::Disk& disk);
 
 // The folder of the copies.
@@ -30,7 +30,7 @@ struct NamedCopy {
   CopyKind Kind = CopyKind::Films;
   std::chrono::local_seconds When;
 };
-// Of a name of the folder; nothing for what is no copy.
+// The copy that has that name in the folder; nothing if it is not the name of a copy.
 std::optional<NamedCopy> CopyOfName(const std::string& name);
 // The oldest first.
 std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
@@ -40,8 +40,8 @@ std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
 std::optional<std::string> WriteCopy(const DiskIn& make_disk, const std::string& folder, const FilesByName& files,
                                      CopyKind kind);
 
-// The files of a copy, or of another collection: the name of one in the collection's folder of copies, or the path of a
-// folder, a zip or a file of films. Nothing if there is none that can be read.
+// The files of a copy or of another collection. Name: of a copy in the collection's folder of copies, or the path of a
+// folder, a zip or a file of films. Nothing if it cannot be read.
 std::optional<FilesByName> ReadOther(const Invocation& invocation, const std::string& name);
 
 }  // namespace companion

@@ -14,11 +14,11 @@ namespace companion {
 std::vector<store::FilmField> DifferingFields(const store::FilmRecord& left, const store::FilmRecord& right);
 // A line "Field  left -> right" for each of them.
 void PrintDifferences(const store::FilmRecord& left, const store::FilmRecord& right, std::ostream& text);
-// Members of the names left_name and right_name for each of them, in a list "differences" of the open object.
+// For each of them, members named left_name and right_name, in a list "differences" of the open object.
 void AddDifferences(const store::FilmRecord& left, std::string_view left_name, const store::FilmRecord& right,
                     std::string_view right_name, Json& json);
 
-// The field without the blanks after it, every character kept, in UTF-8.
+// The field in UTF-8, without trailing blanks; every other character is kept.
 std::string FieldText(const store::FilmRecord& film, store::FilmField field);
 
 }  // namespace companion

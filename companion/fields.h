@@ -1,4 +1,4 @@
-// Words of the command line that name fields of a film.
+// Words on the command line that name fields of a film.
 #pragma once
 
 #include <cstdint>
@@ -22,16 +22,16 @@ struct FieldName {
 
 // Ignoring case: the names of the record, "number", and "star" for all six. Nothing if there is no such field.
 std::optional<FieldName> FindField(std::string_view name);
-// Names with commas between; nothing if one is unknown, which `unknown` is then.
+// Names separated by commas. Nothing if one of them is no field; `unknown` then has its name.
 std::optional<std::vector<FieldName>> FindFields(std::string_view list, std::string& unknown);
 // The number and all fields.
 std::vector<FieldName> AllFields();
-// The whole record but its line end.
+// The whole record except its line end.
 FieldName AnyField();
 
-// The bytes of one field without the blanks around it.
+// The bytes of one field without surrounding blanks.
 std::string_view Content(const store::FilmRecord& film, store::FilmField field);
-// The same of a name; several fields with commas between, blank ones left out.
+// The same for a name; several fields are separated by commas, blank ones left out.
 std::string ContentOf(const NumberedFilm& film, const FieldName& name);
 
 // The text as a number, digits only.

@@ -1,4 +1,4 @@
-// What is out of order in single films.
+// What is wrong in single films.
 #pragma once
 
 #include <map>
@@ -14,14 +14,14 @@ class FilmChecks {
  public:
   // Weights: of the sort. Findings: where each is added.
   FilmChecks(const sort::Weights& weights, Findings& findings);
-  // In the order of the records; free ones too.
+  // Call it in the order of the records, for free ones too.
   void Look(const NumberedFilm& film);
 
  private:
   void LookAtFree(const NumberedFilm& film);
   void LookAtTitle(const NumberedFilm& film);
   void LookAtDouble(const NumberedFilm& film);
-  // Takes the control characters out of clean.
+  // Removes the control characters from clean.
   void LookAtBytes(const NumberedFilm& film, store::FilmField field, store::FilmRecord& clean);
 
   const sort::IncludeFilter is_sorted_;

@@ -1,4 +1,4 @@
-// What `check` finds: where, what is wrong, what to do, and how it can be mended.
+// What `check` finds: where, what is wrong, what to do, and how it can be fixed.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace companion {
 
-// What a field of a film, or the line of a setting, is to hold; it needs no judgement.
+// What a field of a film, or the line of a setting, should contain if that needs no judgement.
 struct Mend {
   store::FilmField Field = store::FilmField::Title;  // of a film
   std::string Bytes;

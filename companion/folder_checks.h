@@ -1,4 +1,4 @@
-// What is out of order in the files of a collection, apart from the films.
+// What is wrong in the files of a collection, apart from the films.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,7 @@
 
 namespace companion {
 
-// The weights of the sort; those of the bytes themselves, and a finding, if the file is missing or of another length.
+// The weights of the sort. If the file is missing or has another length: the values of the bytes, and a finding.
 sort::Weights ReadWeights(runtime::Disk& disk, Findings& findings);
 // The length of the master file.
 void CheckLength(const Reading& reading, Findings& findings);

@@ -11,12 +11,12 @@ namespace companion {
 class Json {
  public:
   explicit Json(std::ostream& text) : text_(text) {}
-  // Ends what is still open, and the line.
+  // Closes what is still open and ends the line.
   ~Json();
   Json(const Json&) = delete;
   Json& operator=(const Json&) = delete;
 
-  // A list or an object: a member of that name in an object, without one elsewhere.
+  // Opens a list or an object: a member of that name in an object; elsewhere it has no name.
   void BeginList(std::string_view name = {});
   void BeginObject(std::string_view name = {});
   void End();

@@ -11,14 +11,14 @@ namespace companion {
 bool HasMasterFile(runtime::Disk& disk);
 
 // Whether a folder without a master file may become a collection: it is empty or has other files of a collection. If
-// not, that is told.
+// not, it says so.
 bool MayBecomeCollection(const Invocation& invocation, Output& output);
 
-// Puts the delivered files into the folder and makes the master file. False if there are none, which is told. The lock
-// of the collection is the caller's.
+// Puts the delivered files into the folder and makes the master file. If there are none, it says so and returns false.
+// The caller holds the lock of the collection.
 bool MakeCollection(runtime::Disk& disk, const Invocation& invocation, Output& output);
 
-// The folder's name without dots and links, as far as it can be told.
+// The folder's path without dots and links; as given if the system cannot resolve it.
 std::string WholeName(const std::string& folder);
 
 }  // namespace companion

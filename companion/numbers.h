@@ -1,4 +1,4 @@
-// Numbers of the command line.
+// Numbers on the command line.
 #pragma once
 
 #include <charconv>

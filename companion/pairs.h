@@ -16,14 +16,14 @@ struct FilmPair {
   bool IsSame() const;
 };
 
-// The films of the bytes of a master file, free records left out.
+// The films in the bytes of a master file, free records left out.
 std::vector<NumberedFilm> FilmsIn(std::string_view master);
 
-// Whether films of one record, director and year belong together though their titles differ.
+// Whether films with the same record number, director and year belong together although their titles differ.
 enum class NewTitles { Paired, Apart };
 
-// Pairs the films of one record that have the same title, then those that have the same title and year, then those with
-// a new title. In the order of here, what is only there at the end.
+// Pairs films with the same record number and title, then those with the same title and year, then those with a new
+// title. In the order of `here`; films that are only in `there` come last.
 std::vector<FilmPair> Paired(const std::vector<NumberedFilm>& here, const std::vector<NumberedFilm>& there,
                              NewTitles new_titles);
 

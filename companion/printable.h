@@ -1,4 +1,4 @@
-// Texts of the files, in Windows-1252, as UTF-8 that steers no terminal.
+// Texts from the files, in Windows-1252, as UTF-8 that cannot steer a terminal.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace companion {
 
 // Control characters become question marks.
 std::string Printable(std::string_view text);
-// Without the blanks around it; "nothing" for a free slot.
+// Without surrounding blanks; "nothing" for a free slot.
 std::string TitleOf(const store::FilmRecord& film);
 // For tab-separated values: every character stays, but a control character becomes \t, \n, \r or \xHH, and \ becomes
 // \\.

@@ -13,7 +13,7 @@ class Questions {
   // all: yes to every one, without asking.
   Questions(Output& output, bool all) : output_(output), all_(all) {}
 
-  // Asks again after another letter; the end of the answers is no to all.
+  // Asks again after any other letter; the end of input means no to all.
   bool Agreed(std::string_view question);
 
  private:

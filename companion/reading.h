@@ -1,4 +1,4 @@
-// The films of a collection, read only: nothing is locked, recovered or made.
+// The films of a collection, read-only: nothing is locked, recovered or created.
 #pragma once
 
 #include <cstdint>
@@ -37,8 +37,8 @@ class Reading {
   std::int64_t Slots() const;
   // Blanks past the end.
   store::FilmRecord At(std::int64_t slot) const;
-  // Visits every record in order, free ones too. Beyond MaxSlots none is visited and false is returned: no collector
-  // has so many films, and a damaged file may claim any length.
+  // Visits every record in order, free ones too. If there are more than MaxSlots, visits none and returns false: no
+  // collector has so many films, and a damaged file may claim any length.
   bool EachSlot(const std::function<void(const NumberedFilm&)>& visit) const;
 
   static constexpr std::int64_t MaxSlots = 1'000'000;

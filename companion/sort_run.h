@@ -16,11 +16,11 @@ struct SortedFile {
 };
 
 // Makes the four key files and the four count files, byte for byte as the program does. A pass that fails leaves both
-// of its files as they were, and the next one runs; the program would write a count. Numbers 1 to 3 are free; the lock
-// of the collection is the caller's.
+// of its files as they were, and the next one runs; the program would write a count. File numbers 1 to 3 must be free;
+// the caller holds the lock of the collection.
 std::vector<SortedFile> SortCollection(runtime::Files& files, Output& output);
 
-// A line for each; returns Found if one failed.
+// Prints a line for each; returns Found if one failed.
 int PrintSorted(const std::vector<SortedFile>& sorted, Output& output);
 
 }  // namespace companion

@@ -12,7 +12,7 @@ struct Column {
   bool Right = false;  // aligned, for numbers
 };
 
-// Cells are UTF-8 without control characters. Columns: of the terminal; the widest cells are cut until a row fits.
+// Cells are UTF-8 without control characters. The widest cells are cut until a row fits the terminal.
 void PrintTable(const std::vector<Column>& columns, const std::vector<std::vector<std::string>>& rows,
                 std::size_t terminal_columns, std::ostream& text);
 void PrintTabs(const std::vector<Column>& columns, const std::vector<std::vector<std::string>>& rows,

@@ -1,5 +1,5 @@
-// What a verb of `reelora-collection` gets and gives: the command line as parsed, and streams in place of a terminal,
-// so that tests run verbs in process. All texts are UTF-8.
+// What a verb of `reelora-collection` receives and returns: the command line as parsed, and streams in place of a
+// terminal, so that tests run verbs in process. All texts are UTF-8.
 #pragma once
 
 #include <functional>
@@ -22,7 +22,7 @@ inline constexpr int Done = 0;
 inline constexpr int Found = 1;
 inline constexpr int Usage = 2;
 
-// Makes the disk of a folder; tests have others.
+// Makes the disk of a folder; tests supply their own.
 using DiskIn = std::function<std::unique_ptr<runtime::Disk>(const std::string& folder)>;
 std::unique_ptr<runtime::Disk> RealDiskIn(const std::string& folder);
 
@@ -53,7 +53,7 @@ struct Invocation {
 struct Option {
   const char* Name;      // --NAME
   char Letter;           // -L; 0 if it has none
-  const char* Argument;  // the word of the help for what follows it; nullptr if nothing does
+  const char* Argument;  // how the help names its value; nullptr if it takes none
   const char* Help;
 };
 
