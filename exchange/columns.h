@@ -1,5 +1,5 @@
 // Which column of a foreign file goes into which field: by the field's name, by the names that catalogues commonly use,
-// or as told.
+// or as the user says.
 #pragma once
 
 #include <optional>
@@ -26,7 +26,7 @@ struct ColumnMap {
 // leaves the column out. Nothing if there is no such field.
 std::optional<ColumnMap> ParseColumnMap(std::string_view text);
 
-// As the maps say, else as the name says; letters, digits and case matter, nothing else.
+// As the maps say, else as the name says. Case is ignored, and so are blanks and other marks of ASCII.
 Target TargetOf(std::string_view column, const std::vector<ColumnMap>& maps);
 
 // "Title", "Stars", "Record", "" for nothing.

@@ -20,7 +20,7 @@ struct Note {
 
 struct ReadFilm {
   std::int64_t Number = 0;  // of its record in the file; 0 if it has none
-  // Of an export of this program: stored as it is, odd bytes and line end too. Otherwise as a save would store it.
+  // From an export of this program: stored as it is, including odd bytes and line end. Otherwise as a save would do it.
   bool Exact = false;
   store::FilmRecord Film;
   std::bitset<store::FilmFields.size()> Given;  // the fields that the row has a text for
@@ -31,7 +31,7 @@ class FilmMaker {
  public:
   FilmMaker(std::vector<ColumnMap> maps, Unstorable as) : maps_(std::move(maps)), as_(as) {}
 
-  // A film without a title is none; its title is then blank.
+  // A row without a title is not a film; the title is then blank.
   ReadFilm Make(const Rows& row);
   // Of the columns so far, in their order.
   const std::vector<Target>& Targets() const { return targets_; }
@@ -39,7 +39,7 @@ class FilmMaker {
  private:
   void SetField(ReadFilm& film, store::FilmField field, std::string_view utf8);
   void SetStars(ReadFilm& film, std::string_view utf8);
-  // The bytes of a text; tells the characters that have none.
+  // The bytes of a text; adds a note of the characters that have none.
   std::string Bytes(ReadFilm& film, store::FilmField field, std::string_view utf8);
 
   std::vector<ColumnMap> maps_;

@@ -17,13 +17,13 @@ using Films = std::function<void(const Visit& visit)>;
 
 bool HasTitle(const store::FilmRecord& film);
 
-// Those of the master file: its slots that have a title. A last one that the file ends in is padded with blanks. The
-// disk must outlive it. Running it throws the Failure of the file, "File not found" too.
+// Those of the master file: its slots that have a title. A last one that is cut off is padded with blanks. The disk
+// must outlive the result. Calling it throws the Failure of the file, "File not found" included.
 Films FilmsOf(runtime::Disk& disk);
-// Every slot, the free ones too; none if there is no master file.
+// Every slot, including the free ones; none if there is no master file.
 std::vector<store::FilmRecord> ReadSlots(runtime::Disk& disk);
 
-// Red, green and blue, of the settings of the collection.
+// From the settings of the collection, as red, green and blue.
 struct Colours {
   std::uint32_t Background = 0x0000FF;
   std::uint32_t Box = 0xFFFFFF;

@@ -15,7 +15,8 @@ void WriteRec(const Collection& collection, const ByteSink& sink);
 void WriteTellico(const Collection& collection, const ByteSink& sink);
 void WriteHtml(const Collection& collection, const ByteSink& sink);
 
-// Each row goes to `rows`, until the end, a fault or the end that rows wants. Memory is bounded, whatever the file is.
+// Each row goes to `rows`, until the end, a fault, or `rows` asks to stop. Memory is bounded, whatever the file
+// contains.
 Fault ReadCsv(const ByteSource& source, Rows& rows);
 Fault ReadJson(const ByteSource& source, Rows& rows);
 Fault ReadRec(const ByteSource& source, Rows& rows);

@@ -40,14 +40,14 @@ struct FilmsOfFile {
   std::vector<Target> Targets;  // of the columns
 };
 
-// What was read before a fault is of no use. More films than a collection can have are a fault.
+// After a fault, do not use what was read. More films than a collection can have are a fault.
 Fault ReadFilms(const ByteSource& source, const Format& format, FilmMaker maker, FilmsOfFile& films);
 
-// The format of a file by its name; nullptr if that tells none that can be read.
+// The format of a file by its name; nullptr if it names none that can be read.
 const Format* GuessImportFormat(std::string_view path);
 
-// Writes the films to add and to update through the journal, in their order; told after each how many are done. Number
-// 1 has the master file open. The lock of the collection is the caller's.
+// Writes the films to add and to update through the journal, in their order; `progress` gets the count after each. File
+// number 1 must have the master file open. The caller holds the lock of the collection.
 void ApplyImport(runtime::Files& files, const std::vector<Step>& steps,
                  const std::function<void(std::int64_t done)>& progress);
 

@@ -1,4 +1,4 @@
-// The parts of the HTML page, as the build takes them from the files in page/.
+// The parts of the HTML page, which the build embeds from the files in page/.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// What every reader makes of a file: rows of cells under named columns, one row at a time, so that the length of the
+// What every reader turns a file into: rows of cells under named columns, one row at a time, so that the length of the
 // file costs no memory.
 #pragma once
 
@@ -12,7 +12,7 @@
 
 namespace exchange {
 
-// Reads into the target and returns how much; 0 at the end.
+// Reads into the target and returns the number of bytes; 0 at the end.
 using ByteSource = std::function<std::size_t(char* target, std::size_t count)>;
 using ByteSink = std::function<void(std::string_view bytes)>;
 
@@ -29,7 +29,7 @@ inline constexpr std::string_view TooManyColumns = "more than 1,000 columns";
 inline constexpr std::string_view TooLong = "a value of more than a megabyte";
 inline constexpr std::string_view TooDeep = "more than 64 levels";
 
-// The column of the record number; the others of an own file have the names of the fields.
+// The column of the record number; in a file of this program the others have the names of the fields.
 inline constexpr std::string_view RecordColumn = "Record";
 
 class Rows {

@@ -1,4 +1,4 @@
-// What a collection is made of: films by format, genre and decade, and what they cost.
+// What a collection consists of: films by format, genre and decade, and what they cost.
 #pragma once
 
 #include <cstdint>
