@@ -5,8 +5,8 @@
 
 namespace launcher {
 
-// What to tell if this user may not open a folder that has an absolute path: whole sentences, in UTF-8. "" if nothing
-// on the way to it is closed, whether it exists or not.
+// What to say if this user may not open the folder, an absolute path: whole sentences, in UTF-8. "" if nothing on the
+// way to it is closed, whether it exists or not.
 std::string WhyClosed(const std::string& folder);
 
 }  // namespace launcher

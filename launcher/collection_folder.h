@@ -7,7 +7,7 @@ namespace launcher {
 
 // A folder with the master file, the safety folder or the weights of the sort; the films may still be missing.
 bool IsCollection(const std::string& folder);
-// False if that cannot be seen, too.
+// Also false if the folder cannot be read.
 bool IsEmpty(const std::string& folder);
 
 }  // namespace launcher

@@ -11,16 +11,16 @@
 
 namespace launcher {
 
-// In the collection.
+// A folder of the collection.
 inline constexpr std::string_view CopiesFolder = "backups";
 
 // "Recpra 2026-11-22 05-31-34.Dat"; local time.
 std::string NameOfCopy(std::chrono::local_seconds when);
-// Nothing for a file that is no copy.
+// Nothing for a file that is not a copy.
 std::optional<std::chrono::local_seconds> TimeOfCopy(std::string_view name);
 
-// Which copies to remove. The last ten stay, of the month before now the newest of each day, and of the year before now
-// the newest of each month. Names that are no copies are never among them.
+// Which copies to remove. The last ten stay, the newest of each day of the month before now, and the newest of each
+// month of the year before now. Names that are not copies are never among them.
 std::vector<std::string> Superseded(const std::vector<std::string>& names, std::chrono::local_seconds now);
 
 // Whether there is a master file that is not empty.

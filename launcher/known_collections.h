@@ -1,4 +1,4 @@
-// The settings file of `reelora`: which collections were open, and where copies go besides.
+// The settings file of `reelora`: which collections were open, and where second copies go.
 #pragma once
 
 #include <string>
@@ -23,7 +23,7 @@ inline constexpr std::size_t MostFolders = 10;
 
 // A missing file is an empty one. Throws the Failure of a file that cannot be read.
 KnownCollections ReadKnown(runtime::Disk& settings);
-// Writes the file aside and renames it. Throws the Failure that names what went wrong; the old file stays then.
+// Writes a temporary file and renames it. Throws the Failure that names what went wrong; the old file then stays.
 void WriteKnown(runtime::Disk& settings, const KnownCollections& known);
 
 // Puts the folder first.

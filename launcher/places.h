@@ -7,7 +7,7 @@
 
 namespace launcher {
 
-// Absolute paths; "" for what there is not.
+// Absolute paths; "" if there is none.
 struct Places {
   std::string Home;
   std::string Settings;   // the folder of the settings file
@@ -16,21 +16,20 @@ struct Places {
   std::string Program;    // reelora-prima
 };
 
-// The path of the running program, links resolved. Name: the word of the command line, which counts if the system does
-// not tell.
+// The path of the running program, links resolved. Name: the word on the command line, used if the system does not
+// tell.
 std::string ThisProgram(const std::string& name);
 
-// Where the files are that are delivered with the program of that path; "" if they are not there.
+// Where the files delivered with the program at that path are; "" if they are not there.
 std::string DeliveredFiles(const std::string& executable);
 
 // The value of an environment variable, "" if it is not set.
 using Variable = std::function<std::string(std::string_view name)>;
 
-// Executable: the path of this program. AccountHome: the home folder of the user's account, which
-// counts where HOME is not set.
+// Executable: the path of this program. AccountHome: the home folder of the user's account, used if HOME is not set.
 Places FindPlaces(const std::string& executable, const Variable& variable, const std::string& account_home);
 
-// Where a first collection lies if the user wants no other place; "" without a home.
+// Where a first collection goes if the user wants no other place; "" without a home.
 std::string SuggestedCollection(const Places& places);
 
 }  // namespace launcher

@@ -26,13 +26,13 @@ class Preparation {
   // The settings; empty if they cannot be read, which the notice says.
   const KnownCollections& Known() const { return known_; }
 
-  // The folder exists. If another run has locked it, it is left as it is.
+  // The folder must exist. If another run has locked it, it is left as it is.
   void Prepare(const std::string& folder);
   // The same for the sample, which gets its films and no copies. False if it has no films.
   bool PrepareSample(const std::string& folder);
   void Remember(const std::string& folder);
 
-  // What went wrong and stops nothing, "" for nothing.
+  // What went wrong without stopping the start, "" for nothing.
   const std::string& Notice() const { return notice_; }
 
  private:
@@ -53,7 +53,7 @@ class Preparation {
   std::string notice_;
 };
 
-// The name of a collection's folder among the second copies. Two collections of one name have two folders.
+// The name of a collection's folder among the second copies. Collections of the same name have different folders.
 std::string SecondCopiesName(const std::string& folder);
 
 }  // namespace launcher

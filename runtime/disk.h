@@ -34,7 +34,7 @@ class Disk {
   enum class Mode { Read, ReadWrite, Create, CreateNew };
   virtual ~Disk() = default;
 
-  // Returns a handle of 0 or more. What is no regular file is refused and never waited for.
+  // Returns a handle of 0 or more. What is not a regular file is refused, without waiting for it.
   virtual int Open(const std::string& name, Mode mode) = 0;
   virtual void Close(int handle) = 0;
   // Return the bytes read or written, perhaps fewer than count. Offsets and lengths in bytes.
@@ -42,8 +42,8 @@ class Disk {
   virtual std::int64_t WriteAt(int handle, const char* source, std::size_t count, std::int64_t offset) = 0;
   virtual std::int64_t Length(int handle) = 0;
   virtual int Truncate(int handle, std::int64_t length) = 0;
-  // Tells how long the file is about to become: the disk may take the room at once. Promises nothing and changes
-  // neither length nor content.
+  // Announces how long the file will become, so that the disk can reserve the space at once. Promises nothing and
+  // changes neither length nor content.
   virtual void Reserve(int, std::int64_t) {}
   virtual int Sync(int handle) = 0;
   virtual int Identify(int handle, FileIdentity& identity) = 0;
@@ -65,7 +65,7 @@ class Disk {
 };
 
 // The files below a folder of this machine. A symbolic link in the safety folder, or in place of it, is never followed;
-// elsewhere as told.
+// elsewhere as `links` says.
 class RealDisk final : public Disk {
  public:
   enum class Links { Followed, Refused };

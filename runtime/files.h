@@ -1,5 +1,5 @@
 // Numbered files, 1 to 5, as the handlers use them. A call that fails throws a Failure that names the cause and the
-// file. The number keeps its file then, except that Close frees it.
+// file. The number then keeps its file, except that Close frees it.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ class Files {
   void OpenRandom(int number, std::string_view name, int record_length, BeforeOverwrite before = nullptr);
   // "File not found" if it is missing. Only its first megabyte is read.
   void OpenInput(int number, std::string_view name);
-  // Replaces the old file when it is closed. What is written lies in memory until then.
+  // Replaces the old file when it is closed. What is written is kept in memory until then.
   void OpenOutput(int number, std::string_view name);
   // Does nothing if the number is not open.
   void Close(int number);

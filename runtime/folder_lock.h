@@ -12,8 +12,8 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  // False if another run has locked the folder, or if there is a lock file that this user cannot open. Where none can
-  // be made the folder counts as held; the first write reports the error.
+  // False if another run has locked the folder, or if there is a lock file that this user cannot open. If none can be
+  // created, the folder counts as held; the first write reports the error.
   bool Held() const { return held_; }
 
  private:

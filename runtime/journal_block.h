@@ -1,7 +1,7 @@
 // The block of `.reelora/journal`: one write of a record, noted before the slot is touched.
 //
 // Mark, file name, slot, length of the file before, record length, old image, new image, checksum. Once the record is
-// on the disk the mark becomes another one, and the block is done.
+// on the disk the mark is replaced by another, and the block is done.
 #pragma once
 
 #include <cstdint>

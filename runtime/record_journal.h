@@ -21,15 +21,15 @@ class RecordJournal {
 
   // Writes the record, from 1, into its slot, after a call of `before` if there is one. Blanks fill a gap between the
   // end of the file and the slot; "Bad record number" if that is over a gigabyte. "Path/File access error" if the
-  // file's name leads to another file by now, or to none. Returns when the record is on the disk; after a failure the
-  // old record is written back as far as the disk allows.
+  // file's name now leads to another file, or to none. Returns when the record is on the disk; after a failure the old
+  // record is written back as far as the disk allows.
   void Write(const OpenFile& file, std::int64_t slot, std::string_view record, BeforeOverwrite before = nullptr);
   // Call after opening: completes or undoes an interrupted write of ours and leaves everything else alone.
   void Recover(const OpenFile& file, int record_length);
 
  private:
   Disk& disk_;
-  // Whether the names of the safety folder and of its files are durable. A block that is done tells it of earlier runs.
+  // Whether the names of the safety folder and of its files are durable. A block that is done says so for earlier runs.
   bool folders_synced_ = false;
 };
 

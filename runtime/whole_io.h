@@ -33,7 +33,7 @@ class OpenFile {
  public:
   // Throws if the file cannot be opened.
   OpenFile(Disk& disk, std::string name, Disk::Mode mode);
-  // Takes over a handle that is open.
+  // Takes over an open handle.
   OpenFile(Disk& disk, std::string name, int handle) : disk_(&disk), name_(std::move(name)), handle_(handle) {}
   OpenFile(OpenFile&& other) noexcept;
   OpenFile& operator=(OpenFile&&) = delete;
@@ -64,10 +64,10 @@ void MakeSafetyFolder(Disk& disk);
 // Makes name changes in both folders durable; file: named in a Failure.
 void SyncFolders(Disk& disk, std::string_view file);
 
-// Creates a temporary file, in no case one that was there before: BASE.new, or BASE.2.new and so on if that exists.
+// Creates a temporary file, never reusing one that exists: BASE.new, or BASE.2.new and so on if that is taken.
 OpenFile CreateFresh(Disk& disk, const std::string& base);
 // Writes a whole file to a temporary one, syncs it and puts it in place of the named one; a stop at any moment leaves
-// the old file or the new one. The new one is sure to stay once the folders are synced.
+// the old file or the new one. The new one is durable once the folders are synced.
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);
 // The same for a file of the safety folder and without a sync: a kill leaves the old file or the new one, a loss of
 // power soon after perhaps neither. For a file that has a checksum.

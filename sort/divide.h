@@ -13,7 +13,7 @@ namespace sort {
 inline bool Sorts(const Item& item, const unsigned char* included) { return !included || included[item.Entry] != 0; }
 
 // Copies the items to be sorted to the target, those below a middle window and the rest, each in the old order. Items
-// must have their first window. The target has room for two items more.
+// must have their first window. The target must have room for two items more.
 std::array<std::span<Item>, 2> Divide(std::span<const Item> items, const unsigned char* included, Item* target,
                                       Workers& workers);
 

@@ -41,8 +41,8 @@ class ItemSorter {
   // Entries: the table of entries, contiguous.
   ItemSorter(const Layout& layout, const char* entries) : layout_(layout), entries_(entries) {}
 
-  // Items must contain their first window and be in entry order; ties keep it. The windows are overwritten. Scratch is
-  // as long as items.
+  // Items must contain their first window and be in entry order; ties keep it. The windows are overwritten. Scratch
+  // must be as long as items.
   void Sort(std::span<Item> items, std::span<Item> scratch) { SortFrom(items, scratch, 0); }
 
  private:

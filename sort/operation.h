@@ -34,7 +34,7 @@ struct Limits {
   std::size_t MemoryBytes = 192 * 1024 * 1024;
   // Record count from which two threads work; both call the disk.
   std::int64_t TwoWorkersFrom = 16'384;
-  // Of a file at once; at least a record in any case.
+  // Read or written at once; always at least one record.
   std::size_t BlockBytes = std::size_t{512} * 1024;
 };
 
@@ -45,13 +45,13 @@ class Sorter {
   explicit Sorter(runtime::Disk& disk, const Limits& limits = {}) : disk_(disk), limits_(limits) {}
 
   // Replaces the output by the extract; a stop at any moment leaves the old file or the new one. Stable; a partial last
-  // record is ignored; an input of more than MaxRecords is unreadable. Unless done, the output is unchanged. The
-  // new file is sure to stay once the folders are synced, which is left to the caller.
+  // record is ignored; an input of more than MaxRecords is unreadable. Unless done, the output is unchanged. The new
+  // file is durable once the folders are synced, which is left to the caller.
   // Next: the statement of the next sort of the same input, if it is known and nothing is written to the input in
   // between; while this output is synced, the input is read for it.
   Result Sort(std::string_view input, std::string_view output, std::string_view statement, std::string_view next = "");
 
-  // Gets the part of the input that a sort has read; called from the thread of Sort.
+  // Gets the fraction of the input that a sort has read; called from the thread of Sort.
   sort::Progress Progress;
 
  private:

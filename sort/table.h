@@ -20,7 +20,7 @@
 
 namespace sort {
 
-// Gets the part of the input that has been read, from 0 to 1.
+// Gets the fraction of the input that has been read, from 0 to 1.
 using Progress = std::function<void(double done)>;
 
 // One reading of the input: which file, as of which time, and for which statement.
@@ -53,7 +53,7 @@ class Table {
 
   // Whether a sort with that layout and record count could take over this table.
   bool Suits(const Layout& layout, std::int64_t records) const;
-  // Rereads all records but those that ReadAhead has reread, and applies the new test; false if one has changed.
+  // Rereads the records that ReadAhead has not reread, and applies the new test; false if one has changed.
   bool Reload(const runtime::OpenFile& input, const IncludeFilter& include, const Reading& reading,
               const Progress& progress);
   // Begins a reload; returns at the end of the input, or soon after the stop.
