@@ -16,7 +16,7 @@ namespace {
 
 constexpr int Films = 3000;
 // Two workers, and many blocks.
-constexpr Limits ManyBlocks = {.TwoWorkersFrom = 1, .BlockBytes = 16 * store::RecordLength};
+const Limits ManyBlocks = {.TwoWorkersFrom = 1, .BlockBytes = 16 * store::RecordLength};
 
 std::string Master() {
   std::string master;
