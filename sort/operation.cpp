@@ -40,10 +40,10 @@ std::optional<Weights> ReadWeights(Disk& disk, const std::optional<std::string>&
   }
 }
 
-// Records that fit into memory.
+// Records that fit into memory; each of two workers needs room for one.
 std::int64_t RoomFor(const Layout& layout, std::int64_t records, const Limits& limits) {
   auto in_memory = static_cast<std::int64_t>(limits.MemoryBytes / Table::BytesPerRecord(layout));
-  return std::min(records, std::max<std::int64_t>(1, in_memory));
+  return std::min(records, std::max<std::int64_t>(2, in_memory));
 }
 
 Reading ReadingOf(const OpenFile& input, std::string_view statement) {

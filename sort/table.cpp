@@ -1,5 +1,5 @@
-// Two workers take the blocks of the input in turn; then each sorts half of the items: those below a middle window, and
-// the rest. The outputs of the two halves follow each other.
+// Two workers take the blocks of the input in turn, or if not all records fit, each reads a half. Then each sorts half
+// of the items: those below a middle window, and the rest. The outputs of the two halves follow each other.
 #include "sort/table.h"
 
 #include <algorithm>
@@ -27,16 +27,20 @@ Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, std:
       entries_(runtime::MakeLargeArray<char>(static_cast<std::size_t>(room) * layout.EntryLength())),
       included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),
       items_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room))),
-      scratch_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room) + 2)) {}
+      scratch_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room) + 2)) {
+  const std::int64_t half = workers ? records / 2 : records;
+  const auto half_room = static_cast<std::size_t>(workers ? room / 2 : room);
+  parts_ = {Part{0, half, 0, half_room}, Part{half, records, half_room, static_cast<std::size_t>(room) - half_room}};
+}
 
 std::span<char> Table::Block(int worker) {
   return {blocks_.get() + (workers_ ? static_cast<std::size_t>(worker) : 0) * block_length_, block_length_};
 }
 
-// Calls use(record, number) for the records from `from` to `to` (exclusive) until it returns false or is told to stop;
-// each worker takes one block after the other. All records before the new `from` have been used.
+// Calls use(record, number) for the records from `from` on, until it returns false or is told to stop; each worker
+// takes one block after the other. All records before the new `from` have been used.
 template <typename Use>
-bool Table::ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, std::int64_t to, const Progress& progress,
+bool Table::ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, const Progress& progress,
                           const std::atomic<bool>& stop, Use&& use) {
   const auto in_block = static_cast<std::int64_t>(block_length_ / layout_.RecordLength());
   std::atomic<std::int64_t> next = from;
@@ -44,8 +48,8 @@ bool Table::ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, st
   RunHalves(workers_, [&](int worker) {
     while (!refused && !stop) {
       const std::int64_t first = next.fetch_add(in_block);
-      if (first >= to) return;
-      const std::int64_t end = std::min(first + in_block, to);
+      if (first >= records_) return;
+      const std::int64_t end = std::min(first + in_block, records_);
       BlockReader reader(input, layout_.RecordLength(), first, end - first, Block(worker));
       for (std::int64_t number = first; const char* record = reader.Next(); ++number) {
         if (use(record, number)) continue;
@@ -53,26 +57,68 @@ bool Table::ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, st
         return;
       }
       // Worker 0 is the caller's thread.
-      if (worker == 0 && progress) progress(static_cast<double>(end) / static_cast<double>(records_));
+      if (worker == 0) Tell(progress, end);
     }
   });
-  from = std::min<std::int64_t>(next, to);
-  if (!refused && progress && from > 0) progress(static_cast<double>(from) / static_cast<double>(records_));
+  from = std::min<std::int64_t>(next, records_);
+  if (!refused) Tell(progress, from);
   return !refused;
 }
 
+void Table::Tell(const Progress& progress, std::int64_t read) const {
+  if (progress && read > 0) progress(static_cast<double>(read) / static_cast<double>(records_));
+}
+
+void Table::MakeEntry(const char* record, std::int64_t number, std::size_t place) {
+  char* entry = entries_.get() + place * layout_.EntryLength();
+  layout_.MakeEntry(record, static_cast<std::uint32_t>(number + 1), entry);
+  items_[place].SetWindow(layout_.Window(entry, 0));
+  items_[place].Entry = static_cast<std::uint32_t>(place);
+}
+
 void Table::Load(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress) {
-  first_ = end_;
-  ForEachRecord(input, end_, std::min(first_ + room_, records_), progress, false,
-                [&](const char* record, std::int64_t number) {
-                  const auto place = static_cast<std::size_t>(number - first_);
-                  char* entry = entries_.get() + place * layout_.EntryLength();
-                  layout_.MakeEntry(record, static_cast<std::uint32_t>(number + 1), entry);
-                  included_[place] = include.Keeps(record) ? 1 : 0;
-                  items_[place].SetWindow(layout_.Window(entry, 0));
-                  items_[place].Entry = static_cast<std::uint32_t>(place);
-                  return true;
-                });
+  if (HoldsAll()) {
+    LoadAll(input, include, progress);
+  } else {
+    LoadIncluded(input, include, progress);
+  }
+}
+
+void Table::LoadAll(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress) {
+  std::int64_t loaded = 0;
+  ForEachRecord(input, loaded, progress, false, [&](const char* record, std::int64_t number) {
+    const auto place = static_cast<std::size_t>(number);
+    included_[place] = include.Keeps(record) ? 1 : 0;
+    MakeEntry(record, number, place);
+    return true;
+  });
+  loaded_ = static_cast<std::size_t>(loaded);
+  for (Part& part : parts_) part.Next = part.End;
+}
+
+void Table::LoadIncluded(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress) {
+  std::array<std::size_t, 2> counts{};
+  RunHalves(workers_, [&](int worker) { counts.at(worker) = LoadPart(input, include, worker); });
+  const Item* upper = items_.get() + parts_[1].Begin;
+  std::copy(upper, upper + counts[1], items_.get() + counts[0]);
+  loaded_ = counts[0] + counts[1];
+  Tell(progress, records_ - (parts_[0].End - parts_[0].Next) - (parts_[1].End - parts_[1].Next));
+}
+
+// Returns how many of the part's included records were loaded.
+std::size_t Table::LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker) {
+  Part& part = parts_.at(worker);
+  BlockReader reader(input, layout_.RecordLength(), part.Next, part.End - part.Next, Block(worker));
+  std::size_t place = part.Begin;
+  while (place < part.Begin + part.Room) {
+    const char* record = reader.Next();
+    if (!record) break;
+    const std::int64_t number = part.Next++;
+    if (!include.Keeps(record)) continue;
+    included_[place] = 1;
+    MakeEntry(record, number, place++);
+  }
+  return place - part.Begin;
 }
 
 bool Table::Suits(const Layout& layout, std::int64_t records) const {
@@ -104,7 +150,7 @@ void Table::ReadAhead(const runtime::OpenFile& input, const IncludeFilter& inclu
 
 void Table::Reread(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
                    const std::atomic<bool>& stop) {
-  unchanged_ = ForEachRecord(input, reread_, records_, progress, stop, [&](const char* record, std::int64_t number) {
+  unchanged_ = ForEachRecord(input, reread_, progress, stop, [&](const char* record, std::int64_t number) {
     const auto place = static_cast<std::size_t>(number);
     included_[place] = include.Keeps(record) ? 1 : 0;
     return layout_.IsEntryOf(record, entries_.get() + place * layout_.EntryLength());
@@ -112,19 +158,13 @@ void Table::Reread(const runtime::OpenFile& input, const IncludeFilter& include,
 }
 
 void Table::Sort() {
-  const std::span<Item> loaded = Loaded();
-  // Without room for all, excluded records are not sorted.
-  const unsigned char* included = HoldsAll() ? nullptr : included_.get();
-  sorted_ = {};
-  free_ = {};
+  const std::span<Item> loaded(items_.get(), loaded_);
   if (workers_) {
-    sorted_ = Divide(loaded, included, scratch_.get(), *workers_);
-    free_ = {loaded.first(sorted_[0].size()), loaded.subspan(sorted_[0].size(), sorted_[1].size())};
+    sorted_ = Divide(loaded, scratch_.get(), *workers_);
+    free_ = {loaded.first(sorted_[0].size()), loaded.subspan(sorted_[0].size())};
   } else {
-    const auto end =
-        std::remove_if(loaded.begin(), loaded.end(), [&](const Item& item) { return !Sorts(item, included); });
-    sorted_[0] = {loaded.begin(), end};
-    free_[0] = {scratch_.get(), sorted_[0].size()};
+    sorted_ = {loaded};
+    free_ = {std::span(scratch_.get(), loaded_)};
   }
   RunHalves(workers_, [&](int half) {
     if (!sorted_.at(half).empty()) ItemSorter(layout_, entries_.get()).Sort(sorted_.at(half), free_.at(half));

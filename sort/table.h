@@ -45,8 +45,8 @@ class Table {
   std::int64_t Records() const { return records_; }
   // Whether there is room for all records, and whether all have been loaded.
   bool HoldsAll() const { return room_ >= records_; }
-  bool AtEnd() const { return end_ == records_; }
-  // Replaces the present records by the next ones of the input.
+  bool AtEnd() const { return parts_[0].Next == parts_[0].End && parts_[1].Next == parts_[1].End; }
+  // Replaces the present records by the next ones of the input; without room for all, only included ones are loaded.
   void Load(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
   // Call once after each load.
   void Sort();
@@ -68,11 +68,22 @@ class Table {
   }
 
  private:
+  // Of one worker if not all records fit: Next to End (exclusive) are still to be loaded, its entries are at Begin and
+  // after.
+  struct Part {
+    std::int64_t Next = 0, End = 0;
+    std::size_t Begin = 0, Room = 0;
+  };
+
   std::span<char> Block(int worker);
-  std::span<Item> Loaded() { return {items_.get(), static_cast<std::size_t>(end_ - first_)}; }
   template <typename Use>
-  bool ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, std::int64_t to, const Progress& progress,
+  bool ForEachRecord(const runtime::OpenFile& input, std::int64_t& from, const Progress& progress,
                      const std::atomic<bool>& stop, Use&& use);
+  void Tell(const Progress& progress, std::int64_t read) const;
+  void MakeEntry(const char* record, std::int64_t number, std::size_t place);
+  void LoadAll(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
+  void LoadIncluded(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress);
+  std::size_t LoadPart(const runtime::OpenFile& input, const IncludeFilter& include, int worker);
   void Reread(const runtime::OpenFile& input, const IncludeFilter& include, const Progress& progress,
               const std::atomic<bool>& stop);
   void PickIncluded();
@@ -85,7 +96,8 @@ class Table {
   std::unique_ptr<char[]> blocks_, entries_;
   std::unique_ptr<unsigned char[]> included_;  // 1 or 0 for each entry
   std::unique_ptr<Item[]> items_, scratch_;
-  std::int64_t first_ = 0, end_ = 0;  // the records that are in the table, end exclusive
+  std::array<Part, 2> parts_;
+  std::size_t loaded_ = 0;  // records
   // The reading that ReadAhead began, how many records it has compared, and whether all are as they were.
   Reading ahead_;
   std::int64_t reread_ = 0;
