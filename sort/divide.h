@@ -1,4 +1,4 @@
-// Halves the items, so that two workers can sort them.
+// Divides the items by the first byte of their windows, so that two workers can sort them.
 #pragma once
 
 #include <array>
@@ -9,8 +9,11 @@
 
 namespace sort {
 
-// Copies the items to the target: those below a middle window, then the rest, each in the old order. Items must have
-// their first window. The target must have room for two items more.
-std::array<std::span<Item>, 2> Divide(std::span<const Item> items, Item* target, Workers& workers);
+// Where the items of each byte begin; one more for the end of the last.
+using Division = std::array<std::size_t, 257>;
+
+// Copies the items to the target, which has as many: by byte, for each in the old order. Items must have their first
+// window. Workers: or nullptr.
+Division Divide(std::span<const Item> items, std::span<Item> target, Workers* workers);
 
 }  // namespace sort

@@ -1,5 +1,5 @@
-// Two workers take the blocks of the input in turn, or if not all records fit, each reads a half. Then each sorts half
-// of the items: those below a middle window, and the rest. The outputs of the two halves follow each other.
+// Two workers take the blocks of the input in turn, or if not all records fit, each reads a half. They sort the items
+// of one first byte after the other. Then each writes half of the output.
 #include "sort/table.h"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ Table::Table(const Layout& layout, std::int64_t records, std::int64_t room, std:
       entries_(runtime::MakeLargeArray<char>(static_cast<std::size_t>(room) * layout.EntryLength())),
       included_(std::make_unique_for_overwrite<unsigned char[]>(static_cast<std::size_t>(room))),
       items_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room))),
-      scratch_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room) + 2)) {
+      scratch_(runtime::MakeLargeArray<Item>(static_cast<std::size_t>(room))) {
   const std::int64_t half = workers ? records / 2 : records;
   const auto half_room = static_cast<std::size_t>(workers ? room / 2 : room);
   parts_ = {Part{0, half, 0, half_room}, Part{half, records, half_room, static_cast<std::size_t>(room) - half_room}};
@@ -158,17 +158,21 @@ void Table::Reread(const runtime::OpenFile& input, const IncludeFilter& include,
 }
 
 void Table::Sort() {
-  const std::span<Item> loaded(items_.get(), loaded_);
-  if (workers_) {
-    sorted_ = Divide(loaded, scratch_.get(), *workers_);
-    free_ = {loaded.first(sorted_[0].size()), loaded.subspan(sorted_[0].size())};
-  } else {
-    sorted_ = {loaded};
-    free_ = {std::span(scratch_.get(), loaded_)};
-  }
-  RunHalves(workers_, [&](int half) {
-    if (!sorted_.at(half).empty()) ItemSorter(layout_, entries_.get()).Sort(sorted_.at(half), free_.at(half));
+  const std::span loaded(items_.get(), loaded_);
+  const std::span sorted(scratch_.get(), loaded_);
+  const Division division = Divide(loaded, sorted, workers_);
+  std::atomic<std::size_t> next = 0;
+  RunHalves(workers_, [&](int) {
+    ItemSorter sorter(layout_, entries_.get());
+    for (std::size_t byte = next++; byte + 1 < division.size(); byte = next++) {
+      const std::size_t begin = division.at(byte);
+      const std::size_t count = division.at(byte + 1) - begin;
+      sorter.Sort(sorted.subspan(begin, count), loaded.subspan(begin, count));
+    }
   });
+  const std::size_t half = workers_ ? loaded_ / 2 : loaded_;
+  sorted_ = {sorted.first(half), sorted.subspan(half)};
+  free_ = {loaded.first(half), loaded.subspan(half)};
 }
 
 void Table::PickIncluded() {
