@@ -2,7 +2,6 @@
 #include "desktop/help_viewer.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -11,11 +10,13 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <utility>
 
 #include "desktop/accessible.h"
 #include "desktop/help_page.h"
+#include "runtime/whole_io.h"
 
 namespace desktop {
 namespace {
@@ -25,9 +26,21 @@ constexpr int PageMargin = 12;
 // In points.
 constexpr int SmallestScale = -4;
 constexpr int LargestScale = 24;
+constexpr std::int64_t LongestFile = 4 * 1024 * 1024;  // bytes
 
 QString HelpFile() {
   return QString::fromUtf8(help::HelpFileName.data(), static_cast<qsizetype>(help::HelpFileName.size()));
+}
+
+// Throws a Failure.
+std::string TextOfFile(const std::string& folder) {
+  runtime::RealDisk disk(folder);
+  const runtime::OpenFile file(disk, std::string(help::HelpFileName), runtime::Disk::Mode::Read);
+  const std::int64_t length = file.Length();
+  if (length > LongestFile) throw runtime::Failure{runtime::PathError, file.Name()};
+  std::string text(static_cast<std::size_t>(length), '\0');
+  text.resize(file.Read(text.data(), text.size(), 0));
+  return text;
 }
 
 }  // namespace
@@ -99,15 +112,17 @@ void HelpViewer::SetUpKeys() {
   key(QKeySequence("Ctrl+0"), [this] { Scale(-scale_); });
 }
 
-bool HelpViewer::ReadFile() {
-  QFile file(QStringLiteral("%1/%2").arg(QFile::decodeName(folder_.c_str()), HelpFile()));
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  file_ = help::ParseHelp(file.readAll().toStdString());
-  return true;
+void HelpViewer::ReadFile() {
+  try {
+    file_ = help::ParseHelp(TextOfFile(folder_));
+    trouble_.clear();
+  } catch (const runtime::Failure& failure) {
+    trouble_ = failure.Name == runtime::FileNotFound ? QStringLiteral("is missing") : QStringLiteral("cannot be read");
+  }
 }
 
 void HelpViewer::Open(int topic) {
-  file_found_ = ReadFile();
+  ReadFile();
   GoTo(topic);
   page_.setFocus();
   FitOnScreen();
@@ -170,7 +185,7 @@ void HelpViewer::Show(const Place& place) {
   back_.setEnabled(visited_.size() > 1);
   for (QWidget* part :
        {static_cast<QWidget*>(&contents_), static_cast<QWidget*>(&search_line_), static_cast<QWidget*>(&search_)})
-    part->setEnabled(file_found_);
+    part->setEnabled(trouble_.isEmpty());
 }
 
 // Chapter and title, or the heading.
@@ -189,7 +204,7 @@ void HelpViewer::SayLinks() {
 }
 
 QString HelpViewer::PageOf(const Place& place) const {
-  if (!file_found_) return NoticePage(QStringLiteral("The help file %1 is missing.").arg(HelpFile()));
+  if (!trouble_.isEmpty()) return NoticePage(QStringLiteral("The help file %1 %2.").arg(HelpFile(), trouble_));
   if (const QString* words = std::get_if<QString>(&place)) return FoundPage(file_, *words);
   const help::HelpTopic* topic = file_.Find(std::get<int>(place));
   return topic ? TopicPage(*topic) : ContentsPage(file_);

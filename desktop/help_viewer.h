@@ -23,8 +23,8 @@ class HelpViewer final : public QWidget {
  public:
   // The folder of the help file.
   explicit HelpViewer(std::string folder);
-  // Reads the file again and shows that topic; the contents for 0 or an unknown number. If the file is missing, the
-  // window says so. A window that no longer fits on its screen is moved onto it.
+  // Reads the file again and shows that topic; the contents for 0 or an unknown number. If the file is missing or
+  // cannot be read, the window says so. A window that no longer fits on its screen is moved onto it.
   void Open(int topic);
   // The same as clicking Contents, Back and Search, which leads on to the topics that it finds.
   void ShowContents();
@@ -50,7 +50,7 @@ class HelpViewer final : public QWidget {
   void SayPage();
   void SayLinks();
   QString PageOf(const Place& place) const;
-  bool ReadFile();
+  void ReadFile();
   void LayOut();
   void SetUpKeys();
   void FitOnScreen();
@@ -58,7 +58,7 @@ class HelpViewer final : public QWidget {
 
   std::string folder_;
   help::HelpFile file_;
-  bool file_found_ = false;
+  QString trouble_;             // what keeps the file from being read, as the page says it; empty if nothing does
   std::vector<Place> visited_;  // the current one last
   int scale_ = 0;               // steps from the usual size of the text
   QPushButton contents_, back_, search_;

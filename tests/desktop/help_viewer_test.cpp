@@ -1,10 +1,17 @@
 // The help viewer on a test file.
 #include "desktop/help_viewer.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QTest>
+#include <chrono>
+#include <filesystem>
+#include <future>
+#include <thread>
 
 #include "desktop/help_page.h"
 #include "tests/kit/fresh_folder.h"
@@ -255,6 +262,57 @@ TEST_F(Viewer, AMissingFileIsNamedAndTheNextOpeningFindsItAgain) {
   Window.Open(170);
   EXPECT_TRUE(Shown().contains("Puts the titles"));
   EXPECT_TRUE(Window.SearchLine().isEnabled());
+}
+
+// Ends the wait of whoever reads that pipe, which would last for ever.
+class LateWriter {
+ public:
+  explicit LateWriter(std::filesystem::path pipe)
+      : thread_([pipe = std::move(pipe), end = end_.get_future()] {
+          using namespace std::chrono_literals;
+          if (end.wait_for(5s) == std::future_status::timeout) ::close(::open(pipe.c_str(), O_WRONLY | O_NONBLOCK));
+        }) {}
+  LateWriter(const LateWriter&) = delete;
+  LateWriter& operator=(const LateWriter&) = delete;
+  ~LateWriter() {
+    end_.set_value();
+    thread_.join();
+  }
+
+ private:
+  std::promise<void> end_;
+  std::thread thread_;
+};
+
+constexpr const char* CannotBeRead = "The help file Reelora4.HLP cannot be read.";
+
+TEST_F(Viewer, APipeInPlaceOfTheFileIsNotWaitedFor) {
+  const std::filesystem::path pipe = Folder.Path() / "Reelora4.HLP";
+  std::filesystem::remove(pipe);
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0666), 0);
+  const LateWriter writer(pipe);
+  Window.Open(170);
+  EXPECT_EQ(Shown(), CannotBeRead);
+}
+
+TEST_F(Viewer, AFileOfATerabyteIsNotRead) {
+  Window.Open(170);
+  if (::truncate((Folder.Path() / "Reelora4.HLP").c_str(), std::int64_t{1} << 40) != 0)
+    GTEST_SKIP() << "no such file on this disk";
+  Window.Open(170);
+  EXPECT_EQ(Shown(), CannotBeRead);
+  EXPECT_FALSE(Window.SearchLine().isEnabled());
+}
+
+TEST_F(Viewer, WhatIsNoFileCannotBeRead) {
+  std::filesystem::remove(Folder.Path() / "Reelora4.HLP");
+  std::filesystem::create_symlink("/dev/zero", Folder.Path() / "Reelora4.HLP");
+  Window.Open(170);
+  EXPECT_EQ(Shown(), CannotBeRead);
+  std::filesystem::remove(Folder.Path() / "Reelora4.HLP");
+  std::filesystem::create_directory(Folder.Path() / "Reelora4.HLP");
+  Window.Open(170);
+  EXPECT_EQ(Shown(), CannotBeRead);
 }
 
 TEST_F(Viewer, AFileOfAnythingIsTaken) {
