@@ -15,31 +15,39 @@ namespace runtime {
 namespace {
 
 constexpr mode_t ForEveryUser = 0666;
+constexpr const char* LockFile = "lock";
 
-int OpenLock(const std::string& path) {
+// The safety folder itself, never one that a link leads to.
+int OpenSafetyFolder(const std::string& folder) {
+  const std::string own(SafetyFolder);
+  RealDisk(folder).MakeFolder(own);
+  return open((folder + "/" + own).c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+int OpenLock(int safety_folder) {
   constexpr int Flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-  int made = open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | Flags, ForEveryUser);
+  int made = openat(safety_folder, LockFile, O_RDWR | O_CREAT | O_EXCL | Flags, ForEveryUser);
   if (made >= 0) {
     static_cast<void>(fchmod(made, ForEveryUser));  // whatever the user's mask takes away
     return made;
   }
-  int found = open(path.c_str(), O_RDWR | Flags);
-  return found >= 0 ? found : open(path.c_str(), O_RDONLY | Flags);
+  int found = openat(safety_folder, LockFile, O_RDWR | Flags);
+  return found >= 0 ? found : openat(safety_folder, LockFile, O_RDONLY | Flags);
 }
 
 }  // namespace
 
 FolderLock::FolderLock(const std::string& folder) {
-  const std::string own(SafetyFolder);
-  RealDisk(folder).MakeFolder(own);
-  const std::string path = folder + "/" + own + "/lock";
-  file_ = OpenLock(path);
+  const int safety_folder = OpenSafetyFolder(folder);
+  if (safety_folder < 0) return;
+  file_ = OpenLock(safety_folder);
   struct stat status {};
   if (file_ < 0) {
-    held_ = lstat(path.c_str(), &status) != 0;
+    held_ = fstatat(safety_folder, LockFile, &status, AT_SYMLINK_NOFOLLOW) != 0;
   } else {
     held_ = flock(file_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
   }
+  close(safety_folder);
 }
 
 FolderLock::~FolderLock() {

@@ -66,6 +66,13 @@ TEST(FolderLock, NeverFollowsALink) {
   EXPECT_FALSE(FolderLock(folder.Path().string()).Held());
 }
 
+TEST(FolderLock, IsNotMadeWhereALinkInPlaceOfTheSafetyFolderLeads) {
+  const kit::FreshFolder folder, elsewhere;
+  std::filesystem::create_directory_symlink(elsewhere.Path(), folder.Path() / ".reelora");
+  EXPECT_TRUE(FolderLock(folder.Path().string()).Held());
+  EXPECT_TRUE(std::filesystem::is_empty(elsewhere.Path()));
+}
+
 TEST(FolderLock, DoesNotStandInTheWayWhereNoneCanBeMade) { EXPECT_TRUE(FolderLock("/nowhere/at/all").Held()); }
 
 }  // namespace
