@@ -32,18 +32,10 @@ void Look(Program& program, int steps) {
   for (int step = 0; step < steps; ++step) program.Deliver([&] { screen.UserClick(screen.cmdPrevious); });
 }
 
-// Sorts a master file of these bytes; then browses, searches, lists and prints.
-void ExpectOnlyReadByAll(const std::string& master) {
-  kit::Folder folder = kit::FolderOfFilms(0);
-  folder[Master] = master;
-  kit::MemoryDisk unsorted(folder);
-  StartedProgram sorting(unsorted);
-  SortFilms()(sorting.Program);
-  ASSERT_FALSE(sorting.Program.Stopped()) << sorting.Program.Stopped()->Name;
-  folder = unsorted.Content();
-  ASSERT_EQ(folder.at(Master), master);
+// Browses, searches, lists and prints.
+void ExpectOnlyReadByAll(const kit::Folder& folder, unsigned seed) {
   kit::MemoryDisk disk(folder);
-  ReadersDesk desk(static_cast<unsigned>(master.size()));
+  ReadersDesk desk(seed);
   std::optional<Program> program;
   for (Reader reader : Readers()) {
     if (!program || program->Ended()) {
@@ -55,6 +47,18 @@ void ExpectOnlyReadByAll(const std::string& master) {
   }
   ASSERT_EQ(disk.Content(), folder);
   ASSERT_EQ(disk.Moments(), 0U);
+}
+
+// The files after a sort of this master file.
+kit::Folder SortedFolder(const std::string& master) {
+  kit::Folder folder = kit::FolderOfFilms(0);
+  folder[Master] = master;
+  kit::MemoryDisk disk(folder);
+  StartedProgram sorting(disk);
+  SortFilms()(sorting.Program);
+  EXPECT_FALSE(sorting.Program.Stopped()) << sorting.Program.Stopped()->Name;
+  EXPECT_EQ(disk.Content().at(Master), master);
+  return disk.Content();
 }
 
 // Starts on a master file of these bytes, steps forward and back.
@@ -78,7 +82,8 @@ TEST(Feeding, AMasterFileOfEveryLengthUpToThreeRecords) {
     ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(films.substr(0, length)));
     ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(garbled));
     if (length % 3 == 0) {
-      ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(length % 2 == 0 ? films.substr(0, length) : garbled));
+      const std::string master = length % 2 == 0 ? films.substr(0, length) : garbled;
+      ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(SortedFolder(master), static_cast<unsigned>(length)));
     }
   }
 }
@@ -91,7 +96,7 @@ TEST(Feeding, AMasterFileOfAThousandRandomLengths) {
     const std::string garbled = RandomBytes(random, length);
     ASSERT_NO_FATAL_FAILURE(ExpectOnlyRead(garbled));
     if (trial % 10 == 0) {
-      ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(garbled));
+      ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(SortedFolder(garbled), static_cast<unsigned>(length)));
     }
   }
 }
@@ -139,6 +144,56 @@ TEST_P(FedSmallFile, ThatIsMissing) {
   EXPECT_EQ(disk.Content(), folder);
 }
 
+// What is read later than at the start: the key files and the number of the last film entered.
+class FedFileOfReaders : public testing::TestWithParam<const char*> {};
+
+TEST_P(FedFileOfReaders, OfEveryLength) {
+  std::mt19937 random(4);
+  kit::Folder folder = SortedFolder(kit::Films(1, 3));
+  for (std::size_t length = 0; length <= 300; ++length) {
+    SCOPED_TRACE(length);
+    folder[GetParam()] = length % 2 == 0 ? RandomBytes(random, length) : std::string(length, '1');
+    ASSERT_NO_FATAL_FAILURE(ExpectOnlyReadByAll(folder, static_cast<unsigned>(length)));
+  }
+}
+
+TEST(Feeding, AFlagOfTheFeaturesWindowOfEveryLength) {
+  std::mt19937 random(5);
+  kit::Folder folder = kit::FolderOfFilms(3);
+  for (std::size_t length = 0; length <= 300; ++length) {
+    SCOPED_TRACE(length);
+    folder["Fo"] = RandomBytes(random, length);
+    kit::MemoryDisk disk(folder);
+    StartedProgram started(disk, StartedProgram::At::Opener);
+    if (started.Program.Stopped()) {
+      EXPECT_EQ(started.Program.Stopped()->File, "Fo");
+    }
+    ASSERT_EQ(disk.Content(), folder);
+  }
+}
+
+TEST(Feeding, WeightsOfAnotherLengthChangeNoKeyFile) {
+  std::mt19937 random(6);
+  kit::Folder folder = SortedFolder(kit::Films(1, 3));
+  const std::string keys = folder.at("Titlepra.Dat");
+  for (std::size_t length = 0; length <= 300; ++length) {
+    SCOPED_TRACE(length);
+    folder["UPPER.ALT"] = RandomBytes(random, length);
+    kit::MemoryDisk disk(folder);
+    StartedProgram started(disk);
+    SortFilms()(started.Program);
+    ASSERT_FALSE(started.Program.Stopped()) << started.Program.Stopped()->Name;
+    ASSERT_EQ(disk.Content().at(Master), folder.at(Master));
+    EXPECT_TRUE(disk.Content().at("Titlepra.Dat") == keys || length == 256);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, FedFileOfReaders,
+                         testing::Values("Titlepra.Dat", "DVDpra.Dat", "Laserpra.Dat", "VHSpra.Dat", "Last"),
+                         [](const auto& name) {
+                           const std::string file = name.param;
+                           return file.substr(0, file.find('.'));
+                         });
 INSTANTIATE_TEST_SUITE_P(Names, FedSmallFile, testing::ValuesIn(SmallFiles),
                          [](const auto& name) { return std::string(name.param); });
 

@@ -4,17 +4,53 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
+#include "store/master_file.h"
 #include "tests/kit/films.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/safety/disabled_safeguard.h"
+#include "tests/safety/steps.h"
 #include "tests/safety/stopped_work.h"
+#include "tests/story/world.h"
 
 namespace safety {
 namespace {
 
 TEST(OtherHands, AReplacedOrRemovedMasterFileStopsTheSave) { EXPECT_EQ(ReplacedMasterComplaint(), ""); }
+// By what the system tells about a name and an open file.
+TEST(OtherHands, AReplacedOrRemovedMasterFileOnTheRealDiskStopsTheSave) {
+  for (bool removed : {false, true}) {
+    SCOPED_TRACE(removed);
+    const kit::FreshFolder fresh;
+    for (const auto& [name, content] : kit::FolderOfFilms(2)) {
+      if (kit::FolderOf(name).empty()) story::WriteBytes(fresh.Path() / name, content);
+    }
+    runtime::RealDisk disk(fresh.Path().string());
+    StartedProgram started(disk);
+    EditFilm(1, 1)(started.Program);
+    ASSERT_FALSE(started.Program.Stopped());
+    const std::filesystem::path master = fresh.Path() / store::MasterFileName;
+    const std::string other = kit::Films(5, 9);
+    if (removed) {
+      std::filesystem::remove(master);
+    } else {
+      story::WriteBytes(fresh.Path() / "Restored", other);
+      std::filesystem::rename(fresh.Path() / "Restored", master);
+    }
+    EditFilm(2, 2)(started.Program);
+    ASSERT_TRUE(started.Program.Stopped());
+    EXPECT_EQ(started.Program.Stopped()->Name, runtime::PathError);
+    EXPECT_EQ(started.Program.Stopped()->File, store::MasterFileName);
+    EXPECT_EQ(std::filesystem::exists(master), !removed);
+    if (!removed) {
+      EXPECT_EQ(story::ReadBytes(master), other);
+    }
+  }
+}
+
 TEST(OtherHands, ARestoredBackupStays) { EXPECT_EQ(RestoredBackupComplaint(), ""); }
 TEST(OtherHands, APlantedFileIsNotWritten) { EXPECT_EQ(PlantedFileComplaint(), ""); }
 TEST(StoppedWork, CostsNoTypingOlderThanTheLastEvent) { EXPECT_EQ(StoppedTypingComplaint(), ""); }
