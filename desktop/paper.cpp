@@ -2,20 +2,21 @@
 #include "desktop/paper.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+#include <cerrno>
+#include <string>
 
 #include "desktop/page_painter.h"
 #include "desktop/text.h"
 #include "runtime/clock.h"
+#include "runtime/disk.h"
 #include "runtime/failure.h"
 
 namespace desktop {
@@ -29,6 +30,18 @@ namespace {
 [[noreturn]] void Fail(const QFileDevice& file) {
   Fail(file.error() == QFileDevice::NoError ? QString() : file.errorString());
 }
+
+// Calls the disk, repeated while a signal interrupts it.
+template <typename Call>
+void OnDisk(Call call) {
+  int result = 0;
+  do {
+    result = call();
+  } while (result == -EINTR);
+  if (result < 0) throw runtime::Failure{runtime::PrinterError, "", -result};
+}
+
+std::string NameOnDisk(const QString& name) { return QFile::encodeName(name).toStdString(); }
 
 // Qt does not report refused jobs; cupsLastError does. Statuses up to 7 are successes.
 bool QueueTookJob() {
@@ -57,8 +70,7 @@ PrintedTo PrintOnQueue(const runtime::PrintJob& job, QPrinter& printer, const Pr
   return {{}, printer.printerName()};
 }
 
-Painted PrintIntoFile(const runtime::PrintJob& job, QFileDevice& file, const QPrinter& printer,
-                      const Progress& progress) {
+Painted DrawInto(const runtime::PrintJob& job, QFileDevice& file, const QPrinter& printer, const Progress& progress) {
   QPdfWriter writer(&file);
   writer.setTitle(Shown(job.Title));
   writer.setCreator(QStringLiteral("Reelora Prima"));
@@ -97,30 +109,32 @@ void NameNew(QTemporaryFile& file, const QFileInfo& wanted) {
   }
 }
 
-// The file has no name until it is complete, so that a kill leaves none.
-PrintedTo PrintIntoNewFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& wanted,
-                           const Progress& progress) {
-  QFileInfo target(wanted);
-  QTemporaryFile file(QDir(target.path()).filePath(".reelora-XXXXXX"));
-  if (!file.open()) Fail(file);
-  Painted painted = PrintIntoFile(job, file, printer, progress);
-  if (painted == Painted::Nothing) return {};
-  if (painted == Painted::Failed || !file.setPermissions(UsualPermissions()) || fsync(file.handle()) != 0) Fail(file);
-  NameNew(file, target);
-  file.setAutoRemove(false);
-  return {file.fileName(), {}};
+// Only a file with a name can take the place of another.
+void Replace(const QFileInfo& old, QTemporaryFile& file, runtime::Disk& folder) {
+  NameNew(file, QFileInfo(QDir(old.path()).filePath(".reelora-report.new")));
+  const QString name = QFileInfo(file.fileName()).fileName();
+  OnDisk([&] { return folder.Rename(NameOnDisk(name), NameOnDisk(old.fileName())); });
 }
 
-PrintedTo PrintOverFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& path,
+// The file has no name until it is complete, so that a kill leaves none.
+PrintedTo PrintIntoFile(const runtime::PrintJob& job, const QPrinter& printer, const QString& wanted, OldFile old_file,
                         const Progress& progress) {
-  QSaveFile file(path);
-  // Where the folder takes no new file, the old one is written in place.
-  file.setDirectWriteFallback(true);
-  if (!file.open(QIODevice::WriteOnly)) Fail(file);
-  Painted painted = PrintIntoFile(job, file, printer, progress);
+  // A link stays; the file that it leads to is replaced.
+  const QString old = old_file == OldFile::Replace ? QFileInfo(wanted).canonicalFilePath() : QString();
+  const QFileInfo target(old.isEmpty() ? wanted : old);
+  if (!old.isEmpty() && !(target.isFile() && target.isWritable())) OnDisk([] { return -EACCES; });
+  QTemporaryFile file(QDir(target.path()).filePath(".reelora-XXXXXX"));
+  if (!file.open()) Fail(file);
+  Painted painted = DrawInto(job, file, printer, progress);
   if (painted == Painted::Nothing) return {};
-  if (painted == Painted::Failed || !file.commit()) Fail(file);
-  return {path, {}};
+  auto permissions = old.isEmpty() ? UsualPermissions() : target.permissions();
+  if (painted == Painted::Failed || !file.setPermissions(permissions)) Fail(file);
+  runtime::RealDisk folder(NameOnDisk(target.path()));
+  OnDisk([&] { return folder.Sync(file.handle()); });
+  old.isEmpty() ? NameNew(file, target) : Replace(target, file, folder);
+  file.setAutoRemove(false);
+  OnDisk([&] { return folder.SyncFolder(""); });
+  return {old.isEmpty() ? file.fileName() : wanted, {}};
 }
 
 PrintedTo PrintIntoDocuments(const runtime::PrintJob& job, const QPrinter& printer, std::chrono::local_seconds now,
@@ -128,7 +142,8 @@ PrintedTo PrintIntoDocuments(const runtime::PrintJob& job, const QPrinter& print
   QString folder = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath("Reelora Prima");
   if (!QDir().mkpath(folder)) Fail(QStringLiteral("The folder %1 cannot be made").arg(folder));
   QString stamp = Shown(runtime::StampText(now)).replace(':', '-');
-  return PrintIntoNewFile(job, printer, QDir(folder).filePath(Shown(job.Title) + ' ' + stamp + ".pdf"), progress);
+  QString name = Shown(job.Title) + ' ' + stamp + ".pdf";
+  return PrintIntoFile(job, printer, QDir(folder).filePath(name), OldFile::Keep, progress);
 }
 
 }  // namespace
@@ -138,8 +153,7 @@ PrintedTo PrintOnPaper(const runtime::PrintJob& job, QPrinter& printer, std::chr
   if (printer.outputFormat() != QPrinter::PdfFormat) return PrintOnQueue(job, printer, progress);
   QString chosen = printer.outputFileName();
   if (chosen.isEmpty()) return PrintIntoDocuments(job, printer, now, progress);
-  if (old_file == OldFile::Replace) return PrintOverFile(job, printer, chosen, progress);
-  return PrintIntoNewFile(job, printer, chosen, progress);
+  return PrintIntoFile(job, printer, chosen, old_file, progress);
 }
 
 }  // namespace desktop
