@@ -65,7 +65,7 @@ int WriteBackup(runtime::Disk& disk, const Invocation& invocation, Output& outpu
   if (!elsewhere) MakeCopiesFolder(disk);
   const std::string folder = elsewhere.value_or(CopiesIn(invocation.Folder));
   const CopyKind kind = invocation.Has("zip") ? CopyKind::Zip : CopyKind::Folder;
-  const std::optional<std::string> name = WriteCopy(invocation.MakeDisk, folder, *files, kind);
+  const std::optional<std::string> name = WriteCopy(invocation, folder, *files, kind);
   if (name) return TellCopy(invocation, *name, *files, true, output);
   output.Errors << "The copy cannot be read back.\n";
   return Found;
@@ -132,7 +132,7 @@ int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const Files
   if (!present) return TooLarge(output);
   MakeCopiesFolder(disk);
   const std::optional<std::string> kept =
-      WriteCopy(invocation.MakeDisk, CopiesIn(invocation.Folder), *present, CopyKind::Folder);
+      WriteCopy(invocation, CopiesIn(invocation.Folder), *present, CopyKind::Folder);
   if (!kept) {
     output.Errors << "The present collection cannot be copied first. Nothing was put back.\n";
     return Found;

@@ -86,6 +86,17 @@ std::string FreeName(runtime::Disk& copies, CopyKind kind) {
   return NameOf(kind, when);
 }
 
+// Their new files take the permissions of the master file.
+DiskIn DisksLikeTheFilms(const Invocation& invocation) {
+  std::error_code none;
+  const std::string films = std::filesystem::absolute(invocation.Folder, none) / MasterName;
+  return [make_disk = invocation.MakeDisk, films](const std::string& folder) {
+    std::unique_ptr<runtime::Disk> disk = make_disk(folder);
+    disk->NewFilesLike(films);
+    return disk;
+  };
+}
+
 void WriteFolder(const DiskIn& make_disk, const std::string& folder, const FilesByName& files) {
   const std::unique_ptr<runtime::Disk> copy = make_disk(folder);
   const std::string safety(runtime::SafetyFolder);
@@ -165,8 +176,9 @@ std::vector<NamedCopy> ListCopies(runtime::Disk& copies) {
   return found;
 }
 
-std::optional<std::string> WriteCopy(const DiskIn& make_disk, const std::string& folder, const FilesByName& files,
+std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
                                      CopyKind kind) {
+  const DiskIn make_disk = DisksLikeTheFilms(invocation);
   const std::unique_ptr<runtime::Disk> copies = make_disk(folder);
   const std::string name = FreeName(*copies, kind);
   if (kind == CopyKind::Zip) {

@@ -36,8 +36,9 @@ std::optional<NamedCopy> CopyOfName(const std::string& name);
 std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
 
 // Writes a new copy, synced and read back, and returns its name; nothing if it cannot be zipped or read back. A stop
-// leaves a folder without films, or a file whose name ends in .new, and neither is a copy.
-std::optional<std::string> WriteCopy(const DiskIn& make_disk, const std::string& folder, const FilesByName& files,
+// leaves a folder without films, or a file whose name ends in .new, and neither is a copy. No file is more readable
+// than the collection's films.
+std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
                                      CopyKind kind);
 
 // The files of a copy or of another collection. Name: of a copy in the collection's folder of copies, or the path of a

@@ -60,7 +60,7 @@ class Disk {
   virtual int SyncFolder(const std::string& name) = 0;
   // The names in a folder, sorted; empty if it does not exist.
   virtual std::vector<std::string> List(const std::string& folder) = 0;
-  // From now on new files take the permissions of the named one, if there is one.
+  // From now on new files take the permissions of the named one, if there is one; its name may be an absolute path.
   virtual void NewFilesLike(const std::string&) {}
 };
 

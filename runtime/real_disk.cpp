@@ -51,7 +51,7 @@ int RealDisk::OpenPath(const std::string& name, int flags) const {
   if (links_ == Links::Refused || IsInSafetyFolder(name)) flags |= O_NOFOLLOW;
   const std::string path = PathOf(name);
   if ((flags & O_CREAT) == 0) return static_cast<int>(OrError(::open(path.c_str(), flags)));
-  const std::string like = PathOf(like_);
+  const std::string like = like_.starts_with('/') ? like_ : PathOf(like_);
   struct stat model {};
   bool has_model = !like_.empty() && ::stat(like.c_str(), &model) == 0;
   mode_t permissions = has_model ? model.st_mode & FilePermissions : FilePermissions;

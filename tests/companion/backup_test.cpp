@@ -1,5 +1,9 @@
 // A copy counts only if it can be read back, and nothing is replaced before the present collection has been copied.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <set>
 
 #include "tests/companion/command_test.h"
 #include "tests/kit/films.h"
@@ -9,6 +13,8 @@
 
 namespace companion {
 namespace {
+
+namespace fs = std::filesystem;
 
 // A folder of this machine; what is read of a copy of the collection differs in a byte from what was written.
 class ForgetfulDisk final : public kit::PassingDisk {
@@ -37,7 +43,7 @@ class BackupTest : public testing::Test {
   }
   std::string Master() { return *story::ReadBytes(Folder.Path() / "Recpra.Dat"); }
 
-  kit::FreshFolder Folder, Other;
+  kit::FreshFolder Folder, Other, Elsewhere;
 };
 
 TEST_F(BackupTest, IsNoneIfItCannotBeReadBack) {
@@ -64,6 +70,37 @@ TEST_F(BackupTest, IsRefusedIfTheCollectionIsTooLarge) {
     EXPECT_EQ(ran.Status, Found);
     EXPECT_EQ(ran.Errors, "The collection is too large for a copy.\n");
   }
+}
+
+// Of all files below a folder.
+std::set<fs::perms> PermissionsBelow(const fs::path& folder) {
+  std::set<fs::perms> permissions;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.is_regular_file()) permissions.insert(entry.status().permissions());
+  }
+  return permissions;
+}
+
+TEST_F(BackupTest, IsNoMoreReadableThanTheFilms) {
+  const fs::perms own = fs::perms::owner_read | fs::perms::owner_write;
+  const fs::path copies = Folder.Path() / "backups";
+  fs::create_directory(Folder.Path() / ".reelora");
+  story::WriteBytes(Folder.Path() / ".reelora/history", "");
+  fs::permissions(Folder.Path() / "Recpra.Dat", own);
+  const mode_t mask = ::umask(022);
+  for (const std::vector<std::string>& arguments : {std::vector<std::string>{"backup"},
+                                                    {"backup", "--zip"},
+                                                    {"backup", "--to", Elsewhere.Path()},
+                                                    {"backup", "--zip", "--to", Elsewhere.Path()},
+                                                    {"restore-backup", Other.Path()}}) {
+    std::vector<std::string> writing = arguments;
+    writing.push_back("--write");
+    EXPECT_EQ(RunIn(Folder.Path(), writing).Status, Done);
+    const fs::path& folder = arguments.size() > 2 ? Elsewhere.Path() : copies;
+    EXPECT_EQ(PermissionsBelow(folder), std::set{own}) << arguments[0] << arguments.size();
+    for (const fs::directory_entry& copy : fs::directory_iterator(folder)) fs::remove_all(copy);
+  }
+  ::umask(mask);
 }
 
 }  // namespace
