@@ -1,12 +1,12 @@
 // export writes the films in another format, to the standard output or to a file.
 #include <filesystem>
-#include <fstream>
 
 #include "companion/printable.h"
 #include "companion/reading.h"
 #include "companion/verbs.h"
 #include "exchange/formats.h"
 #include "runtime/clock.h"
+#include "store/master_file.h"
 
 namespace companion {
 namespace {
@@ -21,22 +21,41 @@ const exchange::Format* FormatOf(const Invocation& invocation) {
   return format ? format : exchange::FormatOf("csv");
 }
 
-// A file that was there stays as it is until the new one is complete.
-int WriteFile(const exchange::Format& format, const exchange::Collection& collection, const std::string& path,
-              Output& output) {
+// Formats write single values; the disk gets blocks.
+void WriteInBlocks(const exchange::Format& format, const exchange::Collection& collection,
+                   const runtime::OpenFile& file) {
+  constexpr std::size_t BlockBytes = 256 * 1024;
+  std::string block;
+  std::int64_t written = 0;
+  const auto flush = [&] {
+    file.Write(block, written);
+    written += static_cast<std::int64_t>(block.size());
+    block.clear();
+  };
+  format.Write(collection, [&](std::string_view bytes) {
+    block += bytes;
+    if (block.size() >= BlockBytes) flush();
+  });
+  flush();
+}
+
+// A file that was there stays as it is until the new one is complete, which takes its permissions.
+int WriteFile(const exchange::Format& format, const exchange::Collection& collection, const Invocation& invocation,
+              const std::string& path, Output& output) {
   if (!exchange::FormatOfFile(path) && fs::exists(path)) {
     output.Errors << path << " is there already, and its name is not one of an export.\n";
     return Found;
   }
-  const std::string aside = path + ".new";
-  std::ofstream file(aside, std::ios::binary);
-  format.Write(collection,
-               [&](std::string_view bytes) { file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())); });
-  file.close();
-  std::error_code error;
-  if (file) fs::rename(aside, path, error);
-  if (file && !error) return Done;
-  fs::remove(aside, error);
+  const std::string folder = fs::path(path).parent_path(), name = fs::path(path).filename();
+  const std::unique_ptr<runtime::Disk> disk = invocation.MakeDisk(folder.empty() ? "." : folder);
+  disk->NewFilesLike(name);
+  try {
+    runtime::WriteAside(*disk, name, [&](const runtime::OpenFile& file) { WriteInBlocks(format, collection, file); });
+    runtime::RetryInterrupted(name, [&] { return disk->SyncFolder(""); });
+    return Done;
+  } catch (const runtime::Failure& failure) {
+    if (failure.File == store::MasterFileName) throw;  // it cannot be read
+  }
   output.Errors << path << " cannot be written.\n";
   return Found;
 }
@@ -63,7 +82,7 @@ int Export(const Invocation& invocation, Output& output) {
     format->Write(collection, [&](std::string_view bytes) { output.Text << bytes; });
     return Done;
   }
-  const int status = WriteFile(*format, collection, *path, output);
+  const int status = WriteFile(*format, collection, invocation, *path, output);
   if (status == Done) output.Text << Counted(films, "film") << " in " << *path << ".\n";
   return status;
 }

@@ -103,13 +103,12 @@ namespace {
 
 enum class Durable { Yes, No };
 
-// Writes the content to a temporary file and renames that to the target; name: of the temporary file's base.
-void WriteAndRename(Disk& disk, std::string_view name, const std::string& target, std::string_view content,
-                    Durable durable) {
-  MakeSafetyFolder(disk);
-  const OpenFile aside = CreateFresh(disk, InSafetyFolder(name));
+// Writes a temporary file and renames it to the target; base: of its name.
+void WriteAndRename(Disk& disk, const std::string& base, const std::string& target,
+                    const std::function<void(const OpenFile&)>& write, Durable durable) {
+  const OpenFile aside = CreateFresh(disk, base);
   try {
-    aside.Write(content, 0);
+    write(aside);
     if (durable == Durable::Yes) aside.Sync();
     RetryInterrupted(target, [&] { return disk.Rename(aside.Name(), target); });
   } catch (const Failure&) {
@@ -118,14 +117,25 @@ void WriteAndRename(Disk& disk, std::string_view name, const std::string& target
   }
 }
 
+// By way of the safety folder.
+void Replace(Disk& disk, std::string_view name, const std::string& target, std::string_view content, Durable durable) {
+  MakeSafetyFolder(disk);
+  const auto write = [&](const OpenFile& file) { file.Write(content, 0); };
+  WriteAndRename(disk, InSafetyFolder(name), target, write, durable);
+}
+
 }  // namespace
 
+void WriteAside(Disk& disk, const std::string& name, const std::function<void(const OpenFile&)>& write) {
+  WriteAndRename(disk, name, name, write, Durable::Yes);
+}
+
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content) {
-  WriteAndRename(disk, name, std::string(name), content, Durable::Yes);
+  Replace(disk, name, std::string(name), content, Durable::Yes);
 }
 
 void ReplaceUnsynced(Disk& disk, std::string_view name, std::string_view content) {
-  WriteAndRename(disk, name, InSafetyFolder(name), content, Durable::No);
+  Replace(disk, name, InSafetyFolder(name), content, Durable::No);
 }
 
 void Discard(Disk& disk, const std::string& name) {

@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -66,6 +67,9 @@ void SyncFolders(Disk& disk, std::string_view file);
 
 // Creates a temporary file, never reusing one that exists: BASE.new, or BASE.2.new and so on if that is taken.
 OpenFile CreateFresh(Disk& disk, const std::string& base);
+// Calls `write` with a temporary file next to the named one, syncs it and puts it in place of that; a stop at any
+// moment leaves the old file or the new one. The new one is durable once its folder is synced.
+void WriteAside(Disk& disk, const std::string& name, const std::function<void(const OpenFile&)>& write);
 // Writes a whole file to a temporary one, syncs it and puts it in place of the named one; a stop at any moment leaves
 // the old file or the new one. The new one is durable once the folders are synced.
 void ReplaceFile(Disk& disk, std::string_view name, std::string_view content);
