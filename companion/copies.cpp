@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "companion/unfinished_copies.h"
 #include "launcher/copies.h"
 #include "runtime/clock.h"
 #include "runtime/whole_io.h"
@@ -51,17 +52,8 @@ bool ReadFile(runtime::Disk& disk, const std::string& name, std::size_t most, Fi
   return true;
 }
 
-// The new file is sure to stay once its folder is synced.
-void WriteAside(runtime::Disk& disk, const std::string& name, const std::string& bytes) {
-  runtime::OpenFile aside = runtime::CreateFresh(disk, name);
-  try {
-    aside.Write(bytes, 0);
-    aside.Sync();
-    runtime::RetryInterrupted(name, [&] { return disk.Rename(aside.Name(), name); });
-  } catch (const runtime::Failure&) {
-    runtime::Discard(disk, aside.Name());
-    throw;
-  }
+void WriteFile(runtime::Disk& disk, const std::string& name, const std::string& bytes) {
+  runtime::WriteAside(disk, name, [&](const runtime::OpenFile& file) { file.Write(bytes, 0); });
 }
 
 void SyncFolder(runtime::Disk& disk, const std::string& name) {
@@ -102,11 +94,11 @@ void WriteFolder(const DiskIn& make_disk, const std::string& folder, const Files
   const std::string safety(runtime::SafetyFolder);
   runtime::MakeSafetyFolder(*copy);
   for (const auto& [name, bytes] : files) {
-    if (name != MasterName) WriteAside(*copy, name, bytes);
+    if (name != MasterName) WriteFile(*copy, name, bytes);
   }
   SyncFolder(*copy, safety);
   SyncFolder(*copy, "");
-  WriteAside(*copy, MasterName, files.at(MasterName));
+  WriteFile(*copy, MasterName, files.at(MasterName));
   SyncFolder(*copy, "");
 }
 
@@ -179,15 +171,21 @@ std::vector<NamedCopy> ListCopies(runtime::Disk& copies) {
 std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
                                      CopyKind kind) {
   const DiskIn make_disk = DisksLikeTheFilms(invocation);
+  RemoveAllUnfinished(make_disk, folder);
   const std::unique_ptr<runtime::Disk> copies = make_disk(folder);
   const std::string name = FreeName(*copies, kind);
   if (kind == CopyKind::Zip) {
     const std::optional<std::string> zip = Zipped(files);
     if (!zip) return std::nullopt;
-    WriteAside(*copies, name, *zip);
+    WriteFile(*copies, name, *zip);
   } else {
     runtime::RetryInterrupted(name, [&] { return copies->MakeFolder(name); });
-    WriteFolder(make_disk, folder + "/" + name, files);
+    try {
+      WriteFolder(make_disk, folder + "/" + name, files);
+    } catch (const runtime::Failure&) {
+      RemoveUnfinished(make_disk, folder, name);
+      throw;
+    }
   }
   SyncFolder(*copies, "");
   return ReadAt(make_disk, folder, name) == files ? std::optional(name) : std::nullopt;

@@ -36,8 +36,8 @@ std::optional<NamedCopy> CopyOfName(const std::string& name);
 std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
 
 // Writes a new copy, synced and read back, and returns its name; nothing if it cannot be zipped or read back. A stop
-// leaves a folder without films, or a file whose name ends in .new, and neither is a copy. No file is more readable
-// than the collection's films.
+// leaves a folder without films, or a file whose name ends in .new: neither is a copy, and the next one removes both.
+// No file is more readable than the collection's films.
 std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
                                      CopyKind kind);
 

@@ -48,6 +48,16 @@ void ReadLine(std::string_view line, KnownCollections& known) {
   }
 }
 
+// What a stop has left: the settings file's name, then ".new", or ".2.new" and so on.
+bool IsTemporary(std::string_view name) {
+  if (!name.starts_with(SettingsFile)) return false;
+  name.remove_prefix(SettingsFile.size());
+  if (!name.ends_with(runtime::AsideEnding)) return false;
+  name.remove_suffix(runtime::AsideEnding.size());
+  return name.empty() ||
+         (name.size() > 1 && name[0] == '.' && name.find_first_not_of("0123456789", 1) == std::string_view::npos);
+}
+
 }  // namespace
 
 KnownCollections ReadKnown(runtime::Disk& settings) {
@@ -73,17 +83,10 @@ void WriteKnown(runtime::Disk& settings, const KnownCollections& known) {
   for (const std::string& folder : known.Folders) text.append(CollectionKey).append(Escaped(folder)).append("\n");
   if (!known.CopiesFolder.empty()) text.append(CopiesKey).append(Escaped(known.CopiesFolder)).append("\n");
   for (const std::string& line : known.Others) text.append(line).append("\n");
-  std::string aside;
-  try {
-    runtime::OpenFile file = runtime::CreateFresh(settings, std::string(SettingsFile));
-    aside = file.Name();
-    file.Write(text, 0);
-    file.Sync();
-    runtime::RetryInterrupted(SettingsFile, [&] { return settings.Rename(aside, std::string(SettingsFile)); });
-  } catch (const runtime::Failure&) {
-    if (!aside.empty()) runtime::Discard(settings, aside);
-    throw;
+  for (const std::string& name : settings.List("")) {
+    if (IsTemporary(name)) runtime::Discard(settings, name);
   }
+  runtime::WriteAside(settings, std::string(SettingsFile), [&](const runtime::OpenFile& file) { file.Write(text, 0); });
 }
 
 void Remember(KnownCollections& known, const std::string& folder) {

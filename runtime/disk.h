@@ -56,6 +56,8 @@ class Disk {
   virtual int Remove(const std::string& name) = 0;
   // Succeeds if it exists.
   virtual int MakeFolder(const std::string& name) = 0;
+  // Fails unless it is empty.
+  virtual int RemoveFolder(const std::string& name) = 0;
   // "" for the disk's own folder.
   virtual int SyncFolder(const std::string& name) = 0;
   // The names in a folder, sorted; empty if it does not exist.
@@ -86,6 +88,7 @@ class RealDisk final : public Disk {
   int Rename(const std::string& from, const std::string& to) override;
   int Remove(const std::string& name) override;
   int MakeFolder(const std::string& name) override;
+  int RemoveFolder(const std::string& name) override;
   int SyncFolder(const std::string& name) override;
   std::vector<std::string> List(const std::string& folder) override;
   void NewFilesLike(const std::string& name) override { like_ = name; }

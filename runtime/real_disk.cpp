@@ -141,6 +141,11 @@ int RealDisk::MakeFolder(const std::string& name) {
   return 0;
 }
 
+int RealDisk::RemoveFolder(const std::string& name) {
+  if (IsBehindLink(name)) return -ELOOP;
+  return static_cast<int>(OrError(::rmdir(PathOf(name).c_str())));
+}
+
 int RealDisk::SyncFolder(const std::string& name) {
   int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | (name.empty() ? 0 : O_NOFOLLOW);
   int handle = static_cast<int>(OrError(::open(PathOf(name).c_str(), flags)));

@@ -45,6 +45,7 @@ class PlainDisk final : public runtime::Disk {
   int Rename(const std::string& from, const std::string& to) override;
   int Remove(const std::string& name) override;
   int MakeFolder(const std::string&) override { return Called(); }
+  int RemoveFolder(const std::string&) override { return Called(); }
   int SyncFolder(const std::string&) override { return Called(); }
   std::vector<std::string> List(const std::string& folder) override;
 

@@ -133,6 +133,10 @@ int FaultyDisk::MakeFolder(const std::string& name) {
   return Made([&] { return below_.MakeFolder(name); });
 }
 
+int FaultyDisk::RemoveFolder(const std::string& name) {
+  return Made([&] { return below_.RemoveFolder(name); });
+}
+
 int FaultyDisk::SyncFolder(const std::string& name) {
   return Made([&] { return below_.SyncFolder(name); });
 }

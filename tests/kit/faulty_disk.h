@@ -56,6 +56,7 @@ class FaultyDisk final : public runtime::Disk {
   int Rename(const std::string& from, const std::string& to) override;
   int Remove(const std::string& name) override;
   int MakeFolder(const std::string& name) override;
+  int RemoveFolder(const std::string& name) override;
   int SyncFolder(const std::string& name) override;
   std::vector<std::string> List(const std::string& folder) override;
 

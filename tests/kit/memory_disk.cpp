@@ -16,9 +16,15 @@ std::string FolderOf(const std::string& name) {
   return slash == std::string::npos ? "" : name.substr(0, slash);
 }
 
+std::set<std::string> FoldersAbove(std::string name) {
+  std::set<std::string> folders;
+  while (!name.empty()) folders.insert(name = FolderOf(name));
+  return folders;
+}
+
 MemoryDisk::MemoryDisk(const Folder& content) : first_(content) {
   for (const auto& [name, bytes] : content) {
-    folders_.insert(FolderOf(name));
+    folders_.merge(FoldersAbove(name));
     names_[name] = static_cast<int>(nodes_.size());
     nodes_.push_back(bytes);
   }
@@ -139,6 +145,14 @@ int MemoryDisk::MakeFolder(const std::string& name) {
   return 0;
 }
 
+int MemoryDisk::RemoveFolder(const std::string& name) {
+  if (!HasFolder(name)) return -ENOENT;
+  if (!NamesIn(name).empty()) return -ENOTEMPTY;
+  folders_.erase(name);
+  log_.push_back({Happened::NoFolder, -1, 0, name});
+  return 0;
+}
+
 int MemoryDisk::SyncFolder(const std::string& name) {
   if (!HasFolder(name)) return -ENOENT;
   log_.push_back({Happened::FolderSync, -1, 0, name});
@@ -146,10 +160,17 @@ int MemoryDisk::SyncFolder(const std::string& name) {
 }
 
 std::vector<std::string> MemoryDisk::List(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& [name, node] : names_) {
-    if (FolderOf(name) == folder) names.push_back(folder.empty() ? name : name.substr(folder.size() + 1));
-  }
+  const std::set<std::string> names = NamesIn(folder);
+  return {names.begin(), names.end()};
+}
+
+std::set<std::string> MemoryDisk::NamesIn(const std::string& folder) const {
+  std::set<std::string> names;
+  const auto add = [&](const std::string& name) {
+    if (!name.empty() && FolderOf(name) == folder) names.insert(folder.empty() ? name : name.substr(folder.size() + 1));
+  };
+  for (const auto& [name, node] : names_) add(name);
+  for (const std::string& name : folders_) add(name);
   return names;
 }
 

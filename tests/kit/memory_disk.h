@@ -45,11 +45,12 @@ class MemoryDisk final : public runtime::Disk {
   int Rename(const std::string& from, const std::string& to) override;
   int Remove(const std::string& name) override;
   int MakeFolder(const std::string& name) override;
+  int RemoveFolder(const std::string& name) override;
   int SyncFolder(const std::string& name) override;
   std::vector<std::string> List(const std::string& folder) override;
 
  private:
-  enum class Happened { Sector, Length, Enter, Leave, Move, Folder, Sync, FailedSync, FolderSync };
+  enum class Happened { Sector, Length, Enter, Leave, Move, Folder, NoFolder, Sync, FailedSync, FolderSync };
   struct Event {
     Happened What;
     int Node = -1;
@@ -59,6 +60,7 @@ class MemoryDisk final : public runtime::Disk {
   };
   struct Replay;
   void LogSectors(int node, std::int64_t from, std::int64_t to);
+  std::set<std::string> NamesIn(const std::string& folder) const;
   bool HasFolder(const std::string& name) const { return folders_.contains(name); }
 
   std::vector<std::string> nodes_;
@@ -72,5 +74,7 @@ class MemoryDisk final : public runtime::Disk {
 
 // The folder part of a name, "" if it has none.
 std::string FolderOf(const std::string& name);
+// All folders above it, down to "".
+std::set<std::string> FoldersAbove(std::string name);
 
 }  // namespace kit

@@ -95,6 +95,7 @@ void MemoryDisk::Replay::PlayFolderSync(const std::string& folder) {
 
 void MemoryDisk::Replay::Apply(const Event& change, std::map<std::string, int>& names, std::set<std::string>& folders) {
   if (change.What == Happened::Folder) folders.insert(change.Text);
+  if (change.What == Happened::NoFolder) folders.erase(change.Text);
   if (change.What == Happened::Enter) names[change.Text] = change.Node;
   if (change.What == Happened::Leave || change.What == Happened::Move) names.erase(change.Text);
   if (change.What == Happened::Move) names[change.To] = change.Node;
@@ -126,7 +127,8 @@ Folder MemoryDisk::Replay::Chosen(const std::vector<std::size_t>& choices) const
   }
   Folder folder;
   for (const auto& [name, node] : names) {
-    if (folders.contains(FolderOf(name))) folder[name] = contents[node];
+    const std::set<std::string> above = FoldersAbove(name);
+    if (std::includes(folders.begin(), folders.end(), above.begin(), above.end())) folder[name] = contents[node];
   }
   return folder;
 }
@@ -136,7 +138,7 @@ std::vector<Folder> MemoryDisk::AfterPowerLoss(std::size_t moment, std::size_t m
   for (const auto& [name, bytes] : first_) {
     int node = static_cast<int>(replay.Names.size());
     replay.Names[name] = node;
-    replay.Folders.insert(FolderOf(name));
+    replay.Folders.merge(FoldersAbove(name));
     replay.Lengths[node].Safe = static_cast<std::int64_t>(bytes.size());
     for (std::size_t offset = 0; offset < bytes.size(); offset += SectorBytes)
       replay.Sectors[{node, static_cast<std::int64_t>(offset / SectorBytes)}].Safe = bytes.substr(offset, SectorBytes);

@@ -62,6 +62,26 @@ TEST(PowerLoss, LosesANameUntilItsFolderIsSynced) {
   EXPECT_EQ(States(disk, "d/f"), Contents{"x"});
 }
 
+TEST(PowerLoss, TakesAFolderWithAllThatIsBelowIt) {
+  MemoryDisk disk(Folder{});
+  disk.MakeFolder("d");
+  disk.MakeFolder("d/e");
+  WriteAll(disk, disk.Open("d/e/f", Mode::Create), "x");
+  EXPECT_EQ(disk.List("d"), std::vector<std::string>{"e"});
+  disk.Sync(0);
+  disk.SyncFolder("d/e");
+  disk.SyncFolder("d");
+  EXPECT_EQ(States(disk, "d/e/f"), (Contents{"-", "x"}));
+  disk.SyncFolder("");
+  EXPECT_EQ(States(disk, "d/e/f"), Contents{"x"});
+  EXPECT_EQ(disk.RemoveFolder("d/e"), -ENOTEMPTY);
+  disk.Remove("d/e/f");
+  EXPECT_EQ(disk.RemoveFolder("d/e"), 0);
+  EXPECT_EQ(States(disk, "d/e/f"), (Contents{"-", "x"}));
+  disk.SyncFolder("d");
+  EXPECT_EQ(States(disk, "d/e/f"), Contents{"-"});
+}
+
 TEST(PowerLoss, LeavesTheOldOrTheNewNameUntilBothFoldersAreSynced) {
   MemoryDisk disk(Folder{{"f", "old"}, {"d/f", "new"}});
   disk.Rename("d/f", "f");

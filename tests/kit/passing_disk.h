@@ -35,6 +35,7 @@ class PassingDisk : public runtime::Disk {
   int Rename(const std::string& from, const std::string& to) override { return below_.Rename(from, to); }
   int Remove(const std::string& name) override { return below_.Remove(name); }
   int MakeFolder(const std::string& name) override { return below_.MakeFolder(name); }
+  int RemoveFolder(const std::string& name) override { return below_.RemoveFolder(name); }
   int SyncFolder(const std::string& name) override { return below_.SyncFolder(name); }
   std::vector<std::string> List(const std::string& folder) override { return below_.List(folder); }
   void NewFilesLike(const std::string& name) override { below_.NewFilesLike(name); }

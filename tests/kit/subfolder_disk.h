@@ -19,6 +19,7 @@ class SubfolderDisk final : public PassingDisk {
   }
   int Remove(const std::string& name) override { return PassingDisk::Remove(Below(name)); }
   int MakeFolder(const std::string& name) override { return PassingDisk::MakeFolder(Below(name)); }
+  int RemoveFolder(const std::string& name) override { return PassingDisk::RemoveFolder(Below(name)); }
   int SyncFolder(const std::string& name) override { return PassingDisk::SyncFolder(Below(name)); }
   std::vector<std::string> List(const std::string& folder) override { return PassingDisk::List(Below(folder)); }
 

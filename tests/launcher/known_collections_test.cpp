@@ -25,6 +25,18 @@ TEST(KnownCollections, AreReadAsTheyWereWritten) {
   EXPECT_EQ(disk.Content().size(), 1U);
 }
 
+TEST(KnownCollections, WhatStopsHaveLeftGoesWithTheNextWrite) {
+  const Folder others = {{File + ".new.mine", "1"}, {File + "2.new", "2"}, {File + ".old.new", "3"},
+                         {File + "..new", "4"},     {"other.new", "5"},    {"sub/" + File + ".new", "6"}};
+  Folder before = others;
+  for (const char* ending : {".new", ".2.new", ".17.new"}) before[File + ending] = "half";
+  MemoryDisk disk(before);
+  WriteKnown(disk, {{"/a"}, "", {}});
+  Folder after = disk.Content();
+  EXPECT_EQ(after.erase(File), 1U);
+  EXPECT_EQ(after, others);
+}
+
 TEST(KnownCollections, AMissingFileIsAnEmptyOne) {
   MemoryDisk disk(Folder{});
   EXPECT_EQ(ReadKnown(disk), KnownCollections());

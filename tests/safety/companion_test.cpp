@@ -2,6 +2,7 @@
 // the new one, no film is lost, the failure is named, and the next try succeeds.
 #include <gtest/gtest.h>
 
+#include "companion/copies.h"
 #include "store/draft.h"
 #include "store/master_file.h"
 #include "tests/companion/command_test.h"
@@ -62,20 +63,66 @@ kit::Folder WithCopy() {
   return folder;
 }
 
+companion::FilesByName FilesOf(kit::MemoryDisk& collection) { return *companion::ReadCollection(collection); }
+
+// With a whole copy and what stops have left of two others.
+kit::Folder WithUnfinishedCopies() {
+  kit::Folder folder = Edited();
+  kit::MemoryDisk memory(folder);
+  for (const auto& [name, bytes] : FilesOf(memory)) {
+    folder["backups/Collection 2026-11-22 05-31-34/" + name] = bytes;
+    if (name != store::MasterFileName) folder["backups/Collection 2026-11-22 05-31-35/" + name + ".new"] = bytes;
+  }
+  folder["backups/Collection 2026-11-22 05-31-36.zip.new"] = "PK";
+  return folder;
+}
+
+kit::Folder WithExport() {
+  kit::Folder folder = Edited();
+  folder["films.csv"] = "Title\r\nOld\r\n";
+  return folder;
+}
+
+constexpr std::string_view CopiesFolder = "backups";
+
 // Without the copies of the collection.
 kit::Folder Collection(const kit::Folder& content) {
   kit::Folder collection = Visible(content);
-  std::erase_if(collection, [](const auto& file) { return file.first.starts_with("backups/"); });
+  std::erase_if(collection, [](const auto& file) { return file.first.starts_with(CopiesFolder); });
   return collection;
 }
 
-// The films of each copy in the folder that a stop may have left; a copy is one only if it has films.
-std::vector<std::string> CopiedFilms(const kit::Folder& content) {
-  std::vector<std::string> films;
-  for (const auto& [name, bytes] : content) {
-    if (name.starts_with("backups/Collection") && name.ends_with("/Recpra.Dat")) films.push_back(bytes);
+// By name; nothing for one that cannot be read.
+using Copies = std::map<std::string, std::optional<companion::FilesByName>>;
+
+// What is wrong if those that were there have to stay, and one of the collection may be new, or must be.
+std::string ComplaintAbout(const Copies& copies, const Copies& before, const companion::FilesByName& collection,
+                           bool must_be_new) {
+  std::size_t added = 0;
+  for (const auto& [name, files] : before) {
+    const auto found = copies.find(name);
+    if (files && (found == copies.end() || found->second != files)) return name + " is not as it was";
   }
-  return films;
+  for (const auto& [name, files] : copies) {
+    if (!files && name.ends_with(".zip")) return name + " is damaged";
+    const auto old = before.find(name);
+    if (!files || (old != before.end() && old->second)) continue;
+    if (files != collection) return name + " is no copy of the collection";
+    ++added;
+  }
+  if (added > 1) return "there is more than one new copy";
+  return must_be_new && added == 0 ? "there is no new copy" : "";
+}
+
+// A part of a copy that is left.
+std::string Unfinished(const Copies& copies, const kit::Folder& content) {
+  for (const auto& [name, files] : copies) {
+    if (!files) return name;
+  }
+  for (const auto& [name, bytes] : content) {
+    if (name.starts_with(CopiesFolder) && name.ends_with(".new")) return name;
+  }
+  return "";
 }
 
 struct Writing {
@@ -86,6 +133,7 @@ struct Writing {
   std::size_t Step = 1;    // between the calls that fail
   bool Repeats = true;     // done twice, it leaves the same
   bool KeepsFilms = true;  // in their slots or in the history; not only in a copy
+  bool Copies = false;     // makes a copy of the collection before it changes anything
 };
 
 void PrintTo(const Writing& writing, std::ostream* text) { *text << writing.Name; }
@@ -99,10 +147,19 @@ const std::vector<Writing>& Writings() {
       // Updates the film of slot 7 and adds one.
       {"Import", {"import", films.string(), "--doubles", "update", "--write"}, Edited, 32},
       {"ImportIntoANewCollection", {"import", films.string(), "--write"}, WithoutAMasterFile, 16, 1, true, false},
-      {"Backup", {"backup", "--write"}, Edited, 2, 7},
-      {"BackupAsZip", {"backup", "--zip", "--write"}, Edited, 8, 5},
-      {"RestoreBackup", {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"}, WithCopy, 4, 5, true, false},
+      {"FirstBackup", {"backup", "--write"}, Edited, 2, 7, true, true, true},
+      {"Backup", {"backup", "--write"}, WithUnfinishedCopies, 2, 7, true, true, true},
+      {"BackupAsZip", {"backup", "--zip", "--write"}, WithUnfinishedCopies, 4, 5, true, true, true},
+      {"RestoreBackup",
+       {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"},
+       WithCopy,
+       4,
+       5,
+       true,
+       false,
+       true},
       {"Merge", {"merge", "Recpra 2026-11-22 05-31-34.Dat", "--write"}, WithCopy, 4, 5},
+      {"Export", {"export", "--output", "HOME/films.csv"}, WithExport, 16},
       {"Sort", {"sort", "--write"}, Edited, 4, 3},
       {"Check", {"check", "--fix", "--write", "--yes"}, Disordered, 2, 7},
   };
@@ -127,14 +184,30 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
  protected:
   // The lock is in a real folder.
   int Write(runtime::Disk& disk) {
-    const std::string home = Locked.Path();
-    const companion::Ran ran = companion::RunIn(home, GetParam().Arguments, [&](const std::string& folder) {
-      std::unique_ptr<runtime::Disk> part = std::make_unique<kit::PassingDisk>(disk);
-      if (folder != home) part = std::make_unique<kit::SubfolderDisk>(disk, folder.substr(home.size() + 1));
-      return part;
-    });
+    std::vector<std::string> arguments = GetParam().Arguments;
+    for (std::string& argument : arguments) {
+      if (argument.starts_with("HOME/")) argument.replace(0, 4, Locked.Path());
+    }
+    const companion::Ran ran = companion::RunIn(Locked.Path(), arguments, PartsOf(disk));
     Complaints = ran.Errors;
     return ran.Status;
+  }
+  companion::DiskIn PartsOf(runtime::Disk& disk) const {
+    return [&disk, home = Locked.Path().string()](const std::string& folder) -> std::unique_ptr<runtime::Disk> {
+      if (folder == home) return std::make_unique<kit::PassingDisk>(disk);
+      return std::make_unique<kit::SubfolderDisk>(disk, folder.substr(home.size() + 1));
+    };
+  }
+  Copies CopiesOn(runtime::Disk& disk) const {
+    companion::Invocation invocation;
+    invocation.Folder = Locked.Path();
+    invocation.MakeDisk = PartsOf(disk);
+    Copies copies;
+    for (const companion::NamedCopy& copy :
+         companion::ListCopies(*invocation.MakeDisk(companion::CopiesIn(invocation.Folder)))) {
+      copies[copy.Name] = companion::ReadOther(invocation, copy.Name);
+    }
+    return copies;
   }
   kit::Folder Written() {
     kit::MemoryDisk memory(Before);
@@ -147,6 +220,11 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
     EXPECT_EQ(Write(counting), companion::Done) << Complaints;
     return counting.Calls();
   }
+  // "" if they are missing.
+  static std::string FilmsOf(const kit::Folder& folder) {
+    const auto films = folder.find(std::string(store::MasterFileName));
+    return films == folder.end() ? "" : films->second;
+  }
   // What is wrong with a folder in which the verb may have written, or must have.
   std::string ComplaintAfter(kit::MemoryDisk& memory, bool done) {
     if (StartedProgram started(memory); started.Program.Stopped()) return "the next start fails";
@@ -157,19 +235,28 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
       if (after == New.end() || !IsOldOrNew(name, bytes, old_bytes, after->second)) return name + " is a mixture";
     }
     if (done && found != New) return "it was not written";
-    for (const std::string& films : CopiedFilms(memory.Content())) {
-      if (films != Before.at("Recpra.Dat") && films != New.at("Recpra.Dat")) return "a copy has other films";
-    }
+    const bool must_be_copied = GetParam().Copies && (done || FilmsOf(found) != FilmsOf(Old));
+    const Copies copies = CopiesOn(memory);
+    const std::string wrong = ComplaintAbout(copies, OldCopies, OldFiles, must_be_copied);
+    if (!wrong.empty()) return wrong;
     const std::string lost = GetParam().KeepsFilms ? Complaint(memory, {Visible(memory.Content())}, Before) : "";
     if (!lost.empty()) return lost;
     if (!GetParam().Repeats && found == New) return "";
+    const companion::FilesByName files = FilesOf(memory);
     if (Write(memory) != companion::Done) return "the next try fails: " + Complaints;
-    return Collection(memory.Content()) == New ? "" : "the next try leaves another folder";
+    if (Collection(memory.Content()) != New) return "the next try leaves another folder";
+    if (!GetParam().Copies) return "";
+    const Copies more = CopiesOn(memory);
+    const std::string left = Unfinished(more, memory.Content());
+    return left.empty() ? ComplaintAbout(more, copies, files, true) : left + " is left";
   }
 
   const kit::FreshFolder Locked;
   std::string Complaints;
   const kit::Folder Before = GetParam().Before();
+  kit::MemoryDisk Start{Before};
+  const Copies OldCopies = CopiesOn(Start);
+  const companion::FilesByName OldFiles = FilesOf(Start);
   const kit::Folder Old = Collection(Before), New = Written();
 };
 
@@ -177,7 +264,8 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
 TEST_P(CompanionOnABadDisk, WritesWithoutFaults) {
   kit::MemoryDisk memory(Before);
   ASSERT_EQ(Write(memory), companion::Done);
-  EXPECT_TRUE(New != Old || Visible(memory.Content()).size() > Visible(Before).size());
+  EXPECT_TRUE(New != Old || GetParam().Copies);
+  EXPECT_EQ(ComplaintAbout(CopiesOn(memory), OldCopies, OldFiles, GetParam().Copies), "");
 }
 
 TEST_P(CompanionOnABadDisk, FailsNamedAndLeavesTheOldOrTheNew) {
