@@ -63,12 +63,16 @@ int Show(const Reading& reading, const std::vector<NamedDraft>& drafts, const In
   return Done;
 }
 
-// A draft is removed only once its film is saved.
-void Settle(runtime::Disk& disk, const NamedDraft& draft, bool keep) {
-  if (keep) {
-    runtime::Files files(disk);
-    if (!store::IsSaved(files, draft.Draft)) store::KeepDraft(files, draft.Draft);
-  }
+void Drop(runtime::Disk& disk, const std::string& name) {
+  const std::string file = runtime::InSafetyFolder(name);
+  runtime::RetryInterrupted(file, [&] { return disk.Remove(file); });
+  runtime::RetryInterrupted(file, [&] { return disk.SyncFolder(std::string(runtime::SafetyFolder)); });
+}
+
+// A draft is removed only once its film is saved; if it then stays, it does no harm.
+void Keep(runtime::Disk& disk, const NamedDraft& draft) {
+  runtime::Files files(disk);
+  if (!store::IsSaved(files, draft.Draft)) store::KeepDraft(files, draft.Draft);
   store::RemoveDraft(disk, draft.Name);
 }
 
@@ -78,7 +82,10 @@ int SettleAll(runtime::Disk& disk, const std::vector<NamedDraft>& drafts, const 
   std::optional<Json> json;
   if (invocation.Json) json.emplace(output.Text).BeginList();
   for (const NamedDraft& draft : drafts) {
-    Settle(disk, draft, keep);
+    if (keep)
+      Keep(disk, draft);
+    else
+      Drop(disk, draft.Name);
     const store::FilmRecord film = store::ToSave(draft.Draft);
     if (!json) {
       output.Text << draft.Name << ": " << TitleOf(film) << (keep ? " was saved.\n" : " was dropped.\n");

@@ -80,6 +80,10 @@ TEST_F(RealDiskTest, ALinkInPlaceOfTheSafetyFolderIsNeverFollowed) {
   EXPECT_EQ(disk_.Rename("Last", ".reelora/theirs.new"), -ELOOP);
   RemoveLeftovers(disk_);
   Discard(disk_, ".reelora/theirs.new");
+  fs::create_directory(Path("elsewhere/empty"));
+  EXPECT_EQ(disk_.RemoveFolder(".reelora/empty"), -ELOOP);
+  EXPECT_EQ(disk_.RemoveFolder("elsewhere"), -ENOTEMPTY);
+  EXPECT_EQ(disk_.RemoveFolder("elsewhere/empty"), 0);
   EXPECT_EQ(story::ReadBytes(Path("elsewhere/theirs.new")), "theirs");
 }
 

@@ -83,12 +83,19 @@ kit::Folder WithExport() {
   return folder;
 }
 
-constexpr std::string_view CopiesFolder = "backups";
+// The folders that copies go to; all begin like the first.
+const std::string CopiesFolders[] = {"backups", "backups of mine"};
+
+kit::Folder WithCopiesFolder() {
+  kit::Folder folder = Edited();
+  folder[CopiesFolders[1] + "/notes.txt"] = "mine";
+  return folder;
+}
 
 // Without the copies of the collection.
 kit::Folder Collection(const kit::Folder& content) {
   kit::Folder collection = Visible(content);
-  std::erase_if(collection, [](const auto& file) { return file.first.starts_with(CopiesFolder); });
+  std::erase_if(collection, [](const auto& file) { return file.first.starts_with(CopiesFolders[0]); });
   return collection;
 }
 
@@ -120,7 +127,7 @@ std::string Unfinished(const Copies& copies, const kit::Folder& content) {
     if (!files) return name;
   }
   for (const auto& [name, bytes] : content) {
-    if (name.starts_with(CopiesFolder) && name.ends_with(".new")) return name;
+    if (name.starts_with(CopiesFolders[0]) && name.ends_with(".new")) return name;
   }
   return "";
 }
@@ -146,9 +153,11 @@ const std::vector<Writing>& Writings() {
       {"Draft", {"draft", "--keep", "--write"}, WithDrafts, 32, 1, false},
       // Updates the film of slot 7 and adds one.
       {"Import", {"import", films.string(), "--doubles", "update", "--write"}, Edited, 32},
+      {"ImportAndSort", {"import", films.string(), "--doubles", "update", "--sort", "--write"}, Edited, 4, 5},
       {"ImportIntoANewCollection", {"import", films.string(), "--write"}, WithoutAMasterFile, 16, 1, true, false},
-      {"FirstBackup", {"backup", "--write"}, Edited, 2, 7, true, true, true},
-      {"Backup", {"backup", "--write"}, WithUnfinishedCopies, 2, 7, true, true, true},
+      {"FirstBackup", {"backup", "--write"}, Edited, 2, 13, true, true, true},
+      {"Backup", {"backup", "--write"}, WithUnfinishedCopies, 2, 11, true, true, true},
+      {"BackupTo", {"backup", "--to", "HOME/backups of mine", "--write"}, WithCopiesFolder, 2, 17, true, true, true},
       {"BackupAsZip", {"backup", "--zip", "--write"}, WithUnfinishedCopies, 4, 5, true, true, true},
       {"RestoreBackup",
        {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"},
@@ -203,9 +212,11 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
     invocation.Folder = Locked.Path();
     invocation.MakeDisk = PartsOf(disk);
     Copies copies;
-    for (const companion::NamedCopy& copy :
-         companion::ListCopies(*invocation.MakeDisk(companion::CopiesIn(invocation.Folder)))) {
-      copies[copy.Name] = companion::ReadOther(invocation, copy.Name);
+    for (const std::string& name : CopiesFolders) {
+      const std::string folder = invocation.Folder + "/" + name;
+      for (const companion::NamedCopy& copy : companion::ListCopies(*invocation.MakeDisk(folder))) {
+        copies[name + "/" + copy.Name] = companion::ReadOther(invocation, folder + "/" + copy.Name);
+      }
     }
     return copies;
   }
