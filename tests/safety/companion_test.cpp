@@ -2,6 +2,9 @@
 // the new one, no film is lost, the failure is named, and the next try succeeds.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "companion/copies.h"
 #include "store/draft.h"
 #include "store/master_file.h"
@@ -189,8 +192,13 @@ bool IsOldOrNew(const std::string& name, const std::string& found, const std::st
   return found.size() % store::RecordLength == 0 && found.size() >= before.size() && found.size() <= after.size();
 }
 
+// Whether to try every call and 32 states instead of a sample: minutes instead of seconds.
+bool TriesEverything() { return std::getenv("REELORA_EVERY_CALL") != nullptr; }
+
 class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
  protected:
+  static std::size_t Step() { return TriesEverything() ? 1 : GetParam().Step; }
+  static std::size_t MostStates() { return std::max<std::size_t>(GetParam().MostStates, TriesEverything() ? 32 : 0); }
   // The lock is in a real folder.
   int Write(runtime::Disk& disk) {
     std::vector<std::string> arguments = GetParam().Arguments;
@@ -282,7 +290,7 @@ TEST_P(CompanionOnABadDisk, WritesWithoutFaults) {
 TEST_P(CompanionOnABadDisk, FailsNamedAndLeavesTheOldOrTheNew) {
   const std::size_t calls = Calls();
   for (const FaultRow& fault : Faults) {
-    for (std::size_t at = 0; at < calls; at += GetParam().Step) {
+    for (std::size_t at = 0; at < calls; at += Step()) {
       SCOPED_TRACE(std::string(fault.Name) + " at call " + std::to_string(at));
       kit::MemoryDisk memory(Before);
       kit::FaultyDisk faulty(memory, {fault.As, at, fault.FromThenOn});
@@ -299,7 +307,7 @@ TEST_P(CompanionOnABadDisk, FailsNamedAndLeavesTheOldOrTheNew) {
 TEST_P(CompanionOnABadDisk, OutlivesAKillAtAnyCall) {
   const std::size_t calls = Calls();
   for (kit::Fault fault : {kit::Fault::Kill, kit::Fault::KillHalfway}) {
-    for (std::size_t at = 0; at < calls; at += GetParam().Step) {
+    for (std::size_t at = 0; at < calls; at += Step()) {
       SCOPED_TRACE("killed at call " + std::to_string(at));
       kit::MemoryDisk memory(Before);
       kit::FaultyDisk faulty(memory, {fault, at});
@@ -313,7 +321,7 @@ TEST_P(CompanionOnABadDisk, OutlivesALossOfPowerAtAnyMoment) {
   kit::MemoryDisk memory(Before);
   ASSERT_EQ(Write(memory), companion::Done);
   for (std::size_t moment = 0; moment <= memory.Moments(); ++moment) {
-    for (const kit::Folder& state : memory.AfterPowerLoss(moment, GetParam().MostStates)) {
+    for (const kit::Folder& state : memory.AfterPowerLoss(moment, MostStates())) {
       kit::MemoryDisk left(state);
       ASSERT_EQ(ComplaintAfter(left, moment == memory.Moments()), "") << moment;
     }
