@@ -3,6 +3,7 @@
 #include "launcher/known_collections.h"
 
 #include <algorithm>
+#include <ctime>
 
 #include "runtime/whole_io.h"
 
@@ -58,6 +59,17 @@ bool IsTemporary(std::string_view name) {
          (name.size() > 1 && name[0] == '.' && name.find_first_not_of("0123456789", 1) == std::string_view::npos);
 }
 
+// Another start may be writing a file that was changed in the last minute.
+bool MayBeInUse(runtime::Disk& settings, const std::string& name) {
+  constexpr std::int64_t Minute = 60;
+  try {
+    const runtime::OpenFile file(settings, name, runtime::Disk::Mode::Read);
+    return std::time(nullptr) - file.Modified().Seconds < Minute;
+  } catch (const runtime::Failure&) {
+    return true;
+  }
+}
+
 }  // namespace
 
 KnownCollections ReadKnown(runtime::Disk& settings) {
@@ -84,7 +96,7 @@ void WriteKnown(runtime::Disk& settings, const KnownCollections& known) {
   if (!known.CopiesFolder.empty()) text.append(CopiesKey).append(Escaped(known.CopiesFolder)).append("\n");
   for (const std::string& line : known.Others) text.append(line).append("\n");
   for (const std::string& name : settings.List("")) {
-    if (IsTemporary(name)) runtime::Discard(settings, name);
+    if (IsTemporary(name) && !MayBeInUse(settings, name)) runtime::Discard(settings, name);
   }
   runtime::WriteAside(settings, std::string(SettingsFile), [&](const runtime::OpenFile& file) { file.Write(text, 0); });
 }

@@ -3,9 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
+
 #include "runtime/failure.h"
 #include "tests/kit/faulty_disk.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/kit/memory_disk.h"
+#include "tests/story/world.h"
 
 namespace launcher {
 namespace {
@@ -35,6 +40,18 @@ TEST(KnownCollections, WhatStopsHaveLeftGoesWithTheNextWrite) {
   Folder after = disk.Content();
   EXPECT_EQ(after.erase(File), 1U);
   EXPECT_EQ(after, others);
+}
+
+TEST(KnownCollections, WhatAnotherStartMayBeWritingStays) {
+  const kit::FreshFolder folder;
+  const std::filesystem::path present = folder.Path() / (File + ".new"), left = folder.Path() / (File + ".2.new");
+  for (const auto& path : {present, left}) story::WriteBytes(path, "half");
+  std::filesystem::last_write_time(left, std::filesystem::last_write_time(left) - std::chrono::minutes(2));
+  runtime::RealDisk disk(folder.Path().string());
+  WriteKnown(disk, {{"/a"}, "", {}});
+  EXPECT_TRUE(std::filesystem::exists(present));
+  EXPECT_FALSE(std::filesystem::exists(left));
+  EXPECT_EQ(ReadKnown(disk).Folders, std::vector<std::string>{"/a"});
 }
 
 TEST(KnownCollections, AMissingFileIsAnEmptyOne) {
