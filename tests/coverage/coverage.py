@@ -27,7 +27,7 @@ HANDLER = re.compile(r"^frm\w+::\w+_[A-Z]\w*\(\)$")
 # Too slow without optimization, or held to a time or a size of memory.
 SLOW = (
     "*Kill*:*Strength*:KeyLimits*:CutSort*:*AfterAFailure*:SortProperty.Large*:*Monkey*:*Feeding*:Crash*:ReadOnlyWalk*"
-    ":*AtOnce*:Memory*:ReportTest.ThePlace*:*EveryCall.*/a*"
+    ":*FedFileOfReaders*:*AtOnce*:Memory*:ReportTest.ThePlace*:*EveryCall.*/a*"
 )
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
