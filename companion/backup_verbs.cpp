@@ -81,6 +81,7 @@ struct ListedCopy {
 void PrintCopies(const std::vector<ListedCopy>& copies, Output& output) {
   const std::vector<Column> columns = {{"Copy"}, {"Made"}, {"Kind"}, {"Films", true}};
   std::vector<std::vector<std::string>> rows;
+  rows.reserve(copies.size());
   for (const ListedCopy& listed : copies) {
     rows.push_back({listed.Copy.Name, runtime::StampText(listed.Copy.When),
                     std::string(KindWords[static_cast<std::size_t>(listed.Copy.Kind)]),

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 // A folder of this machine; what is read of a copy of the collection differs in a byte from what was written.
 class ForgetfulDisk final : public kit::PassingDisk {
  public:
-  explicit ForgetfulDisk(std::string folder)
+  explicit ForgetfulDisk(const std::string& folder)
       : PassingDisk(real_), real_(folder), forgets_(folder.find("/Collection ") != std::string::npos) {}
 
   std::int64_t ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) override {

@@ -99,7 +99,7 @@ TEST_F(RealDiskTest, NewFilesTakeThePermissionsOfTheModel) {
     ASSERT_EQ(::chmod(Path("Recpra.Dat").c_str(), permissions), 0);
     disk_.NewFilesLike("Recpra.Dat");
     ReplaceFile(disk_, "Last", "7");
-    OpenFile(disk_, ".reelora/journal", Mode::Create);
+    const OpenFile journal(disk_, ".reelora/journal", Mode::Create);
     EXPECT_EQ(PermissionsOf("Last"), permissions);
     EXPECT_EQ(PermissionsOf(".reelora/journal"), permissions);
     fs::remove(Path(".reelora/journal"));

@@ -256,9 +256,9 @@ class CompanionOnABadDisk : public testing::TestWithParam<Writing> {
     if (done && found != New) return "it was not written";
     const bool must_be_copied = GetParam().Copies && (done || FilmsOf(found) != FilmsOf(Old));
     const Copies copies = CopiesOn(memory);
-    const std::string wrong = ComplaintAbout(copies, OldCopies, OldFiles, must_be_copied);
+    std::string wrong = ComplaintAbout(copies, OldCopies, OldFiles, must_be_copied);
     if (!wrong.empty()) return wrong;
-    const std::string lost = GetParam().KeepsFilms ? Complaint(memory, {Visible(memory.Content())}, Before) : "";
+    std::string lost = GetParam().KeepsFilms ? Complaint(memory, {Visible(memory.Content())}, Before) : "";
     if (!lost.empty()) return lost;
     if (!GetParam().Repeats && found == New) return "";
     const companion::FilesByName files = FilesOf(memory);
