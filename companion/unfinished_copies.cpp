@@ -1,4 +1,5 @@
-// No film is ever removed here: the films of a copy come last, and a folder that may have them stays.
+// The films of a copy are written last; a folder that may have them stays. What is removed with the others is the
+// copied history.
 #include "companion/unfinished_copies.h"
 
 #include <algorithm>
