@@ -1,4 +1,5 @@
-// Each file is written aside, synced and renamed, the films last: a folder without them is no copy.
+// Each file is written aside, synced and renamed. The temporary file of the films is there from the beginning and gets
+// its name last: a folder that has it is unfinished.
 #include "companion/copies.h"
 
 #include <algorithm>
@@ -92,13 +93,17 @@ DiskIn DisksLikeTheFilms(const Invocation& invocation) {
 void WriteFolder(const DiskIn& make_disk, const std::string& folder, const FilesByName& files) {
   const std::unique_ptr<runtime::Disk> copy = make_disk(folder);
   const std::string safety(runtime::SafetyFolder);
+  const runtime::OpenFile films = runtime::CreateFresh(*copy, MasterName);
+  SyncFolder(*copy, "");
   runtime::MakeSafetyFolder(*copy);
   for (const auto& [name, bytes] : files) {
     if (name != MasterName) WriteFile(*copy, name, bytes);
   }
   SyncFolder(*copy, safety);
+  films.Write(files.at(MasterName), 0);
+  films.Sync();
   SyncFolder(*copy, "");
-  WriteFile(*copy, MasterName, files.at(MasterName));
+  runtime::RetryInterrupted(MasterName, [&] { return copy->Rename(films.Name(), MasterName); });
   SyncFolder(*copy, "");
 }
 

@@ -36,7 +36,7 @@ std::optional<NamedCopy> CopyOfName(const std::string& name);
 std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
 
 // Writes a new copy, synced and read back, and returns its name; nothing if it cannot be zipped or read back. A stop
-// leaves a folder without films, or a file whose name ends in .new: neither is a copy, and the next one removes both.
+// leaves a folder or a zip that is marked as unfinished by a name that ends in .new; the next copy removes both.
 // No file is more readable than the collection's films.
 std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
                                      CopyKind kind);

@@ -1,5 +1,5 @@
-// The films of a copy are written last; a folder that may have them stays. What is removed with the others is the
-// copied history.
+// A folder is unfinished as long as its films have their temporary name. One without either name is what somebody has
+// left of a copy, and stays unless it is empty.
 #include "companion/unfinished_copies.h"
 
 #include <algorithm>
@@ -11,6 +11,8 @@
 
 namespace companion {
 namespace {
+
+const std::string UnfinishedFilms = std::string(store::MasterFileName) + std::string(runtime::AsideEnding);
 
 bool IsTemporary(std::string_view name) { return name.ends_with(runtime::AsideEnding); }
 
@@ -37,6 +39,10 @@ std::vector<std::string> FilesIn(runtime::Disk& copy) {
   return names;
 }
 
+bool IsUnfinished(const std::vector<std::string>& files) {
+  return files.empty() || std::find(files.begin(), files.end(), UnfinishedFilms) != files.end();
+}
+
 bool IsPartOfACopy(const std::string& name) {
   return name != store::MasterFileName && BelongsToCollection(BaseOf(name));
 }
@@ -47,9 +53,13 @@ void RemoveUnfinished(const DiskIn& make_disk, const std::string& folder, const 
   const std::unique_ptr<runtime::Disk> copies = make_disk(folder), copy = make_disk(folder + "/" + name);
   if (MayHaveFilms(*copy) || copies->SyncFolder(name) < 0) return;  // a link cannot be synced
   const std::vector<std::string> files = FilesIn(*copy);
-  if (!std::all_of(files.begin(), files.end(), IsPartOfACopy)) return;
-  for (const std::string& file : files) runtime::Discard(*copy, file);
+  if (!IsUnfinished(files) || !std::all_of(files.begin(), files.end(), IsPartOfACopy)) return;
+  for (const std::string& file : files) {
+    if (file != UnfinishedFilms) runtime::Discard(*copy, file);
+  }
   copy->RemoveFolder(std::string(runtime::SafetyFolder));
+  if (FilesIn(*copy).size() > 1 || copy->SyncFolder("") < 0) return;  // the next copy tries again
+  runtime::Discard(*copy, UnfinishedFilms);
   copies->RemoveFolder(name);
 }
 

@@ -7,8 +7,8 @@
 
 namespace companion {
 
-// Removes the copy of that name from the folder of the copies if it is a folder without films. One that holds any file
-// that is not of a copy stays as it is, and so does one that a link leads to.
+// Removes the copy of that name from the folder of the copies if it is an unfinished or empty folder. One that holds
+// any file that is not of a copy stays as it is, and so does one that a link leads to.
 void RemoveUnfinished(const DiskIn& make_disk, const std::string& folder, const std::string& name);
 // Removes every such copy, and zips that have not got their names. Failures are ignored: none of these does any harm.
 void RemoveAllUnfinished(const DiskIn& make_disk, const std::string& folder);

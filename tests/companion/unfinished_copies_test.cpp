@@ -28,7 +28,8 @@ class UnfinishedCopies : public testing::Test {
     story::WriteBytes(file, "bytes");
   }
   static void PutUnfinished(const fs::path& folder) {
-    for (const char* name : {"AutoSave", "Last.new", ".reelora/history", ".reelora/history.new"}) Put(folder / name);
+    for (const char* name : {"AutoSave", "Last.new", ".reelora/history", ".reelora/history.new", "Recpra.Dat.new"})
+      Put(folder / name);
   }
   int Backup(const DiskIn& disk = RealDiskIn) { return RunIn(Folder.Path(), {"backup", "--write"}, disk).Status; }
   std::ptrdiff_t CountOfCopies() const {
@@ -43,6 +44,22 @@ TEST_F(UnfinishedCopies, GoWithTheNextCopy) {
   Put(Copies() / (Name + ".zip.new"));
   EXPECT_EQ(Backup(), Done);
   EXPECT_EQ(CountOfCopies(), 1);
+}
+
+TEST_F(UnfinishedCopies, GoIfTheyAreEmpty) {
+  fs::create_directory(Copies() / Name);
+  EXPECT_EQ(Backup(), Done);
+  EXPECT_EQ(CountOfCopies(), 1);
+}
+
+TEST_F(UnfinishedCopies, AreNotThoseFromWhichTheFilmsWereTaken) {
+  EXPECT_EQ(Backup(), Done);
+  const fs::path copy = fs::directory_iterator(Copies())->path();
+  Put(copy / ".reelora/history");
+  fs::rename(copy / "Recpra.Dat", Elsewhere.Path() / "Recpra.Dat");
+  EXPECT_EQ(Backup(), Done);
+  EXPECT_EQ(CountOfCopies(), 2);
+  EXPECT_TRUE(fs::exists(copy / ".reelora/history"));
 }
 
 TEST_F(UnfinishedCopies, StayIfAnotherFileIsThere) {

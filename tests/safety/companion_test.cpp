@@ -74,7 +74,7 @@ kit::Folder WithUnfinishedCopies() {
   kit::MemoryDisk memory(folder);
   for (const auto& [name, bytes] : FilesOf(memory)) {
     folder["backups/Collection 2026-11-22 05-31-34/" + name] = bytes;
-    if (name != store::MasterFileName) folder["backups/Collection 2026-11-22 05-31-35/" + name + ".new"] = bytes;
+    folder["backups/Collection 2026-11-22 05-31-35/" + name + ".new"] = bytes;
   }
   folder["backups/Collection 2026-11-22 05-31-36.zip.new"] = "PK";
   return folder;
