@@ -1,6 +1,7 @@
 // backup makes a copy of the collection, backups lists the copies, restore-backup puts one back.
 #include "companion/copies.h"
 #include "companion/json.h"
+#include "companion/new_collection.h"
 #include "companion/printable.h"
 #include "companion/reading.h"
 #include "companion/table.h"
@@ -129,8 +130,9 @@ int AddRestored(const FilesByName& copy, const std::string& kept, bool written, 
 }
 
 int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const FilesByName& copy, Output& output) {
-  const std::optional<FilesByName> present = ReadCollection(disk);
+  std::optional<FilesByName> present = ReadCollection(disk);
   if (!present) return TooLarge(output);
+  present->try_emplace(std::string(store::MasterFileName));  // a lost master file has no films
   MakeCopiesFolder(disk);
   const std::optional<std::string> kept =
       WriteCopy(invocation, CopiesIn(invocation.Folder), *present, CopyKind::Folder);
@@ -172,7 +174,8 @@ int Backups(const Invocation& invocation, Output& output) {
 }
 
 int RestoreBackup(const Invocation& invocation, Output& output) {
-  const Reading reading(invocation);
+  const bool is_lost = !HasMasterFile(*invocation.MakeDisk(invocation.Folder));
+  if (is_lost && !MayBecomeCollection(invocation, output)) return Found;
   const std::optional<FilesByName> copy = ReadOther(invocation, invocation.Arguments[0]);
   if (!copy) {
     output.Errors << "There is no copy \"" << invocation.Arguments[0] << "\" that can be read.\n";

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <set>
 
+#include "companion/writing.h"
 #include "tests/companion/command_test.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
@@ -60,6 +61,28 @@ TEST_F(BackupTest, OfThePresentCollectionComesBeforeAnotherIsPutBack) {
   EXPECT_EQ(Master(), kit::Films(1, 3));
   EXPECT_EQ(RunIn(Folder.Path(), {"restore-backup", Other.Path().string() + "/", "--write"}).Status, Done);
   EXPECT_EQ(Master(), kit::Films(7, 9));
+}
+
+TEST_F(BackupTest, IsPutBackIfTheMasterFileIsLost) {
+  EXPECT_EQ(RunIn(Folder.Path(), {"backup", "--write"}).Status, Done);
+  const std::string copy = fs::directory_iterator(Folder.Path() / "backups")->path().filename();
+  fs::remove(Folder.Path() / "Recpra.Dat");
+  EXPECT_EQ(
+      RunIn(Folder.Path(), {"restore-backup", copy}).Text,
+      "3 films in 13 files would be put back, after a copy of what is there now.\n" + std::string(NothingWritten));
+  EXPECT_FALSE(fs::exists(Folder.Path() / "Recpra.Dat"));
+  const Ran ran = RunIn(Folder.Path(), {"restore-backup", copy, "--write"});
+  EXPECT_EQ(ran.Status, Done) << ran.Errors;
+  EXPECT_EQ(ran.Text.substr(0, 43), "3 films put back. What was there, 0 films, ");
+  EXPECT_EQ(Master(), kit::Films(1, 3));
+}
+
+TEST_F(BackupTest, IsNotPutIntoAFolderOfOtherFiles) {
+  story::WriteBytes(Elsewhere.Path() / "notes.txt", "mine");
+  const Ran ran = RunIn(Elsewhere.Path(), {"restore-backup", Other.Path(), "--write"});
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_NE(ran.Errors.find("has other files in it, and no collection"), std::string::npos) << ran.Errors;
+  EXPECT_FALSE(fs::exists(Elsewhere.Path() / "Recpra.Dat"));
 }
 
 TEST_F(BackupTest, IsRefusedIfTheCollectionIsTooLarge) {

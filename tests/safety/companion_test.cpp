@@ -60,13 +60,19 @@ kit::Folder WithoutAMasterFile() {
 }
 
 // With a copy of other films.
-kit::Folder WithCopy() {
-  kit::Folder folder = Edited();
+kit::Folder WithCopy(kit::Folder folder) {
   folder["backups/Recpra 2026-11-22 05-31-34.Dat"] = kit::Films(20, 31);
   return folder;
 }
+kit::Folder WithCopy() { return WithCopy(Edited()); }
+kit::Folder LostWithCopy() { return WithCopy(WithoutAMasterFile()); }
 
-companion::FilesByName FilesOf(kit::MemoryDisk& collection) { return *companion::ReadCollection(collection); }
+// Without a master file, it has no films.
+companion::FilesByName FilesOf(kit::MemoryDisk& collection) {
+  companion::FilesByName files = *companion::ReadCollection(collection);
+  files.try_emplace(std::string(store::MasterFileName));
+  return files;
+}
 
 // With a whole copy and what stops have left of two others.
 kit::Folder WithUnfinishedCopies() {
@@ -165,6 +171,14 @@ const std::vector<Writing>& Writings() {
       {"RestoreBackup",
        {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"},
        WithCopy,
+       4,
+       5,
+       true,
+       false,
+       true},
+      {"RestoreLostBackup",
+       {"restore-backup", "Recpra 2026-11-22 05-31-34.Dat", "--write"},
+       LostWithCopy,
        4,
        5,
        true,
