@@ -15,16 +15,29 @@ store::FilmRecord FilmIn(runtime::Disk& disk, std::int64_t slot) {
   return film;
 }
 
+// A history that cannot be opened stops the first save that needs it, not the start.
+std::optional<std::int64_t> CountIfReadable(runtime::Disk& disk) {
+  try {
+    return store::CountHistory(disk);
+  } catch (const runtime::Failure&) {
+    return std::nullopt;
+  }
+}
+
 }  // namespace
 
 OverwrittenFilms::OverwrittenFilms(Program& program)
-    : program_(program), entries_(store::CountHistory(program.Files.Disk())) {}
+    : program_(program), entries_(CountIfReadable(program.Files.Disk())) {}
 
 std::vector<store::KeptFilm> OverwrittenFilms::TakeLost() {
   runtime::Files& files = program_.Files;
   if (records_written_ == files.RecordsWritten()) return {};
   records_written_ = files.RecordsWritten();
-  std::vector<store::KeptFilm> lost = store::ReadHistory(files.Disk(), entries_);
+  if (!entries_) {
+    entries_ = CountIfReadable(files.Disk());
+    return {};
+  }
+  std::vector<store::KeptFilm> lost = store::ReadHistory(files.Disk(), *entries_);
   if (!lost.empty()) entries_ = lost.back().Number;
   std::erase_if(lost, [&](const store::KeptFilm& kept) {
     return FilmIn(files.Disk(), kept.Slot).Get(store::FilmField::Title) == kept.Film.Get(store::FilmField::Title);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "app/program.h"
@@ -20,5 +21,5 @@ class OverwrittenFilms {
  private:
   Program& program_;
   std::int64_t records_written_ = 0;
-  std::int64_t entries_;  // of the history, seen so far
+  std::optional<std::int64_t> entries_;  // of the history, seen so far; nothing while it cannot be read
 };

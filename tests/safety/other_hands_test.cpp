@@ -2,15 +2,18 @@
 #include "tests/safety/other_hands.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
 
+#include "app/overwritten_films.h"
 #include "runtime/record_journal.h"
 #include "store/film_record.h"
 #include "store/master_file.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/ordinary_user.h"
 #include "tests/safety/disabled_safeguard.h"
 #include "tests/safety/steps.h"
 #include "tests/safety/stopped_work.h"
@@ -48,6 +51,59 @@ TEST(OtherHands, AReplacedOrRemovedMasterFileOnTheRealDiskStopsTheSave) {
     if (!removed) {
       EXPECT_EQ(story::ReadBytes(master), other);
     }
+  }
+}
+
+namespace fs = std::filesystem;
+
+struct HistoryRow {
+  const char* Name;
+  void (*Plant)(const fs::path& safety, const fs::path& elsewhere);
+};
+const HistoryRow HistoryRows[] = {
+    {"pipe", [](const fs::path& safety, const fs::path&) { ::mkfifo((safety / "history").c_str(), 0600); }},
+    {"folder", [](const fs::path& safety, const fs::path&) { fs::create_directory(safety / "history"); }},
+    {"link",
+     [](const fs::path& safety, const fs::path& elsewhere) {
+       story::WriteBytes(elsewhere / "history", "");
+       fs::create_symlink(elsewhere / "history", safety / "history");
+     }},
+    {"unreadable",
+     [](const fs::path& safety, const fs::path&) {
+       story::WriteBytes(safety / "history", "");
+       fs::permissions(safety / "history", fs::perms::none);
+     }},
+    {"linked folder",
+     [](const fs::path& safety, const fs::path& elsewhere) {
+       fs::remove(safety);
+       fs::create_directory_symlink(elsewhere, safety);
+     }},
+    {"file for a folder",
+     [](const fs::path& safety, const fs::path&) {
+       fs::remove(safety);
+       story::WriteBytes(safety, "");
+     }},
+};
+
+// It stops the save that needs it, by name.
+TEST(OtherHands, AHistoryThatCannotBeOpenedDoesNotStopTheStart) {
+  for (const HistoryRow& row : HistoryRows) {
+    SCOPED_TRACE(row.Name);
+    const kit::OrdinaryUser user;
+    const kit::FreshFolder fresh, elsewhere;
+    for (const auto& [name, content] : kit::FolderOfFilms(2)) {
+      if (kit::FolderOf(name).empty()) story::WriteBytes(fresh.Path() / name, content);
+    }
+    fs::create_directory(fresh.Path() / runtime::SafetyFolder);
+    row.Plant(fresh.Path() / runtime::SafetyFolder, elsewhere.Path());
+    runtime::RealDisk disk(fresh.Path().string());
+    StartedProgram started(disk);
+    OverwrittenFilms films(started.Program);
+    EditFilm(1, 1)(started.Program);
+    ASSERT_TRUE(started.Program.Stopped());
+    EXPECT_EQ(started.Program.Stopped()->File.substr(0, 8), ".reelora");
+    EXPECT_EQ(films.TakeLost().size(), 0U);
+    EXPECT_EQ(story::ReadBytes(fresh.Path() / store::MasterFileName), kit::Films(1, 2));
   }
 }
 
