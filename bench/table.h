@@ -13,7 +13,7 @@ namespace bench {
 struct Line {
   std::string What;
   double Amount = 0;
-  std::string Baseline = "";
+  std::string Baseline = {};
   double BaselineAmount = 0;
   std::optional<double> Goal = std::nullopt;
 };

@@ -58,6 +58,7 @@ class Typist {
 double Measure(const std::filesystem::path& folder, bool drafts) {
   Typist typist(folder, drafts);
   std::vector<double> times;
+  times.reserve(Characters);
   for (int number = 0; number < Characters; ++number) times.push_back(typist.Type(number));
   if (!typist.Typed()) throw std::runtime_error("nothing was typed");
   std::nth_element(times.begin(), times.begin() + Characters / 2, times.end());

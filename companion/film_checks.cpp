@@ -23,6 +23,7 @@ std::string Quoted(std::string_view text) { return "\"" + Printable(text) + "\""
 template <typename Table, typename CodeOfRow>
 std::vector<std::string_view> CodesOf(const Table& table, CodeOfRow code_of_row) {
   std::vector<std::string_view> codes;
+  codes.reserve(std::size(table));
   for (const auto& row : table) codes.push_back(code_of_row(row));
   return codes;
 }

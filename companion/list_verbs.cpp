@@ -49,8 +49,9 @@ bool ReadColumns(const Invocation& invocation, Request& request, std::string& co
   std::string unknown;
   std::optional<std::vector<FieldName>> columns = FindFields(asked.value_or(std::string(UsualColumns)), unknown);
   complaint = "no field is called " + unknown;
-  if (columns) request.Columns = *std::move(columns);
-  return columns.has_value();
+  if (!columns) return false;
+  request.Columns = *std::move(columns);
+  return true;
 }
 
 std::optional<Request> ReadRequest(const Invocation& invocation, std::string& complaint) {
@@ -96,6 +97,7 @@ bool IsRight(const FieldName& name) { return name.IsNumber() || name.Fields.fron
 
 void PrintRows(const std::vector<NumberedFilm>& films, const std::vector<FieldName>& names, Output& output) {
   std::vector<Column> columns;
+  columns.reserve(names.size());
   for (const FieldName& name : names) columns.push_back({std::string(name.Name), IsRight(name)});
   std::vector<std::vector<std::string>> rows;
   for (const NumberedFilm& film : films) {

@@ -14,12 +14,14 @@ constexpr std::size_t Narrowest = 4;
 
 Row Headings(const std::vector<Column>& columns) {
   Row headings;
+  headings.reserve(columns.size());
   for (const Column& column : columns) headings.push_back(column.Heading);
   return headings;
 }
 
 std::vector<std::size_t> Widths(const std::vector<Column>& columns, const std::vector<Row>& rows) {
   std::vector<std::size_t> widths;
+  widths.reserve(columns.size());
   for (const Column& column : columns) widths.push_back(Width(column.Heading));
   for (const Row& row : rows) {
     for (std::size_t at = 0; at < widths.size(); ++at) widths[at] = std::max(widths[at], Width(row[at]));

@@ -103,6 +103,7 @@ class SurfaceInterface final : public HolderInterface {
       return std::pair(one->Place.Top, one->Place.Left) < std::pair(other->Place.Top, other->Place.Left);
     });
     std::vector<QObject*> all;
+    all.reserve(controls.size() + 1);
     for (const forms::Control* control : controls) all.push_back(&form_.ViewOf(*control)->Widget());
     if (form_.List().Cell(0, 0)) all.push_back(&form_.List());
     return all;

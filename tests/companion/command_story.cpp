@@ -59,7 +59,8 @@ void AddLines(const std::string& mark, const std::string& text, std::vector<std:
   std::string line;
   while (std::getline(all, line)) {
     line.resize(line.find_last_not_of(' ') + 1);
-    lines.push_back(line.empty() ? mark : mark + " " + line);
+    lines.push_back(mark);
+    if (!line.empty()) lines.back().append(" ").append(line);
   }
 }
 
@@ -80,7 +81,7 @@ class Player {
     for (std::size_t at = 0; at < story_.Lines.size(); ++at) {
       const std::string& line = story_.Lines[at];
       const std::string complaint = line[0] == '$' || line[0] == '%' ? RunLine(at) : PlayLine(line);
-      if (!complaint.empty()) return line + "\n" + complaint;
+      if (!complaint.empty()) return std::string(line).append("\n").append(complaint);
     }
     return "";
   }

@@ -45,6 +45,7 @@ TEST(TimeOfCopy, OtherNamesAreNoCopies) {
 
 TEST(Superseded, TheLastTenStayHoweverOldTheyAre) {
   std::vector<std::string> names;
+  names.reserve(11);
   for (int count = 0; count < 11; ++count) names.push_back(NameOfCopy(Now - days(3000) - seconds(count)));
   EXPECT_EQ(Superseded(names, Now), std::vector<std::string>{NameOfCopy(Now - days(3000) - seconds(10))});
 }

@@ -12,8 +12,6 @@
 namespace launcher {
 namespace {
 
-namespace fs = std::filesystem;
-
 struct Pipe {
   Pipe() { static_cast<void>(!::pipe(Ends.data())); }
   ~Pipe() {

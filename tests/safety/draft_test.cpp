@@ -19,7 +19,7 @@ const std::string Master(store::MasterFileName);
 
 using Event = std::function<void(frmPage1&)>;
 
-Event Type(forms::TextBox frmPage1::*box, std::string text) {
+Event Type(forms::TextBox frmPage1::*box, const std::string& text) {
   return [box, text](frmPage1& screen) { (screen.*box).SetText(text); };
 }
 

@@ -16,7 +16,7 @@ forms::Answer ReadersDesk::AskMessageBox(forms::Icon, std::string_view, std::str
   return random_() % 2 == 0 ? forms::Answer::Yes : forms::Answer::No;
 }
 
-#define READER(name) [](frmPage1& screen) -> forms::Control& { return screen.name; }
+#define READER(name) ([](frmPage1& screen) -> forms::Control& { return screen.name; })
 
 const std::vector<Reader>& Readers() {
   static const std::vector<Reader> readers = {

@@ -104,10 +104,10 @@ TEST(SortOperation, WeighsTheFirstAndTheLastCharacterUpAndDown) {
 TEST(SortOperation, TellsManyRecordsApartByAnyPartOfTheKey) {
   std::string master, sorted;
   for (int number = 0; number < 400; ++number) {
-    const std::string late = std::to_string(1000 + number);
-    const std::string early = std::to_string(9999 - number);
-    master += "samesame" + early + late;
-    sorted = "samesame" + early + late + sorted;
+    std::string key = "samesame";
+    key.append(std::to_string(9999 - number)).append(std::to_string(1000 + number));
+    master.append(key);
+    sorted.insert(0, key);
   }
   kit::MemoryDisk memory(kit::Folder{{"Recpra.Dat", master}});
   SharedDisk disk(memory);
@@ -278,13 +278,14 @@ TEST(SortOperation, ReservesTheRoomOfALargeOutputAndWritesItInWholePages) {
     for (std::int64_t record = 1; record <= records; ++record) {
       const std::string number = std::to_string(10'000'000 + record).substr(1);
       master += number;
-      expected += number + std::string(Width - 16, '0') + number + "\r\n";
+      expected.append(number).append(Width - 16, '0').append(number).append("\r\n");
     }
     kit::MemoryDisk memory({{"Recpra.Dat", master}});
     NotingDisk disk(memory);
-    const std::string zeros = ",1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1";
-    SortOn(disk, "out", "S(1,7,C,A) OUTREC(1,7" + zeros + zeros + zeros + zeros + ",1,1,Arrn,CRLF) Record(7)",
-           {.TwoWorkersFrom = MaxRecords});
+    std::string statement = "S(1,7,C,A) OUTREC(1,7";
+    for (int zeros = 0; zeros < 32; ++zeros) statement.append(",1,1");
+    statement.append(",1,1,Arrn,CRLF) Record(7)");
+    SortOn(disk, "out", statement, {.TwoWorkersFrom = MaxRecords});
     EXPECT_TRUE(FileOn(memory, "out") == expected);
     ASSERT_GT(disk.Ends.size(), 1U);
     for (std::size_t at = 0; at + 1 < disk.Ends.size(); ++at) EXPECT_EQ(disk.Ends[at] % (64 * 1024), 0);
