@@ -8,6 +8,7 @@
 #include "companion/unfinished_copies.h"
 #include "launcher/copies.h"
 #include "runtime/clock.h"
+#include "runtime/record_journal.h"
 #include "runtime/whole_io.h"
 #include "store/history.h"
 #include "store/master_file.h"
@@ -39,14 +40,24 @@ const std::vector<std::string>& Names() {
   return names;
 }
 
-// False if it is larger than `most`; a missing file is none.
+// Nothing if it is longer than `most`.
+template <typename File>
+std::optional<std::string> AllOf(const File& file, std::size_t most) {
+  const std::int64_t length = file.Length();
+  if (length > static_cast<std::int64_t>(most)) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(length), '\0');
+  bytes.resize(file.Read(bytes.data(), bytes.size(), 0));
+  return bytes;
+}
+
+// False if it is larger than `most`; a missing file is none. A save that was cut off is read as a start would leave it.
 bool ReadFile(runtime::Disk& disk, const std::string& name, std::size_t most, FilesByName& files) {
   try {
     const runtime::OpenFile file(disk, name, runtime::Disk::Mode::Read);
-    if (file.Length() > static_cast<std::int64_t>(most)) return false;
-    std::string bytes(static_cast<std::size_t>(file.Length()), '\0');
-    bytes.resize(file.Read(bytes.data(), bytes.size(), 0));
-    files.emplace(name, std::move(bytes));
+    std::optional<std::string> bytes =
+        name == MasterName ? AllOf(runtime::SettledFile(disk, file, store::RecordLength), most) : AllOf(file, most);
+    if (!bytes) return false;
+    files.emplace(name, *std::move(bytes));
   } catch (const runtime::Failure& failure) {
     if (failure.Name != runtime::FileNotFound) throw;
   }

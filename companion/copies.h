@@ -18,7 +18,8 @@ inline constexpr std::size_t LargestCopy = std::size_t{512} * 1024 * 1024;
 
 // Whether a copy includes a file of that name.
 bool BelongsToCollection(std::string_view name);
-// Reads those files of a folder. Nothing if they are larger than LargestCopy.
+// Reads those files of a folder, the films as a start of the program would leave them. Nothing if they are larger than
+// LargestCopy.
 std::optional<FilesByName> ReadCollection(runtime::Disk& disk);
 
 // The folder of the copies.

@@ -13,7 +13,7 @@ std::int64_t Reading::Slots() const { return (Length() + store::RecordLength - 1
 
 store::FilmRecord Reading::At(std::int64_t slot) const {
   store::FilmRecord film;
-  master_.Read(film.Bytes.data(), film.Bytes.size(), (slot - 1) * store::RecordLength);
+  Settled().Read(film.Bytes.data(), film.Bytes.size(), (slot - 1) * store::RecordLength);
   return film;
 }
 
@@ -22,10 +22,11 @@ bool Reading::EachSlot(const std::function<void(const NumberedFilm&)>& visit) co
   const std::int64_t slots = Slots();
   if (slots > MaxSlots) return false;
   std::vector<char> block(static_cast<std::size_t>(std::clamp<std::int64_t>(slots, 1, AtOnce) * store::RecordLength));
+  const runtime::SettledFile master = Settled();
   NumberedFilm next;
   std::size_t read = 0;
   do {
-    read = master_.Read(block.data(), block.size(), next.Number * store::RecordLength);
+    read = master.Read(block.data(), block.size(), next.Number * store::RecordLength);
     for (std::size_t at = 0; at < read; at += store::RecordLength) {
       next.Number += 1;
       next.Film.Clear();

@@ -1,4 +1,5 @@
-// The films of a collection, read-only: nothing is locked, recovered or created.
+// The films of a collection, read-only: nothing is locked, recovered or created. A save that was cut off is read as a
+// start of the program would leave it.
 #pragma once
 
 #include <cstdint>
@@ -9,6 +10,7 @@
 
 #include "companion/verb.h"
 #include "exchange/films.h"
+#include "runtime/record_journal.h"
 #include "runtime/whole_io.h"
 #include "store/film_record.h"
 
@@ -31,7 +33,7 @@ class Reading {
   explicit Reading(std::unique_ptr<runtime::Disk> disk);
 
   runtime::Disk& Disk() const { return *disk_; }
-  std::int64_t Length() const { return master_.Length(); }
+  std::int64_t Length() const { return Settled().Length(); }
   runtime::FileTime Modified() const { return master_.Modified(); }
   // Records; the last may be cut off.
   std::int64_t Slots() const;
@@ -44,6 +46,8 @@ class Reading {
   static constexpr std::int64_t MaxSlots = 1'000'000;
 
  private:
+  runtime::SettledFile Settled() const { return {*disk_, master_, store::RecordLength}; }
+
   std::unique_ptr<runtime::Disk> disk_;
   runtime::OpenFile master_;
 };

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <optional>
 
+#include "runtime/record_journal.h"
 #include "runtime/text.h"
 #include "runtime/whole_io.h"
 #include "store/master_file.h"
@@ -16,7 +17,8 @@ constexpr std::size_t SlotsAtOnce = 400;
 constexpr std::size_t SlotLength = store::RecordLength;
 
 void EachSlot(runtime::Disk& disk, const Visit& visit) {
-  const runtime::OpenFile master(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
+  const runtime::OpenFile file(disk, std::string(store::MasterFileName), runtime::Disk::Mode::Read);
+  const runtime::SettledFile master(disk, file, store::RecordLength);
   std::string block(SlotsAtOnce * SlotLength, ' ');
   store::FilmRecord film;
   for (std::int64_t first = 0;; first += static_cast<std::int64_t>(SlotsAtOnce)) {

@@ -17,8 +17,9 @@ using Films = std::function<void(const Visit& visit)>;
 
 bool HasTitle(const store::FilmRecord& film);
 
-// Those of the master file: its slots that have a title. A last one that is cut off is padded with blanks. The disk
-// must outlive the result. Calling it throws the Failure of the file, "File not found" included.
+// Those of the master file: its slots that have a title. A last one that is cut off is padded with blanks; a save that
+// was cut off is read as a start of the program would leave it. The disk must outlive the result. Calling it throws the
+// Failure of the file, "File not found" included.
 Films FilmsOf(runtime::Disk& disk);
 // Every slot, including the free ones; none if there is no master file.
 std::vector<store::FilmRecord> ReadSlots(runtime::Disk& disk);

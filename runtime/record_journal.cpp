@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <span>
 #include <string>
-
-#include "runtime/journal_block.h"
+#include <utility>
 
 namespace runtime {
 namespace {
@@ -19,7 +19,7 @@ std::int64_t EndOf(std::int64_t unit, std::int64_t offset, std::int64_t end) {
 }
 
 // The content of the file from that offset on, as the block has it: the gap filled, then the image.
-void Fill(std::string& piece, std::int64_t from, const JournalBlock& block, char gap, const std::string& image) {
+void Fill(std::span<char> piece, std::int64_t from, const JournalBlock& block, char gap, const std::string& image) {
   auto before = std::clamp<std::int64_t>(block.Offset() - from, 0, std::ssize(piece));
   std::fill_n(piece.begin(), before, gap);
   auto in_image = static_cast<std::size_t>(from + before - block.Offset());
@@ -54,6 +54,9 @@ State StateOf(const OpenFile& file, const JournalBlock& block) {
   }
   return is_old ? State::Old : is_new ? State::New : State::Torn;
 }
+
+// What a torn write becomes: the new record if the file is as long as that, else the old one.
+bool MayBeCompleted(const OpenFile& file, const JournalBlock& block) { return file.Length() == block.LengthAfter(); }
 
 // Each sector in one call: one that is written twice could be found on the disk as it was in between.
 void WriteNew(const OpenFile& file, const JournalBlock& block) {
@@ -133,7 +136,7 @@ void RecordJournal::Recover(const OpenFile& file, int record_length) {
   const State state = StateOf(file, *found.Block);
   if (state == State::Foreign) return;
   if (state == State::Torn) {
-    if (file.Length() == found.Block->LengthAfter()) {
+    if (MayBeCompleted(file, *found.Block)) {
       WriteNew(file, *found.Block);
     } else {
       TakeBack(file, *found.Block);
@@ -144,6 +147,33 @@ void RecordJournal::Recover(const OpenFile& file, int record_length) {
   SyncFolders(disk_, file.Name());
   folders_synced_ = true;
   MarkDone(OpenJournal(disk_));
+}
+
+SettledFile::SettledFile(Disk& disk, const OpenFile& file, int record_length) : file_(file) {
+  std::optional<JournalBlock> block = ReadJournal(disk, file.Name(), record_length).Block;
+  if (!block || StateOf(file, *block) != State::Torn) return;
+  torn_ = std::move(block);
+  completed_ = MayBeCompleted(file, *torn_);
+}
+
+std::int64_t SettledFile::Length() const { return torn_ && !completed_ ? torn_->LengthBefore : file_.Length(); }
+
+std::size_t SettledFile::Read(char* target, std::size_t count, std::int64_t offset) const {
+  if (!torn_) return file_.Read(target, count, offset);
+  const std::int64_t length = Length();
+  const auto most = static_cast<std::size_t>(std::max<std::int64_t>(length - offset, 0));
+  const std::size_t read = file_.Read(target, std::min(count, most), offset);
+  const std::int64_t slot_end = torn_->Offset() + std::ssize(torn_->NewImage);
+  const std::int64_t from = std::max(torn_->From(), offset);
+  const std::int64_t end = std::min({length, slot_end, offset + static_cast<std::int64_t>(read)});
+  if (from >= end) return read;
+  const std::span<char> changed(target + (from - offset), static_cast<std::size_t>(end - from));
+  if (completed_) {
+    Fill(changed, from, *torn_, ' ', torn_->NewImage);
+  } else {
+    Fill(changed, from, *torn_, '\0', torn_->OldImage);
+  }
+  return read;
 }
 
 }  // namespace runtime

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
+#include "runtime/journal_block.h"
 #include "runtime/whole_io.h"
 
 namespace runtime {
@@ -31,6 +33,23 @@ class RecordJournal {
   Disk& disk_;
   // Whether the names of the safety folder and of its files are durable. A block that is done says so for earlier runs.
   bool folders_synced_ = false;
+};
+
+// A file as Recover would leave it, for those who only read: a torn record is read whole, and an append that stopped
+// short is not there. Nothing is written. It looks into the journal once, so make one for each pass. Throws as Recover
+// does if the journal cannot be read. The file must outlive it.
+class SettledFile {
+ public:
+  SettledFile(Disk& disk, const OpenFile& file, int record_length);
+
+  std::int64_t Length() const;
+  // As of an OpenFile.
+  std::size_t Read(char* target, std::size_t count, std::int64_t offset) const;
+
+ private:
+  const OpenFile& file_;
+  std::optional<JournalBlock> torn_;  // a write that Recover would complete or undo
+  bool completed_ = false;
 };
 
 }  // namespace runtime

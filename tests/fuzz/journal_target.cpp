@@ -103,6 +103,14 @@ void Recover(fuzz::PlainDisk& disk, std::size_t record) {
   runtime::RecordJournal(disk).Recover(file, static_cast<int>(record));
 }
 
+std::string Settled(fuzz::PlainDisk& disk, std::size_t record) {
+  const runtime::OpenFile file(disk, Master, runtime::Disk::Mode::Read);
+  const runtime::SettledFile settled(disk, file, static_cast<int>(record));
+  std::string bytes(static_cast<std::size_t>(settled.Length()), '\0');
+  bytes.resize(settled.Read(bytes.data(), bytes.size(), 0));
+  return bytes;
+}
+
 void Write(fuzz::PlainDisk& disk, std::size_t slot, const std::string& record) {
   const runtime::OpenFile file(disk, Master, runtime::Disk::Mode::ReadWrite);
   runtime::RecordJournal(disk).Write(file, static_cast<std::int64_t>(slot), record);
@@ -138,6 +146,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const bool counts = journal == written && MakesSense(block);
   const std::optional<std::string> recovered = counts ? Recovered(found, block) : std::nullopt;
+  fuzz::Require(Settled(disk, record) == recovered.value_or(found), "a reader sees what a recovery leaves");
   Recover(disk, record);
   fuzz::Require(disk.Content(Master) == recovered.value_or(found), "recovery completes, undoes or leaves alone");
   if (recovered) journal.replace(0, 8, "REELDONE");

@@ -20,6 +20,7 @@ namespace {
 using runtime::Disk;
 using runtime::OpenFile;
 using runtime::RecordJournal;
+using runtime::SettledFile;
 
 const std::string Master = "Recpra.Dat";
 const std::string Journal = runtime::InSafetyFolder("journal");
@@ -41,12 +42,29 @@ kit::Folder Stopped(const std::string& master, int slot) {
 // In slot 7 of eight films.
 kit::Folder Written() { return Stopped(kit::Films(1, 8), 7); }
 
-// The master file after an opening of the folder with that master file in it.
+// As those see the file who only read it.
+std::string ReadSettled(Disk& disk, const OpenFile& file, std::size_t at_once) {
+  const SettledFile settled(disk, file, store::RecordLength);
+  std::string bytes, part(at_once, '\0');
+  std::size_t read = 0;
+  do {
+    read = settled.Read(part.data(), at_once, std::ssize(bytes));
+    bytes.append(part, 0, read);
+  } while (read == at_once);
+  EXPECT_EQ(settled.Length(), std::ssize(bytes));
+  return bytes;
+}
+
+// The master file after an opening of the folder with that master file in it. Until then it reads as if it were so.
 std::string Recovered(kit::Folder folder, const std::string& master) {
   folder[Master] = master;
   kit::MemoryDisk disk(folder);
   OpenFile file(disk, Master, Disk::Mode::Create);
+  const std::string settled = ReadSettled(disk, file, 1 << 14);
+  EXPECT_EQ(ReadSettled(disk, file, 501), settled);
+  EXPECT_EQ(disk.Moments(), 0U);
   RecordJournal(disk).Recover(file, store::RecordLength);
+  EXPECT_EQ(settled, disk.Content().at(Master));
   return disk.Content().at(Master);
 }
 
