@@ -16,6 +16,8 @@
 namespace companion {
 namespace {
 
+constexpr std::string_view BackupIsBusy = "Another backup is being written there.";
+
 std::int64_t CountFilms(const FilesByName& files) {
   const std::string& bytes = files.at(std::string(store::MasterFileName));
   std::int64_t films = 0;
@@ -66,9 +68,9 @@ int WriteBackup(runtime::Disk& disk, const Invocation& invocation, Output& outpu
   if (!elsewhere) MakeCopiesFolder(disk);
   const std::string folder = elsewhere.value_or(CopiesIn(invocation.Folder));
   const CopyKind kind = invocation.Has("zip") ? CopyKind::Zip : CopyKind::Folder;
-  const std::optional<std::string> name = WriteCopy(invocation, folder, *files, kind);
-  if (name) return TellCopy(invocation, *name, *files, true, output);
-  output.Errors << "The copy cannot be read back.\n";
+  const NewCopy copy = WriteCopy(invocation, folder, *files, kind);
+  if (copy.Name) return TellCopy(invocation, *copy.Name, *files, true, output);
+  output.Errors << (copy.IsBusy ? BackupIsBusy : "The copy cannot be read back.") << "\n";
   return Found;
 }
 
@@ -134,16 +136,16 @@ int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const Files
   if (!present) return TooLarge(output);
   present->try_emplace(std::string(store::MasterFileName));  // a lost master file has no films
   MakeCopiesFolder(disk);
-  const std::optional<std::string> kept =
-      WriteCopy(invocation, CopiesIn(invocation.Folder), *present, CopyKind::Folder);
-  if (!kept) {
-    output.Errors << "The present collection cannot be copied first. Nothing was put back.\n";
+  const NewCopy kept = WriteCopy(invocation, CopiesIn(invocation.Folder), *present, CopyKind::Folder);
+  if (!kept.Name) {
+    output.Errors << (kept.IsBusy ? BackupIsBusy : "The present collection cannot be copied first.")
+                  << " Nothing was put back.\n";
     return Found;
   }
   PutBack(disk, copy);
-  if (invocation.Json) return AddRestored(copy, *kept, true, output);
+  if (invocation.Json) return AddRestored(copy, *kept.Name, true, output);
   output.Text << Counted(CountFilms(copy), "film") << " put back. What was there, "
-              << Counted(CountFilms(*present), "film") << ", is in \"" << *kept << "\".\n";
+              << Counted(CountFilms(*present), "film") << ", is in \"" << *kept.Name << "\".\n";
   if (copy.size() == 1) output.Text << "Sort afterwards, so that views and lists show them.\n";
   return Done;
 }

@@ -8,6 +8,7 @@
 #include "companion/unfinished_copies.h"
 #include "launcher/copies.h"
 #include "runtime/clock.h"
+#include "runtime/copies_lock.h"
 #include "runtime/record_journal.h"
 #include "runtime/whole_io.h"
 #include "store/history.h"
@@ -184,15 +185,16 @@ std::vector<NamedCopy> ListCopies(runtime::Disk& copies) {
   return found;
 }
 
-std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
-                                     CopyKind kind) {
+NewCopy WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files, CopyKind kind) {
+  const runtime::CopiesLock lock(folder);
+  if (!lock.Held()) return {std::nullopt, true};
   const DiskIn make_disk = DisksLikeTheFilms(invocation);
   RemoveAllUnfinished(make_disk, folder);
   const std::unique_ptr<runtime::Disk> copies = make_disk(folder);
   const std::string name = FreeName(*copies, kind);
   if (kind == CopyKind::Zip) {
     const std::optional<std::string> zip = Zipped(files);
-    if (!zip) return std::nullopt;
+    if (!zip) return {};
     WriteFile(*copies, name, *zip);
   } else {
     runtime::RetryInterrupted(name, [&] { return copies->MakeFolder(name); });
@@ -204,7 +206,7 @@ std::optional<std::string> WriteCopy(const Invocation& invocation, const std::st
     }
   }
   SyncFolder(*copies, "");
-  return ReadAt(make_disk, folder, name) == files ? std::optional(name) : std::nullopt;
+  return {ReadAt(make_disk, folder, name) == files ? std::optional(name) : std::nullopt};
 }
 
 std::optional<FilesByName> ReadOther(const Invocation& invocation, const std::string& name) {

@@ -36,11 +36,14 @@ std::optional<NamedCopy> CopyOfName(const std::string& name);
 // The oldest first.
 std::vector<NamedCopy> ListCopies(runtime::Disk& copies);
 
-// Writes a new copy, synced and read back, and returns its name; nothing if it cannot be zipped or read back. A stop
-// leaves a folder or a zip that is marked as unfinished by a name that ends in .new; the next copy removes both.
-// No file is more readable than the collection's films.
-std::optional<std::string> WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files,
-                                     CopyKind kind);
+struct NewCopy {
+  std::optional<std::string> Name;  // nothing if it cannot be zipped or read back, or has not been written
+  bool IsBusy = false;              // another run is writing a copy into the folder; nothing has been written
+};
+// Writes a new copy, synced and read back; until then no other run can write one there. A stop leaves a folder or a zip
+// that is marked as unfinished by a name that ends in .new; the next copy removes both. No file is more readable than
+// the collection's films.
+NewCopy WriteCopy(const Invocation& invocation, const std::string& folder, const FilesByName& files, CopyKind kind);
 
 // The files of a copy or of another collection. Name: of a copy in the collection's folder of copies, or the path of a
 // folder, a zip or a file of films. Nothing if it cannot be read.

@@ -6,6 +6,9 @@
 #include <set>
 
 #include "companion/writing.h"
+#include "launcher/copies.h"
+#include "runtime/clock.h"
+#include "runtime/copies_lock.h"
 #include "tests/companion/command_test.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
@@ -93,6 +96,99 @@ TEST_F(BackupTest, IsRefusedIfTheCollectionIsTooLarge) {
     EXPECT_EQ(ran.Status, Found);
     EXPECT_EQ(ran.Errors, "The collection is too large for a copy.\n");
   }
+}
+
+std::set<std::string> NamesBelow(const fs::path& folder) {
+  std::set<std::string> names;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) names.insert(entry.path());
+  return names;
+}
+
+// What the other run has written so far would count as unfinished, and its zip may have the same name.
+TEST_F(BackupTest, IsRefusedWhileAnotherIsWrittenToTheFolder) {
+  const fs::path own = Folder.Path() / "backups", begun = "Collection 2026-11-22 05-31-34/Recpra.Dat.new";
+  for (const fs::path& copies : {own, Elsewhere.Path()}) {
+    fs::create_directories((copies / begun).parent_path());
+    story::WriteBytes(copies / begun, "");
+    const std::set<std::string> before = NamesBelow(copies);
+    std::vector<std::string> arguments = {"backup", "--write"};
+    if (copies != own) arguments.insert(arguments.end(), {"--zip", "--to", copies});
+    {
+      const runtime::CopiesLock other(copies);
+      const Ran ran = RunIn(Folder.Path(), arguments);
+      EXPECT_EQ(ran.Status, Found);
+      EXPECT_EQ(ran.Errors, "Another backup is being written there.\n");
+      EXPECT_EQ(ran.Text, "");
+      EXPECT_EQ(NamesBelow(copies), before);
+    }
+    EXPECT_EQ(RunIn(Folder.Path(), arguments).Status, Done);
+    EXPECT_FALSE(fs::exists(copies / begun));
+  }
+}
+
+TEST_F(BackupTest, IsNotPutBackWhileThePresentCollectionCannotBeCopied) {
+  fs::create_directory(Folder.Path() / "backups");
+  const std::vector<std::string> arguments = {"restore-backup", Other.Path(), "--write"};
+  {
+    const runtime::CopiesLock other(Folder.Path() / "backups");
+    const Ran ran = RunIn(Folder.Path(), arguments);
+    EXPECT_EQ(ran.Status, Found);
+    EXPECT_EQ(ran.Errors, "Another backup is being written there. Nothing was put back.\n");
+    EXPECT_EQ(Master(), kit::Films(1, 3));
+  }
+  EXPECT_EQ(RunIn(Folder.Path(), arguments).Status, Done);
+  EXPECT_EQ(Master(), kit::Films(7, 9));
+}
+
+// Counts the calls on copies during which another run might begin one.
+class GuardedDisk final : public kit::PassingDisk {
+ public:
+  GuardedDisk(const std::string& folder, std::string copies, int& unguarded)
+      : PassingDisk(real_), real_(folder), copies_(std::move(copies)), unguarded_(unguarded) {
+    guards_ = folder.starts_with(copies_);
+  }
+
+  std::vector<std::string> List(const std::string& folder) override { return Look(), PassingDisk::List(folder); }
+  int Remove(const std::string& name) override { return Look(), PassingDisk::Remove(name); }
+  int Open(const std::string& name, Mode mode) override { return Look(), PassingDisk::Open(name, mode); }
+  int Rename(const std::string& from, const std::string& to) override { return Look(), PassingDisk::Rename(from, to); }
+
+ private:
+  void Look() { unguarded_ += guards_ && runtime::CopiesLock(copies_).Held(); }
+
+  runtime::RealDisk real_;
+  std::string copies_;
+  int& unguarded_;
+  bool guards_ = false;
+};
+
+TEST_F(BackupTest, HasTheFolderToItselfUntilItHasBeenReadBack) {
+  fs::create_directories(Elsewhere.Path() / "Collection 2026-11-22 05-31-34");
+  story::WriteBytes(Elsewhere.Path() / "Collection 2026-11-22 05-31-35.zip.new", "PK");
+  int unguarded = 0;
+  const auto guarded = [&](const std::string& folder) {
+    return std::make_unique<GuardedDisk>(folder, Elsewhere.Path(), unguarded);
+  };
+  EXPECT_EQ(RunIn(Folder.Path(), {"backup", "--to", Elsewhere.Path(), "--write"}, guarded).Status, Done);
+  EXPECT_EQ(RunIn(Folder.Path(), {"backup", "--to", Elsewhere.Path(), "--zip", "--write"}, guarded).Status, Done);
+  EXPECT_EQ(unguarded, 0);
+  EXPECT_EQ(std::distance(fs::directory_iterator(Elsewhere.Path()), fs::directory_iterator()), 2);
+}
+
+// Of this second and the next ones.
+TEST_F(BackupTest, ReplacesNoZipThatIsThere) {
+  const std::chrono::local_seconds now = runtime::LocalTime();
+  for (int later = 0; later < 30; ++later) {
+    std::string films = launcher::NameOfCopy(now + std::chrono::seconds(later));
+    films = films.substr(films.find(' '), 20);
+    story::WriteBytes(Elsewhere.Path() / ("Collection" + films + ".zip"), "another");
+  }
+  EXPECT_EQ(RunIn(Folder.Path(), {"backup", "--to", Elsewhere.Path(), "--zip", "--write"}).Status, Done);
+  int others = 0;
+  for (const fs::directory_entry& zip : fs::directory_iterator(Elsewhere.Path()))
+    others += story::ReadBytes(zip.path()) == "another";
+  EXPECT_EQ(others, 30);
+  EXPECT_EQ(std::distance(fs::directory_iterator(Elsewhere.Path()), fs::directory_iterator()), 31);
 }
 
 // Of all files below a folder.
