@@ -1,4 +1,6 @@
 // backup makes a copy of the collection, backups lists the copies, restore-backup puts one back.
+#include <filesystem>
+
 #include "companion/copies.h"
 #include "companion/json.h"
 #include "companion/new_collection.h"
@@ -15,6 +17,8 @@
 
 namespace companion {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::string_view BackupIsBusy = "Another backup is being written there.";
 
@@ -131,6 +135,20 @@ int AddRestored(const FilesByName& copy, const std::string& kept, bool written, 
   return Done;
 }
 
+// A file that is put back replaces the one of its name: the film file that a link leads to would stay as it is, and the
+// collection would no longer be there.
+bool IsALink(const Invocation& invocation) {
+  std::error_code none;
+  return fs::is_symlink(fs::path(invocation.Folder) / store::MasterFileName, none);
+}
+
+int RefuseALink(Output& output) {
+  output.Errors << store::MasterFileName
+                << " is a link, which a copy would replace. Nothing was put back. Move the file that it leads to here "
+                   "first, in its place.\n";
+  return Found;
+}
+
 int WriteRestored(runtime::Disk& disk, const Invocation& invocation, const FilesByName& copy, Output& output) {
   std::optional<FilesByName> present = ReadCollection(disk);
   if (!present) return TooLarge(output);
@@ -176,6 +194,7 @@ int Backups(const Invocation& invocation, Output& output) {
 }
 
 int RestoreBackup(const Invocation& invocation, Output& output) {
+  if (IsALink(invocation)) return RefuseALink(output);
   const bool is_lost = !HasMasterFile(*invocation.MakeDisk(invocation.Folder));
   if (is_lost && !MayBecomeCollection(invocation, output)) return Found;
   const std::optional<FilesByName> copy = ReadOther(invocation, invocation.Arguments[0]);

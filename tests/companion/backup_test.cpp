@@ -191,6 +191,27 @@ TEST_F(BackupTest, ReplacesNoZipThatIsThere) {
   EXPECT_EQ(std::distance(fs::directory_iterator(Elsewhere.Path()), fs::directory_iterator()), 31);
 }
 
+TEST_F(BackupTest, IsNotPutInPlaceOfALink) {
+  fs::rename(Folder.Path() / "Recpra.Dat", Elsewhere.Path() / "mine.Dat");
+  fs::create_symlink(Elsewhere.Path() / "mine.Dat", Folder.Path() / "Recpra.Dat");
+  const std::set<std::string> before = NamesBelow(Folder.Path());
+  for (const std::vector<std::string>& writing : {std::vector<std::string>{}, {"--write"}}) {
+    std::vector<std::string> arguments = {"restore-backup", Other.Path()};
+    arguments.insert(arguments.end(), writing.begin(), writing.end());
+    const Ran ran = RunIn(Folder.Path(), arguments);
+    EXPECT_EQ(ran.Status, Found);
+    EXPECT_EQ(ran.Errors,
+              "Recpra.Dat is a link, which a copy would replace. Nothing was put back. Move the file that it leads to "
+              "here first, in its place.\n");
+    EXPECT_EQ(NamesBelow(Folder.Path()), before);
+  }
+  EXPECT_EQ(Master(), kit::Films(1, 3));
+  // A link to nothing is not a lost master file.
+  fs::remove(Elsewhere.Path() / "mine.Dat");
+  EXPECT_EQ(RunIn(Folder.Path(), {"restore-backup", Other.Path(), "--write"}).Status, Found);
+  EXPECT_TRUE(fs::is_symlink(Folder.Path() / "Recpra.Dat"));
+}
+
 // Of all files below a folder.
 std::set<fs::perms> PermissionsBelow(const fs::path& folder) {
   std::set<fs::perms> permissions;
