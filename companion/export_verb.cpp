@@ -42,7 +42,8 @@ void WriteInBlocks(const exchange::Format& format, const exchange::Collection& c
 // A file that was there stays as it is until the new one is complete, which takes its permissions.
 int WriteFile(const exchange::Format& format, const exchange::Collection& collection, const Invocation& invocation,
               const std::string& path, Output& output) {
-  if (!exchange::FormatOfFile(path) && fs::exists(path)) {
+  std::error_code none;
+  if (!exchange::FormatOfFile(path) && fs::exists(fs::symlink_status(path, none))) {
     output.Errors << path << " is there already, and its name is not one of an export.\n";
     return Found;
   }
@@ -66,6 +67,7 @@ int Export(const Invocation& invocation, Output& output) {
   const exchange::Format* format = FormatOf(invocation);
   if (!format) return WrongUsage(invocation.Verb, output, *invocation.Value("format") + " is no format");
   const Reading reading(invocation);
+  if (reading.Slots() > Reading::MaxSlots) return RefuseLength(reading, output);
   exchange::Collection collection;
   std::int64_t films = 0;
   collection.Each = [&, each = exchange::FilmsOf(reading.Disk())](const exchange::Visit& visit) {

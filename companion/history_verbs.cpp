@@ -89,11 +89,11 @@ int Tell(const Restored& restored, const Invocation& invocation, Output& output)
 }
 
 std::int64_t FreeRecord(const Reading& reading) {
-  const std::int64_t slots = reading.Slots();
-  for (std::int64_t slot = 1; slot <= slots; ++slot) {
-    if (!HasTitle(reading.At(slot))) return slot;
-  }
-  return slots + 1;
+  std::int64_t free = 0;
+  reading.EachSlot([&](const NumberedFilm& film) {
+    if (free == 0 && !HasTitle(film.Film)) free = film.Number;
+  });
+  return free > 0 ? free : reading.Slots() + 1;
 }
 
 // "Bad record number" as for a write if the master file has no such slot.
@@ -150,6 +150,7 @@ int Restore(const Invocation& invocation, Output& output) {
   const Reading reading(invocation);
   const std::optional<store::KeptFilm> kept = store::ReadKeptFilm(reading.Disk(), *number);
   if (!kept) return NoEntry(invocation.Arguments[0], output);
+  if (invocation.Has("free") && reading.Slots() > Reading::MaxSlots) return RefuseLength(reading, output);
   if (!invocation.Write) return TellRestored(reading, *kept, invocation, output);
   return WriteLocked(invocation, output,
                      [&](runtime::Disk& disk) { return WriteRestored(disk, *kept, invocation, output); });

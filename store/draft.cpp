@@ -96,11 +96,15 @@ bool MayTakeItsSlot(const Draft& draft, const FilmRecord& there) {
   return !HasTitle(there) || (!draft.IsNew && there.Get(FilmField::Title) == draft.Before.Get(FilmField::Title));
 }
 
+// A file of more slots is damaged, and a search through it could take hours.
+constexpr std::int64_t MostSearched = 1'000'000;
+
 // A slot that holds the very film is one that a stop kept from being told.
 std::int64_t SlotFor(OpenedMaster& master, const Draft& draft, const FilmRecord& film) {
   std::int64_t slots = master.Slots();
   if (draft.Slot <= slots + 1 && MayTakeItsSlot(draft, master.Read(draft.Slot))) return draft.Slot;
-  for (std::int64_t slot = 1; slot <= slots; ++slot) {
+  const std::int64_t first = slots > MostSearched ? slots : 1;
+  for (std::int64_t slot = first; slot <= slots; ++slot) {
     FilmRecord there = master.Read(slot);
     if (!HasTitle(there) || there.Bytes == film.Bytes) return slot;
   }

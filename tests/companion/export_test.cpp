@@ -2,10 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 
 #include "tests/companion/command_test.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/ordinary_user.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/story/world.h"
 
@@ -68,6 +70,29 @@ TEST_F(ExportTest, ThatFindsTheDiskFullLeavesTheOldFile) {
   EXPECT_EQ(ran.Errors, Path("films.csv").string() + " cannot be written.\n");
   EXPECT_EQ(Bytes("films.csv"), "old");
   EXPECT_FALSE(fs::exists(Path("films.csv.new")));
+}
+
+TEST_F(ExportTest, NamesAFileThatCannotBeLookedAt) {
+  fs::create_directory(Path("closed"));
+  fs::permissions(Path("closed"), fs::perms::none);
+  fs::permissions(Folder.Path(), fs::perms(0755));
+  fs::create_symlink("loop", Path("loop"));
+  const std::string none = " is there already, and its name is not one of an export.\n", no = " cannot be written.\n";
+  const std::map<std::string, std::string> complaints = {
+      {std::string(256, 'x'), no}, {"closed/films", no}, {"loop", none}};
+  for (const auto& [name, complaint] : complaints) {
+    const kit::OrdinaryUser user;
+    const Ran ran = RunIn(Folder.Path(), {"export", "-o", Path(name)});
+    EXPECT_EQ(ran.Status, Found);
+    EXPECT_EQ(ran.Errors, Path(name).string() + complaint);
+  }
+  fs::permissions(Path("closed"), fs::perms::owner_all);
+}
+
+TEST_F(ExportTest, LeavesALinkToNowhereAlone) {
+  fs::create_symlink("nowhere", Path("films"));
+  EXPECT_EQ(RunIn(Folder.Path(), {"export", "-o", Path("films")}).Status, Found);
+  EXPECT_TRUE(fs::is_symlink(Path("films")));
 }
 
 TEST_F(ExportTest, KeepsThePermissionsOfTheFileThatItReplaces) {

@@ -119,5 +119,18 @@ TEST_F(HistoryVerbs, ListsNoHistoryThatNobodyCanHaveMade) {
   EXPECT_EQ(Run({"restore", "1", "--write"}), 0);
 }
 
+TEST_F(HistoryVerbs, LooksForNoFreeRecordInAFileOfAnyLength) {
+  Put(2, TitledFilm("Brazil"));
+  std::filesystem::resize_file(Folder.Path() / "Recpra.Dat", 1'000'001 * std::uintmax_t{649});
+  for (const std::vector<std::string>& arguments :
+       {Lines{"restore", "1", "--free"}, {"restore", "1", "--free", "--write"}}) {
+    EXPECT_EQ(Run(arguments), 1);
+    EXPECT_EQ(Complaints.str(), "The master file is damaged: it has 1000001 records.\n");
+    EXPECT_EQ(Out.str(), "");
+  }
+  EXPECT_EQ(Run({"restore", "1", "--write"}), 0);
+  EXPECT_EQ(std::filesystem::file_size(Folder.Path() / "Recpra.Dat"), 1'000'001 * std::uintmax_t{649});
+}
+
 }  // namespace
 }  // namespace companion

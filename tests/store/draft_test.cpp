@@ -4,15 +4,18 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <filesystem>
 #include <limits>
 
 #include "runtime/checksum.h"
 #include "runtime/whole_io.h"
 #include "store/master_file.h"
 #include "tests/kit/films.h"
+#include "tests/kit/fresh_folder.h"
 #include "tests/kit/memory_disk.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/kit/refusing_disk.h"
+#include "tests/story/world.h"
 
 namespace store {
 namespace {
@@ -246,6 +249,22 @@ TEST_F(KeptDraft, FarBehindTheEndComesBehindTheLastFilm) {
   KeepDraft(Files, DraftOf(std::int64_t{1} << 60, true, "Alien"));
   EXPECT_EQ(Disk.Content().at(Master).size(), 10u * RecordLength);
   EXPECT_EQ(TitleIn(Disk, 10), Padded("Alien"));
+}
+
+TEST(KeptInADamagedFile, ComesBehindTheLastSlotOnceAndWithoutASearch) {
+  const kit::FreshFolder folder;
+  const std::string master = (folder.Path() / Master).string();
+  story::WriteBytes(master, kit::Films(1, 2) + std::string(RecordLength, ' '));
+  constexpr std::uintmax_t Length = 1'000'001 * std::uintmax_t{RecordLength};
+  std::filesystem::resize_file(master, Length);
+  runtime::RealDisk disk(folder.Path().string());
+  runtime::Files files(disk);
+  KeepDraft(files, DraftOf(1, true, "Alien"));
+  KeepDraft(files, DraftOf(1, true, "Alien"));
+  EXPECT_EQ(std::filesystem::file_size(master), Length + RecordLength);
+  FilmRecord last;
+  runtime::OpenFile(disk, Master, runtime::Disk::Mode::Read).Read(last.Bytes.data(), RecordLength, Length);
+  EXPECT_EQ(last.Get(FilmField::Title), Padded("Alien"));
 }
 
 TEST_F(KeptDraft, LeavesTheMasterFileClosed) {
