@@ -27,13 +27,14 @@ std::optional<Findings> FindAll(const Reading& reading) {
     films.push_back(film.Film);
   });
   if (!read) return std::nullopt;
+  checks.End();
   CheckKeys(reading, films, weights, findings);
   CheckSettings(reading.Disk(), findings);
   CheckSafetyFolder(reading.Disk(), findings);
   return findings;
 }
 
-bool CanBeMended(const Finding& finding) { return finding.How || finding.SortMends; }
+bool CanBeMended(const Finding& finding) { return finding.How || finding.SortMends || finding.NextFixMends; }
 
 void Print(const Finding& finding, std::ostream& text) {
   if (finding.Record > 0) text << "record " << finding.Record << ", ";
@@ -136,7 +137,7 @@ int Fix(const Reading& reading, const Invocation& invocation, Output& output) {
     const std::optional<Findings> findings = FindAll(reading);
     if (!findings) return RefuseLength(reading, output);
     for (const Finding& finding : *findings) {
-      if (!CanBeMended(finding)) Print(finding, output.Text);
+      if (!CanBeMended(finding) || finding.NextFixMends) Print(finding, output.Text);
     }
     Questions questions(output, invocation.Has("yes"));
     const std::int64_t mended = Mending(disk, output, questions).Mend(*findings);

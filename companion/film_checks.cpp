@@ -52,24 +52,26 @@ std::string_view InTheRightCase(const CodedField& coded, std::string_view conten
   return "";
 }
 
-void LookAtCode(const NumberedFilm& film, const CodedField& coded, Findings& findings) {
+void LookAtCode(const NumberedFilm& film, const CodedField& coded, LimitedFindings& findings) {
   const std::string_view content = Content(film.Film, coded.Field);
   if (content.empty() || std::find(coded.Codes.begin(), coded.Codes.end(), content) != coded.Codes.end()) return;
-  const std::string name(RowOf(coded.Field).Name);
   const std::string_view code = InTheRightCase(coded, content);
-  if (code.empty()) {
-    findings.push_back(
-        {film.Number, name, Quoted(content) + " is no code", "Choose one from the list in the program."});
-  } else {
-    findings.push_back({film.Number, name, Quoted(content) + " is in the wrong case",
-                        "The code is " + std::string(code) + ".", Mend{coded.Field, std::string(code)}});
+  const std::string_view kind = code.empty() ? "is no code" : "is in the wrong case";
+  if (!findings.Counts(RowOf(coded.Field).Name, kind, !code.empty())) return;
+  Finding finding{film.Number, std::string(RowOf(coded.Field).Name), Quoted(content) + " " + std::string(kind),
+                  "Choose one from the list in the program."};
+  if (!code.empty()) {
+    finding.ToDo = "The code is " + std::string(code) + ".";
+    finding.How = Mend{coded.Field, std::string(code)};
   }
+  findings.Add(std::move(finding));
 }
 
-void LookAtNumber(const NumberedFilm& film, FilmField field, Findings& findings) {
+void LookAtNumber(const NumberedFilm& film, FilmField field, LimitedFindings& findings) {
   const std::string_view content = Content(film.Film, field);
   if (content.empty() || NumberIn(content)) return;
-  findings.push_back(
+  if (!findings.Counts(RowOf(field).Name, "is no number", false)) return;
+  findings.Add(
       {film.Number, std::string(RowOf(field).Name), Quoted(content) + " is no number", "Correct it in the program."});
 }
 
@@ -119,9 +121,9 @@ void FilmChecks::Look(const NumberedFilm& film) {
   for (const CodedField& coded : CodedFields()) LookAtCode(clean, coded, findings_);
   LookAtNumber(clean, FilmField::Time, findings_);
   LookAtNumber(clean, FilmField::Year, findings_);
-  if (film.Film.Get(FilmField::Tail) != LineEnd) {
-    findings_.push_back({film.Number, "line end", "the record does not end in CR LF",
-                         "Other programs cannot read the file as lines.", Mend{FilmField::Tail, std::string(LineEnd)}});
+  if (film.Film.Get(FilmField::Tail) != LineEnd && findings_.Counts("line end", "is not CR LF", true)) {
+    findings_.Add({film.Number, "line end", "the record does not end in CR LF",
+                   "Other programs cannot read the file as lines.", Mend{FilmField::Tail, std::string(LineEnd)}});
   }
 }
 
@@ -129,8 +131,9 @@ void FilmChecks::Look(const NumberedFilm& film) {
 void FilmChecks::LookAtFree(const NumberedFilm& film) {
   for (FilmField field : AnyField().Fields) {
     if (Content(film.Film, field).empty()) continue;
-    findings_.push_back({film.Number, std::string(RowOf(field).Name), "the record has no title, but is not empty",
-                         "New takes it for a film of its own. Give it a title, or delete it, in the program."});
+    if (!findings_.Counts(RowOf(field).Name, "is not empty, but there is no title", false)) return;
+    findings_.Add({film.Number, std::string(RowOf(field).Name), "the record has no title, but is not empty",
+                   "New takes it for a film of its own. Give it a title, or delete it, in the program."});
     return;
   }
 }
@@ -138,54 +141,66 @@ void FilmChecks::LookAtFree(const NumberedFilm& film) {
 void FilmChecks::LookAtTitle(const NumberedFilm& film) {
   const std::string_view field = film.Film.Get(FilmField::Title);
   const std::string_view title = field.substr(0, field.find_last_not_of(' ') + 1);
-  const store::FilmRecord saved = Saved(film.Film);
-  if (saved.Bytes != film.Film.Bytes) {
-    const std::string_view moved = Content(saved, FilmField::Title);
-    Finding finding{film.Number, "Title", Quoted(title) + " begins with an article",
-                    "The next save makes it " + Quoted(moved) + "."};
-    if (IsOnlyMoved(film.Film, saved)) finding.How = Mend{FilmField::Title, std::string(moved)};
-    findings_.push_back(std::move(finding));
-  }
+  LookAtArticle(film, title);
+  const auto tell = [&](std::string_view kind, std::string_view to_do) {
+    if (!findings_.Counts("Title", kind, false)) return;
+    findings_.Add({film.Number, "Title", Quoted(title) + " " + std::string(kind), std::string(to_do)});
+  };
   if (!is_sorted_.Keeps(film.Film.Bytes.data())) {
-    findings_.push_back({film.Number, "Title", Quoted(title) + " begins with a mark that sorts below the digits",
-                         "A sort leaves it out of all titles. Begin it with a letter or a digit."});
+    tell("begins with a mark that sorts below the digits",
+         "A sort leaves it out of all titles. Begin it with a letter or a digit.");
   }
   if (title.starts_with("49")) {
-    findings_.push_back(
-        {film.Number, "Title", Quoted(title) + " begins with 49",
-         "In the alphabetical views it is shown as if it were being edited. Write the number as a word."});
+    tell("begins with 49",
+         "In the alphabetical views it is shown as if it were being edited. Write the number as a word.");
   }
+}
+
+void FilmChecks::LookAtArticle(const NumberedFilm& film, std::string_view title) {
+  constexpr std::string_view Kind = "begins with an article";
+  const store::FilmRecord saved = Saved(film.Film);
+  if (saved.Bytes == film.Film.Bytes) return;
+  const bool can_be_mended = IsOnlyMoved(film.Film, saved);
+  if (!findings_.Counts("Title", Kind, can_be_mended)) return;
+  const std::string_view moved = Content(saved, FilmField::Title);
+  Finding finding{film.Number, "Title", Quoted(title) + " " + std::string(Kind),
+                  "The next save makes it " + Quoted(moved) + "."};
+  if (can_be_mended) finding.How = Mend{FilmField::Title, std::string(moved)};
+  findings_.Add(std::move(finding));
 }
 
 void FilmChecks::LookAtDouble(const NumberedFilm& film) {
   std::pair key(runtime::Upper(Content(film.Film, FilmField::Title)), std::string(Content(film.Film, FilmField::Year)));
   const auto [entry, is_new] = seen_.emplace(std::move(key), film.Number);
-  if (is_new) return;
-  findings_.push_back({film.Number, "Title", "the same title and year as record " + std::to_string(entry->second),
-                       "If it is the same film, delete one in the program."});
+  if (is_new || !findings_.Counts("Title", "is, with the year, the same as in an earlier one", false)) return;
+  findings_.Add({film.Number, "Title", "the same title and year as record " + std::to_string(entry->second),
+                 "If it is the same film, delete one in the program."});
 }
 
 void FilmChecks::LookAtBytes(const NumberedFilm& film, FilmField field, store::FilmRecord& clean) {
   const std::string_view bytes = film.Film.Get(field);
-  const std::string name(RowOf(field).Name);
-  if (std::any_of(bytes.begin(), bytes.end(), IsControl)) {
-    std::string mended(bytes);
-    std::replace_if(mended.begin(), mended.end(), IsControl, ' ');
-    Finding finding{film.Number, name, Quoted(runtime::Trim(bytes)) + " has control characters",
-                    "A blank can stand for each."};
-    // Without a title the film would be gone.
-    if (field == FilmField::Title && runtime::Trim(mended).empty()) {
-      finding.ToDo = "Give the film a title in the program.";
-    } else {
-      clean.Set(field, mended);
-      finding.How = Mend{field, std::move(mended)};
-    }
-    findings_.push_back(std::move(finding));
-  }
-  if (std::any_of(bytes.begin(), bytes.end(), IsUnstorable)) {
-    findings_.push_back({film.Number, name, Quoted(runtime::Trim(bytes)) + " has characters that the code page lacks",
-                         "Type them again in the program."});
-  }
+  if (std::any_of(bytes.begin(), bytes.end(), IsControl)) LookAtControls(film, field, clean);
+  if (std::none_of(bytes.begin(), bytes.end(), IsUnstorable)) return;
+  constexpr std::string_view Kind = "has characters that the code page lacks";
+  const std::string_view name = RowOf(field).Name;
+  if (!findings_.Counts(name, Kind, false)) return;
+  findings_.Add({film.Number, std::string(name), Quoted(runtime::Trim(bytes)) + " " + std::string(Kind),
+                 "Type them again in the program."});
+}
+
+void FilmChecks::LookAtControls(const NumberedFilm& film, FilmField field, store::FilmRecord& clean) {
+  constexpr std::string_view Kind = "has control characters";
+  const std::string_view bytes = film.Film.Get(field), name = RowOf(field).Name;
+  std::string mended(bytes);
+  std::replace_if(mended.begin(), mended.end(), IsControl, ' ');
+  // Without a title the film would be gone.
+  const bool can_be_mended = field != FilmField::Title || !runtime::Trim(mended).empty();
+  if (can_be_mended) clean.Set(field, mended);
+  if (!findings_.Counts(name, Kind, can_be_mended)) return;
+  Finding finding{film.Number, std::string(name), Quoted(runtime::Trim(bytes)) + " " + std::string(Kind),
+                  can_be_mended ? "A blank can stand for each." : "Give the film a title in the program."};
+  if (can_be_mended) finding.How = Mend{field, std::move(mended)};
+  findings_.Add(std::move(finding));
 }
 
 }  // namespace companion

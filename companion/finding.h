@@ -25,6 +25,7 @@ struct Finding {
   std::string ToDo;         // a sentence, or more
   std::optional<Mend> How = std::nullopt;
   bool SortMends = false;
+  bool NextFixMends = false;  // once those that are told are mended
 };
 
 using Findings = std::vector<Finding>;
