@@ -182,6 +182,7 @@ int Backup(const Invocation& invocation, Output& output) {
 int Backups(const Invocation& invocation, Output& output) {
   const std::string folder = invocation.Value("from").value_or(CopiesIn(invocation.Folder));
   std::vector<ListedCopy> copies;
+  if (!runtime::CanBeListed(*invocation.MakeDisk(folder), "")) return RefuseFolder(folder, output);
   for (const NamedCopy& copy : ListCopies(*invocation.MakeDisk(folder))) {
     const std::optional<FilesByName> files = ReadOther(invocation, folder + "/" + copy.Name);
     copies.push_back({copy, files ? std::optional(CountFilms(*files)) : std::nullopt});

@@ -109,6 +109,9 @@ int Draft(const Invocation& invocation, Output& output) {
   if (invocation.Write && !keep && !drop)
     return WrongUsage(invocation.Verb, output, "--write goes with --keep or --drop");
   const Reading reading(invocation);
+  const std::string safety(runtime::SafetyFolder);
+  if (!runtime::CanBeListed(reading.Disk(), safety)) return RefuseFolder(invocation.Folder + "/" + safety, output);
+  if (keep && reading.Slots() > Reading::MaxSlots) return RefuseLength(reading, output);
   const std::string wanted = invocation.Arguments.empty() ? "" : invocation.Arguments[0];
   const std::vector<NamedDraft> drafts = ReadDrafts(reading.Disk(), wanted);
   if (drafts.empty() && (invocation.Write || !wanted.empty())) {

@@ -79,6 +79,12 @@ void LookAtHistory(runtime::Disk& disk, Findings& findings) {
 }
 
 void LookAtDrafts(runtime::Disk& disk, Findings& findings) {
+  const std::string safety(runtime::SafetyFolder);
+  if (!runtime::CanBeListed(disk, safety)) {
+    findings.push_back({0, safety, "the folder cannot be listed",
+                        "It may hold films that were typed and not saved. Let your user account read it."});
+    return;
+  }
   for (const std::string& name : store::DraftNames(disk)) {
     const std::optional<store::Draft> draft = store::ReadDraft(disk, name);
     if (draft) {

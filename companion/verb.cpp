@@ -1,4 +1,4 @@
-// The options of an invocation, and the real disk.
+// The options of an invocation, the real disk, and a complaint.
 #include "companion/verb.h"
 
 namespace companion {
@@ -21,6 +21,11 @@ std::vector<std::string> Invocation::Values(std::string_view option) const {
     if (name == option) values.push_back(value);
   }
   return values;
+}
+
+int RefuseFolder(const std::string& folder, Output& output) {
+  output.Errors << "The folder " << folder << " cannot be listed.\n";
+  return Found;
 }
 
 }  // namespace companion

@@ -72,5 +72,7 @@ inline constexpr std::size_t AnyNumber = std::size_t(-1);
 
 // Complains and returns Usage.
 int WrongUsage(std::string_view verb, Output& output, std::string_view complaint);
+// Says that the folder cannot be listed; returns Found.
+int RefuseFolder(const std::string& folder, Output& output);
 
 }  // namespace companion

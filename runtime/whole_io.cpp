@@ -74,6 +74,15 @@ void OpenFile::Sync() const {
   RetryInterrupted(name_, [&] { return disk_->Sync(handle_); });
 }
 
+bool CanBeListed(Disk& disk, const std::string& folder) {
+  int handle = 0;
+  do {
+    handle = disk.Open(folder, Disk::Mode::Read);
+  } while (handle == -EINTR);
+  if (handle >= 0) disk.Close(handle);
+  return handle == -EISDIR || handle == -ENOENT;
+}
+
 void MakeSafetyFolder(Disk& disk) {
   RetryInterrupted(SafetyFolder, [&] { return disk.MakeFolder(std::string(SafetyFolder)); });
 }

@@ -60,6 +60,8 @@ class OpenFile {
   int handle_;
 };
 
+// Whether List tells what is in the folder; true if it is missing. A folder that nobody may read is listed as empty.
+bool CanBeListed(Disk& disk, const std::string& folder);
 // Makes the safety folder; throws if it cannot be made.
 void MakeSafetyFolder(Disk& disk);
 // Makes name changes in both folders durable; file: named in a Failure.

@@ -12,6 +12,7 @@
 #include "tests/companion/command_test.h"
 #include "tests/kit/films.h"
 #include "tests/kit/fresh_folder.h"
+#include "tests/kit/ordinary_user.h"
 #include "tests/kit/passing_disk.h"
 #include "tests/story/world.h"
 
@@ -241,6 +242,23 @@ TEST_F(BackupTest, IsNoMoreReadableThanTheFilms) {
     for (const fs::directory_entry& copy : fs::directory_iterator(folder)) fs::remove_all(copy);
   }
   ::umask(mask);
+}
+
+TEST_F(BackupTest, IsNotMissingBecauseItsFolderCannotBeListed) {
+  EXPECT_EQ(RunIn(Folder.Path(), {"backups", "--json"}).Text, "[]\n");
+  fs::create_directory(Folder.Path() / "backups");
+  EXPECT_EQ(RunIn(Folder.Path(), {"backups", "--json"}).Text, "[]\n");
+  fs::permissions(Folder.Path(), fs::perms(0755));
+  fs::permissions(Folder.Path() / "backups", fs::perms::none);
+  Ran ran;
+  {
+    const kit::OrdinaryUser user;
+    ran = RunIn(Folder.Path(), {"backups"});
+  }
+  fs::permissions(Folder.Path() / "backups", fs::perms::owner_all);
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_EQ(ran.Errors, "The folder " + Folder.Path().string() + "/backups cannot be listed.\n");
+  EXPECT_EQ(ran.Text, "");
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "tests/companion/command_test.h"
 #include "tests/companion/titled_film.h"
 #include "tests/kit/collection.h"
+#include "tests/kit/ordinary_user.h"
 #include "tests/story/world.h"
 
 namespace companion {
@@ -32,6 +33,10 @@ class CheckTest : public testing::Test {
     Put("Titlepra", " " + std::to_string(count) + "\r\n");
   }
   void Put(const std::string& name, const std::string& bytes) { story::WriteBytes(Folder.Folder() / name, bytes); }
+  void PutOlderThanTheKeys(const std::string& master) {
+    Put("Recpra.Dat", master);
+    Put("Titlepra.Dat", *story::ReadBytes(Folder.Folder() / "Titlepra.Dat"));
+  }
   Ran Check() { return RunIn(Folder.Folder(), {"check"}); }
 
   kit::Collection Folder;
@@ -104,12 +109,72 @@ TEST_F(CheckTest, TellsOfAHistoryThatNobodyCanHaveMade) {
 TEST_F(CheckTest, RefusesAMasterFileThatNoSortTakes) {
   Put("Recpra.Dat", "");
   std::filesystem::resize_file(Folder.Folder() / "Recpra.Dat", 1'000'001 * std::uintmax_t{649});
-  for (const char* verb : {"check", "list", "sort"}) {
+  for (const char* verb : {"check", "list", "sort", "export"}) {
     const Ran ran = RunIn(Folder.Folder(), {verb});
     EXPECT_EQ(ran.Status, Found) << verb;
     EXPECT_EQ(ran.Errors, "The master file is damaged: it has 1000001 records.\n") << verb;
     EXPECT_EQ(ran.Text, "") << verb;
   }
+}
+
+TEST_F(CheckTest, TellsTheFirstThousandOfAKind) {
+  PutFilms(1'003);
+  std::string master = *story::ReadBytes(Folder.Folder() / "Recpra.Dat");
+  for (std::size_t end = 647; end < master.size(); end += 649) master[end] = ' ';
+  for (std::size_t year = 272; year < master.size(); year += 649) master[year] = 'x';
+  PutOlderThanTheKeys(master);
+  const Ran ran = Check();
+  EXPECT_NE(ran.Text.find("record 1000, line end: "), std::string::npos);
+  EXPECT_EQ(ran.Text.find("record 1001, line end: "), std::string::npos);
+  const std::string year = "Year: in 3 more records it is no number. Check again once the first 1000 are in order.\n";
+  const std::string end =
+      "line end: in 3 more records it is not CR LF. Check again once the first 1000 are in order.\n";
+  EXPECT_TRUE(ran.Text.ends_with("\n" + year + end + "Found 2002 things. 1001 can be mended: check --fix.\n"))
+      << ran.Text.substr(ran.Text.size() - 300);
+  const std::string json = RunIn(Folder.Folder(), {"check", "--json"}).Text;
+  EXPECT_NE(json.find(R"({"where":"Year","what":"in 3 more records it is no number",)"
+                      R"("toDo":"Check again once the first 1000 are in order.","canBeMended":false},)"),
+            std::string::npos);
+  EXPECT_NE(json.find(R"("what":"in 3 more records it is not CR LF",)"
+                      R"("toDo":"Check again once the first 1000 are in order.","canBeMended":true}])"),
+            std::string::npos);
+}
+
+TEST_F(CheckTest, MendsWhatItDidNotTellTheNextTime) {
+  PutFilms(1'003);
+  std::string master = *story::ReadBytes(Folder.Folder() / "Recpra.Dat");
+  std::string broken = master;
+  for (std::size_t end = 647; end < master.size(); end += 649) broken[end] = ' ';
+  PutOlderThanTheKeys(broken);
+  const std::string more =
+      "line end: in 3 more records it is not CR LF. Check again once the first 1000 are in order.\n";
+  EXPECT_NE(RunIn(Folder.Folder(), {"check", "--fix"}).Text.find(more), std::string::npos);
+  Ran ran = RunIn(Folder.Folder(), {"check", "--fix", "--write", "--yes"});
+  EXPECT_EQ(ran.Status, Found);
+  EXPECT_TRUE(ran.Text.starts_with(more));
+  EXPECT_TRUE(ran.Text.ends_with("Found 1001 things. 1001 can be mended.\n1000 things mended.\n"));
+  ran = RunIn(Folder.Folder(), {"check", "--fix", "--write", "--yes"});
+  EXPECT_TRUE(ran.Text.ends_with("Found 3 things. 3 can be mended.\n3 things mended.\n"));
+  EXPECT_EQ(ran.Status, Done);
+  EXPECT_TRUE(story::ReadBytes(Folder.Folder() / "Recpra.Dat") == master);
+}
+
+TEST_F(CheckTest, TellsOfASafetyFolderThatCannotBeListed) {
+  PutFilms(1);
+  runtime::RealDisk disk(Folder.Folder());
+  runtime::MakeSafetyFolder(disk);
+  const std::filesystem::path safety = Folder.Folder() / ".reelora";
+  std::filesystem::permissions(Folder.Folder(), std::filesystem::perms(0755));
+  std::filesystem::permissions(safety, std::filesystem::perms(0111));
+  Ran ran;
+  {
+    const kit::OrdinaryUser user;
+    ran = Check();
+  }
+  std::filesystem::permissions(safety, std::filesystem::perms::owner_all);
+  EXPECT_EQ(ran.Text,
+            ".reelora: the folder cannot be listed. It may hold films that were typed and not saved. Let your user "
+            "account read it.\nFound 1 thing.\n");
 }
 
 TEST_F(CheckTest, PassesOverKeysThatNoSortMakes) {
