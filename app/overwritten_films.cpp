@@ -31,12 +31,13 @@ OverwrittenFilms::OverwrittenFilms(Program& program)
 
 std::vector<store::KeptFilm> OverwrittenFilms::TakeLost() {
   runtime::Files& files = program_.Files;
-  if (records_written_ == files.RecordsWritten()) return {};
-  records_written_ = files.RecordsWritten();
   if (!entries_) {
+    records_written_ = files.RecordsWritten();
     entries_ = CountIfReadable(files.Disk());
     return {};
   }
+  if (records_written_ == files.RecordsWritten()) return {};
+  records_written_ = files.RecordsWritten();
   std::vector<store::KeptFilm> lost = store::ReadHistory(files.Disk(), *entries_);
   if (!lost.empty()) entries_ = lost.back().Number;
   std::erase_if(lost, [&](const store::KeptFilm& kept) {

@@ -12,7 +12,8 @@ class OverwrittenFilms {
  public:
   explicit OverwrittenFilms(Program& program);
 
-  // The films that were lost since the last call: the record holds another title now, or none.
+  // The films that were lost since the last call: the record holds another title now, or none. None until the history
+  // can be read.
   std::vector<store::KeptFilm> TakeLost();
   // Writes the film into its record again; the film that is there goes to the history. The record screen shows the film
   // if it shows that record and none is open for typing.

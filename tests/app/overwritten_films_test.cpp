@@ -7,6 +7,7 @@
 #include "tests/kit/draft_desk.h"
 #include "tests/kit/films.h"
 #include "tests/kit/memory_disk.h"
+#include "tests/kit/refusing_disk.h"
 
 namespace {
 
@@ -24,7 +25,8 @@ class Overwritten : public testing::Test {
     Click(Screen.cmdSave);
   }
 
-  kit::MemoryDisk Disk{kit::FolderOfFilms(9)};
+  kit::MemoryDisk Memory{kit::FolderOfFilms(9)};
+  kit::RefusingDisk Disk{Memory};
   kit::DraftDesk Desk;
   ::Program Program{Desk, Disk};
   frmPage1& Screen = Program.RecordScreen;
@@ -38,6 +40,16 @@ TEST_F(Overwritten, AreOfferedOnce) {
   EXPECT_EQ(lost[0].Slot, 7);
   EXPECT_EQ(lost[0].Film.Get(store::FilmField::Title), kit::FilmBytes(7, 0).substr(0, 40));
   EXPECT_TRUE(Films.TakeLost().empty());
+}
+
+TEST_F(Overwritten, AreOfferedOnceTheHistoryCanBeRead) {
+  Disk.Unopenable = runtime::InSafetyFolder(store::HistoryFile);
+  OverwrittenFilms films(Program);
+  EXPECT_TRUE(films.TakeLost().empty());
+  Disk.Unopenable.clear();
+  EXPECT_TRUE(films.TakeLost().empty());
+  Overwrite(Screen.txtTitle);
+  EXPECT_EQ(films.TakeLost().size(), 1U);
 }
 
 TEST_F(Overwritten, AreNotOfferedWhereTheTitleStayed) {

@@ -102,7 +102,10 @@ Step PutFilmBack() {
 Step DeleteAndPutBack(int slot) {
   return [slot](Program& program) {
     std::optional<OverwrittenFilms> films;
-    program.Deliver([&] { films.emplace(program); });
+    program.Deliver([&] {
+      films.emplace(program);
+      films->TakeLost();  // as after each event
+    });
     GoTo(program, slot);
     program.Deliver([&] { program.RecordScreen.UserClick(program.RecordScreen.cmdDelete); });
     program.Deliver([&] {
