@@ -16,7 +16,8 @@ enum class Copied { Confirmed, Unconfirmed };
 // Writes a temporary file on the target's disk, with the date and time of the source, and renames it once it is
 // complete. A stop at any moment, or a Failure, which names what went wrong, leaves what was there before; only where
 // the disk has no room for both files but has for the new one in place of the old, the old one is removed first. What
-// earlier copies left on the target's disk when they were stopped is removed.
+// earlier copies left on the target's disk when they were stopped is removed, but nothing that another program is
+// writing there.
 Copied CopyFile(Disk& source_disk, const std::string& source_name, Disk& target_disk, const std::string& target_name);
 
 // Modified: local time. Size: in bytes.

@@ -47,6 +47,9 @@ class Disk {
   virtual void Reserve(int, std::int64_t) {}
   virtual int Sync(int handle) = 0;
   virtual int Identify(int handle, FileIdentity& identity) = 0;
+  // Locks the file for this handle until it is closed, however its program ends. Fails with -EWOULDBLOCK if another
+  // handle has the lock. Reads and writes ask for none. A disk that knows no locks always succeeds.
+  virtual int Lock(int) { return 0; }
   // Time of the last change. A disk that keeps no times leaves it as it is, and setting one succeeds.
   virtual int Modified(int handle, FileTime& time) = 0;
   virtual int SetModified(int handle, FileTime time) = 0;
@@ -83,6 +86,7 @@ class RealDisk final : public Disk {
   void Reserve(int handle, std::int64_t length) override;
   int Sync(int handle) override;
   int Identify(int handle, FileIdentity& identity) override;
+  int Lock(int handle) override;
   int Modified(int handle, FileTime& time) override;
   int SetModified(int handle, FileTime time) override;
   int Rename(const std::string& from, const std::string& to) override;

@@ -1,6 +1,7 @@
 // The real disk: each call maps to one system call.
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -106,6 +107,11 @@ int RealDisk::Identify(int handle, FileIdentity& identity) {
   if (::fstat(handle, &status) < 0) return -errno;
   identity = {status.st_dev, status.st_ino};
   return 0;
+}
+
+int RealDisk::Lock(int handle) {
+  const int result = static_cast<int>(OrError(::flock(handle, LOCK_EX | LOCK_NB)));
+  return result == -EWOULDBLOCK || result == -EINTR ? result : 0;  // some file systems know no locks
 }
 
 int RealDisk::Modified(int handle, FileTime& time) {

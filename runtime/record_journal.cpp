@@ -90,15 +90,6 @@ void TryToTakeBack(const OpenFile& file, const JournalBlock& block) {
   }
 }
 
-bool HasItsName(Disk& disk, const OpenFile& file) {
-  try {
-    return OpenFile(disk, file.Name(), Disk::Mode::Read).Identity() == file.Identity();
-  } catch (const Failure& failure) {
-    if (failure.Name == FileNotFound) return false;
-    throw;
-  }
-}
-
 }  // namespace
 
 void RecordJournal::Write(const OpenFile& file, std::int64_t slot, std::string_view record, BeforeOverwrite before) {

@@ -34,6 +34,16 @@ FileIdentity OpenFile::Identity() const {
   return identity;
 }
 
+bool OpenFile::Lock() const {
+  bool locked = true;
+  RetryInterrupted(name_, [&] {
+    const int result = disk_->Lock(handle_);
+    locked = result != -EWOULDBLOCK;
+    return locked ? result : 0;
+  });
+  return locked;
+}
+
 FileTime OpenFile::Modified() const {
   FileTime time;
   RetryInterrupted(name_, [&] { return disk_->Modified(handle_, time); });
@@ -81,6 +91,15 @@ bool CanBeListed(Disk& disk, const std::string& folder) {
   } while (handle == -EINTR);
   if (handle >= 0) disk.Close(handle);
   return handle == -EISDIR || handle == -ENOENT;
+}
+
+bool HasItsName(Disk& disk, const OpenFile& file) {
+  try {
+    return OpenFile(disk, file.Name(), Disk::Mode::Read).Identity() == file.Identity();
+  } catch (const Failure& failure) {
+    if (failure.Name == FileNotFound) return false;
+    throw;
+  }
 }
 
 void MakeSafetyFolder(Disk& disk) {

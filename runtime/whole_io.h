@@ -43,6 +43,8 @@ class OpenFile {
   const std::string& Name() const { return name_; }
   std::int64_t Length() const;
   FileIdentity Identity() const;
+  // Returns whether it is locked until it is closed; not if another program has locked it.
+  bool Lock() const;
   FileTime Modified() const;
   void SetModified(FileTime time) const;
   // Returns the bytes read: count, or fewer at the end of the file.
@@ -62,6 +64,10 @@ class OpenFile {
 
 // Whether List tells what is in the folder; true if it is missing. A folder that nobody may read is listed as empty.
 bool CanBeListed(Disk& disk, const std::string& folder);
+
+// Whether the file's name still leads to it, and not to another one or to none.
+bool HasItsName(Disk& disk, const OpenFile& file);
+
 // Makes the safety folder; throws if it cannot be made.
 void MakeSafetyFolder(Disk& disk);
 // Makes name changes in both folders durable; file: named in a Failure.

@@ -113,6 +113,10 @@ int FaultyDisk::Identify(int handle, runtime::FileIdentity& identity) {
   return Made([&] { return below_.Identify(handle, identity); });
 }
 
+int FaultyDisk::Lock(int handle) {
+  return Made([&] { return below_.Lock(handle); });
+}
+
 int FaultyDisk::Modified(int handle, runtime::FileTime& time) {
   return Made([&] { return below_.Modified(handle, time); });
 }

@@ -51,6 +51,7 @@ class FaultyDisk final : public runtime::Disk {
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
   int Identify(int handle, runtime::FileIdentity& identity) override;
+  int Lock(int handle) override;
   int Modified(int handle, runtime::FileTime& time) override;
   int SetModified(int handle, runtime::FileTime time) override;
   int Rename(const std::string& from, const std::string& to) override;

@@ -56,7 +56,10 @@ int MemoryDisk::Open(const std::string& name, Mode mode) {
   return static_cast<int>(handles_.size()) - 1;
 }
 
-void MemoryDisk::Close(int handle) { handles_[static_cast<std::size_t>(handle)] = -1; }
+void MemoryDisk::Close(int handle) {
+  std::erase_if(locks_, [&](const auto& lock) { return lock.second == handle; });
+  handles_[static_cast<std::size_t>(handle)] = -1;
+}
 
 std::int64_t MemoryDisk::ReadAt(int handle, char* target, std::size_t count, std::int64_t offset) {
   const std::string& bytes = nodes_.at(static_cast<std::size_t>(handles_[static_cast<std::size_t>(handle)]));
@@ -111,6 +114,11 @@ int MemoryDisk::Identify(int handle, runtime::FileIdentity& identity) {
   identity = {reinterpret_cast<std::uintptr_t>(this),
               static_cast<std::uint64_t>(handles_[static_cast<std::size_t>(handle)])};
   return 0;
+}
+
+int MemoryDisk::Lock(int handle) {
+  auto lock = locks_.emplace(handles_[static_cast<std::size_t>(handle)], handle).first;
+  return lock->second == handle ? 0 : -EWOULDBLOCK;
 }
 
 int MemoryDisk::Modified(int handle, runtime::FileTime& time) {

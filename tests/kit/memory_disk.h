@@ -40,6 +40,7 @@ class MemoryDisk final : public runtime::Disk {
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
   int Identify(int handle, runtime::FileIdentity& identity) override;
+  int Lock(int handle) override;
   int Modified(int handle, runtime::FileTime& time) override;
   int SetModified(int handle, runtime::FileTime time) override;
   int Rename(const std::string& from, const std::string& to) override;
@@ -68,6 +69,7 @@ class MemoryDisk final : public runtime::Disk {
   std::map<std::string, int> names_;
   std::set<std::string> folders_ = {""};
   std::vector<int> handles_;
+  std::map<int, int> locks_;  // the handle that has locked a node
   std::vector<Event> log_;
   Folder first_;
 };

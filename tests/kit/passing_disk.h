@@ -30,6 +30,7 @@ class PassingDisk : public runtime::Disk {
   void Reserve(int handle, std::int64_t length) override { below_.Reserve(handle, length); }
   int Sync(int handle) override { return below_.Sync(handle); }
   int Identify(int handle, runtime::FileIdentity& identity) override { return below_.Identify(handle, identity); }
+  int Lock(int handle) override { return below_.Lock(handle); }
   int Modified(int handle, runtime::FileTime& time) override { return below_.Modified(handle, time); }
   int SetModified(int handle, runtime::FileTime time) override { return below_.SetModified(handle, time); }
   int Rename(const std::string& from, const std::string& to) override { return below_.Rename(from, to); }

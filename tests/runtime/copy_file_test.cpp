@@ -5,6 +5,8 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <functional>
+#include <utility>
 
 #include "runtime/clock.h"
 #include "runtime/failure.h"
@@ -225,6 +227,73 @@ TEST(CopyFile, TheLeftoversOfAStoppedCopyGoAtTheNext) {
   EXPECT_EQ(below.Content(), (Folder{{".hidden.new", "not ours"}, {Name, New}}));
 }
 
+const std::string Aside = ".reelora-copy.new";
+
+// Does what another program does at the first sync of the temporary file.
+class SharedDisk final : public kit::PassingDisk {
+ public:
+  SharedDisk(MemoryDisk& below, std::function<void()> other) : PassingDisk(below), other_(std::move(other)) {}
+  int Sync(int handle) override {
+    if (other_) std::exchange(other_, nullptr)();
+    return PassingDisk::Sync(handle);
+  }
+
+ private:
+  std::function<void()> other_;
+};
+
+TEST(TwoCopiesAtOnce, AreBothMade) {
+  MemoryDisk source(Folder{{Name, New}}), other_source(Folder{{"Last", Old}}), below(Folder{});
+  SharedDisk target(below, [&] { runtime::CopyFile(other_source, "Last", below, "Last"); });
+  EXPECT_EQ(NameOfFailure(source, target), "");
+  EXPECT_EQ(below.Content(), (Folder{{Name, New}, {"Last", Old}}));
+}
+
+TEST(TwoCopiesAtOnce, GiveNoneTheFileOfTheOther) {
+  for (const char* taken_by : {"another file", "nothing"}) {
+    MemoryDisk source(Folder{{Name, New}}), below(Folder{{Name, Old}});
+    Folder after = below.Content();
+    SharedDisk target(below, [&] {
+      below.Remove(Aside);
+      if (taken_by == std::string("nothing")) return;
+      runtime::OpenFile(below, Aside, runtime::Disk::Mode::CreateNew).Write("half", 0);
+      after[Aside] = "half";
+    });
+    EXPECT_EQ(NameOfFailure(source, target), runtime::PathError) << taken_by;
+    EXPECT_EQ(below.Content(), after) << taken_by;
+  }
+}
+
+TEST(TwoCopiesAtOnce, OneThatFailsLeavesTheFileOfTheOther) {
+  MemoryDisk source(Folder{{Name, New}}), below(Folder{{Name, Old}});
+  class Failing final : public kit::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    int Sync(int) override {
+      Below().Remove(Aside);
+      runtime::OpenFile(Below(), Aside, runtime::Disk::Mode::CreateNew).Write("half", 0);
+      return -EIO;
+    }
+  };
+  Failing target(below);
+  EXPECT_EQ(NameOfFailure(source, target), runtime::DeviceError);
+  EXPECT_EQ(below.Content(), (Folder{{Name, Old}, {Aside, "half"}}));
+}
+
+TEST(TwoCopiesAtOnce, ALeftoverThatNobodyMayWriteGoesToo) {
+  class ReadOnly final : public kit::PassingDisk {
+   public:
+    using PassingDisk::PassingDisk;
+    int Open(const std::string& name, Mode mode) override {
+      return mode == Mode::ReadWrite ? -EACCES : PassingDisk::Open(name, mode);
+    }
+  };
+  MemoryDisk source(Folder{{Name, New}}), below(Folder{{Aside, "half"}});
+  ReadOnly target(below);
+  EXPECT_EQ(NameOfFailure(source, target), "");
+  EXPECT_EQ(below.Content(), (Folder{{Name, New}}));
+}
+
 struct CopyOnRealDisks : testing::Test {
   std::filesystem::path Lay(const std::string& name, const std::string& bytes) {
     story::WriteBytes(Folder.Path() / name, bytes);
@@ -260,6 +329,17 @@ TEST_F(CopyOnRealDisks, NoLinkOfTheTargetIsFollowed) {
   EXPECT_EQ(Bytes("precious"), "precious");
   EXPECT_EQ(Bytes("floppy/Recpra.Dat"), "films");
   EXPECT_FALSE(std::filesystem::is_symlink(Folder.Path() / "floppy/Recpra.Dat"));
+}
+
+TEST_F(CopyOnRealDisks, WhatAnotherProgramIsWritingStays) {
+  Lay("hard/Recpra.Dat", "films");
+  for (const char* name : {".reelora-copy.new", ".reelora-copy.2.new"}) Lay("floppy/" + std::string(name), "half");
+  const runtime::OpenFile other(Floppy, Aside, runtime::Disk::Mode::ReadWrite);
+  ASSERT_TRUE(other.Lock());
+  runtime::CopyFile(Hard, Name, Floppy, Name);
+  EXPECT_EQ(Bytes("floppy/Recpra.Dat"), "films");
+  EXPECT_EQ(Bytes("floppy/.reelora-copy.new"), "half");
+  EXPECT_FALSE(std::filesystem::exists(Folder.Path() / "floppy/.reelora-copy.2.new"));
 }
 
 TEST(FactsOf, AMissingFileIsNamed) {

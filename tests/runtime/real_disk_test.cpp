@@ -54,6 +54,18 @@ TEST_F(RealDiskTest, APipeADeviceAndASocketAreRefusedAtOnce) {
   EXPECT_EQ(FailureOf([&] { files.OpenRandom(2, "pipe", 49); }), "Path/File access error: pipe");
 }
 
+TEST_F(RealDiskTest, AFileIsLockedOnceUntilItIsClosed) {
+  story::WriteBytes(Path("file"), "content");
+  const OpenFile second(disk_, "file", Mode::Read);
+  {
+    const OpenFile first(disk_, "file", Mode::ReadWrite);
+    EXPECT_TRUE(first.Lock());
+    EXPECT_TRUE(first.Lock());
+    EXPECT_FALSE(second.Lock());
+  }
+  EXPECT_TRUE(second.Lock());
+}
+
 TEST_F(RealDiskTest, ALinkInTheSafetyFolderIsNeverFollowed) {
   story::WriteBytes(Path("precious"), "precious");
   fs::create_directory(Path(".reelora"));

@@ -46,6 +46,7 @@ const std::vector<SafeguardRow>& Safeguards() {
       {Safeguard::CopyRename, "CopyRename"},
       {Safeguard::CopyFolderSync, "CopyFolderSync"},
       {Safeguard::CopyRemainsRemoval, "CopyRemainsRemoval"},
+      {Safeguard::CopyLock, "CopyLock"},
   };
   return rows;
 }
@@ -100,6 +101,8 @@ int DisabledSafeguard::Sync(int handle) {
 int DisabledSafeguard::Identify(int handle, runtime::FileIdentity& identity) {
   return IsOff(Safeguard::NameCheck) ? 0 : kit::PassingDisk::Identify(handle, identity);
 }
+
+int DisabledSafeguard::Lock(int handle) { return IsOff(Safeguard::CopyLock) ? 0 : kit::PassingDisk::Lock(handle); }
 
 int DisabledSafeguard::Remove(const std::string& name) {
   const bool kept = (IsOff(Safeguard::LeftoverRemoval) && kit::FolderOf(name) == runtime::SafetyFolder) ||

@@ -35,6 +35,7 @@ enum class Safeguard {
   CopyRename,  // the old copy is overwritten in place
   CopyFolderSync,
   CopyRemainsRemoval,
+  CopyLock,  // of a copy that is being written
 };
 
 struct SafeguardRow {
@@ -52,6 +53,7 @@ class DisabledSafeguard final : public kit::PassingDisk {
   int Truncate(int handle, std::int64_t length) override;
   int Sync(int handle) override;
   int Identify(int handle, runtime::FileIdentity& identity) override;
+  int Lock(int handle) override;
   int Remove(const std::string& name) override;
   int Rename(const std::string& from, const std::string& to) override;
   int SyncFolder(const std::string& name) override;

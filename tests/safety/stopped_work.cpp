@@ -51,10 +51,15 @@ std::string StoppedTypingComplaint(const DiskWrapper& wrapper) {
 std::string RemainsComplaint(const DiskWrapper& wrapper) {
   kit::Folder folder = kit::FolderOfFilms(2);
   folder[runtime::InSafetyFolder("Last.new")] = folder[std::string(Drive) + "/.reelora-copy.new"] = "remains";
+  const std::string in_use = std::string(Drive) + "/.reelora-copy.2.new";
+  folder[in_use] = "of another program";
   kit::MemoryDisk memory(folder);
+  const runtime::OpenFile used(memory, in_use, runtime::Disk::Mode::ReadWrite);
+  used.Lock();
   auto wrapped = Wrapped(memory, wrapper);
   StartedProgram started(*wrapped);
   CopyMaster()(started.Program);
+  if (!memory.Content().contains(in_use)) return in_use + " is removed while it is written";
   for (const auto& [name, content] : memory.Content()) {
     if (content == "remains") return name + " is left";
   }
