@@ -20,6 +20,11 @@ using std::chrono::local_seconds;
 constexpr std::size_t AlwaysKept = 10;
 constexpr days Month(31);
 constexpr days Year(366);
+// A copy from further ahead was made while the clock was wrong.
+constexpr days FurthestAhead(1);
+// The last time that a name can hold.
+constexpr local_seconds LastTime =
+    std::chrono::local_days(std::chrono::year(9999) / std::chrono::December / 31) + days(1) - std::chrono::seconds(1);
 constexpr std::size_t BlockBytes = 256 * 1024;
 
 struct Copy {
@@ -27,11 +32,12 @@ struct Copy {
   std::string Name;
 };
 
-// The newest first.
-std::vector<Copy> Copies(const std::vector<std::string>& names) {
+// The newest first, without those from too far ahead.
+std::vector<Copy> Copies(const std::vector<std::string>& names, local_seconds now) {
   std::vector<Copy> copies;
   for (const std::string& name : names) {
-    if (std::optional<local_seconds> when = TimeOfCopy(name)) copies.push_back({*when, name});
+    std::optional<local_seconds> when = TimeOfCopy(name);
+    if (when && *when <= now + FurthestAhead) copies.push_back({*when, name});
   }
   std::ranges::sort(copies, std::ranges::greater(), &Copy::When);
   return copies;
@@ -48,6 +54,17 @@ bool AreEqual(const runtime::OpenFile& left, const runtime::OpenFile& right) {
       return false;
     if (read < BlockBytes) return true;
   }
+}
+
+// That time, or the next one that no copy has; before the last time the one before it.
+local_seconds FreeTime(const std::vector<std::string>& names, local_seconds when) {
+  std::chrono::seconds step(1);
+  when = std::min(when, LastTime);
+  while (std::ranges::find(names, NameOfCopy(when)) != names.end()) {
+    if (when == LastTime) step = -step;
+    when += step;
+  }
+  return when;
 }
 
 // Whether the master file differs from that copy.
@@ -98,7 +115,7 @@ std::vector<std::string> Superseded(const std::vector<std::string>& names, local
   std::set<std::chrono::local_days> seen_days;
   std::set<std::chrono::year_month> seen_months;
   std::size_t count = 0;
-  for (const Copy& copy : Copies(names)) {
+  for (const Copy& copy : Copies(names, now)) {
     auto day = std::chrono::floor<days>(copy.When);
     std::chrono::year_month_day date(day);
     bool first_of_day = seen_days.insert(day).second;
@@ -123,11 +140,12 @@ bool HasFilms(runtime::Disk& collection) {
 std::string KeepCopy(runtime::Disk& collection, runtime::Disk& copies, local_seconds now) {
   if (!HasFilms(collection)) return "";
   FinishStoppedSave(collection);
-  std::vector<Copy> before = Copies(copies.List(""));
+  const std::vector<std::string> names = copies.List("");
+  const std::vector<Copy> before = Copies(names, now);
   if (!NeedsCopy(collection, copies, before.empty() ? "" : before.front().Name)) return "";
   // Two starts in one second, or a clock that was put back: the new copy must be the newest.
   local_seconds when = before.empty() ? now : std::max(now, before.front().When + std::chrono::seconds(1));
-  std::string name = NameOfCopy(when);
+  std::string name = NameOfCopy(FreeTime(names, when));
   runtime::Copied copied = runtime::CopyFile(collection, std::string(store::MasterFileName), copies, name);
   // What a loss of power may take replaces nothing.
   if (copied == runtime::Copied::Unconfirmed) return name;

@@ -94,6 +94,63 @@ TEST(KeepCopy, IsTheNewestEvenIfTheClockWasPutBack) {
   EXPECT_EQ(KeepCopy(collection, copies, Now - days(1)), NameOfCopy(Now + seconds(1)));
 }
 
+std::string NameOf(int year, unsigned month, unsigned day, seconds time = seconds(0)) {
+  return NameOfCopy(std::chrono::local_days(std::chrono::year_month_day{
+                        std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)}) +
+                    time);
+}
+
+// Copies that were made while the clock was wrong.
+TEST(CopiesFromFarAhead, AreNotCountedAndNeverSuperseded) {
+  std::vector<std::string> names;
+  names.reserve(31);
+  for (int count = 0; count < 20; ++count) names.push_back(NameOf(2099, 5, 5, seconds(count)));
+  for (int count = 0; count < 11; ++count) names.push_back(NameOfCopy(Now - days(3000) - seconds(count)));
+  EXPECT_EQ(Superseded(names, Now), std::vector<std::string>{NameOfCopy(Now - days(3000) - seconds(10))});
+}
+
+TEST(CopiesFromFarAhead, BeginMoreThanADayAhead) {
+  for (int ahead : {0, 1}) {
+    MemoryDisk collection(Folder{{Master, "films"}});
+    MemoryDisk copies(Folder{{NameOfCopy(Now + days(1) + seconds(ahead)), "films"}});
+    EXPECT_EQ(KeepCopy(collection, copies, Now), ahead == 0 ? "" : NameOfCopy(Now));
+  }
+}
+
+TEST(CopiesFromFarAhead, AreNotTheNewestAndStay) {
+  const Folder before{{NameOf(2099, 5, 5), "films"}, {NameOf(9999, 12, 31, days(1) - seconds(1)), "films"}};
+  MemoryDisk copies(before);
+  for (int day = 0; day < 40; ++day) {
+    MemoryDisk collection(Folder{{Master, "films " + std::to_string(day)}});
+    EXPECT_EQ(KeepCopy(collection, copies, Now + days(day)), NameOfCopy(Now + days(day)));
+    EXPECT_EQ(KeepCopy(collection, copies, Now + days(day) + hours(1)), "") << "films that have not changed";
+  }
+  Folder after = copies.Content();
+  // 31 days and the newest of November, the month before.
+  EXPECT_EQ(after.size(), before.size() + 32U);
+  for (const auto& [name, content] : before) EXPECT_EQ(after[name], content);
+}
+
+TEST(CopiesFromFarAhead, AreNeverOverwritten) {
+  const std::string at_limit = NameOfCopy(Now + days(1)), past_limit = NameOfCopy(Now + days(1) + seconds(1));
+  MemoryDisk collection(Folder{{Master, "films"}});
+  MemoryDisk copies(Folder{{at_limit, "one"}, {past_limit, "two"}});
+  const std::string made = KeepCopy(collection, copies, Now);
+  EXPECT_EQ(copies.Content(), (Folder{{at_limit, "one"}, {past_limit, "two"}, {made, "films"}}));
+}
+
+TEST(KeepCopy, NamesHaveYearsOfFourDigits) {
+  const local_seconds last = *TimeOfCopy("Recpra 9999-12-31 23-59-59.Dat");
+  MemoryDisk copies(Folder{});
+  for (int start = 0; start < 3; ++start) {
+    MemoryDisk collection(Folder{{Master, "films " + std::to_string(start)}});
+    KeepCopy(collection, copies, last + days(start));
+  }
+  EXPECT_EQ(copies.Content(), (Folder{{"Recpra 9999-12-31 23-59-57.Dat", "films 2"},
+                                      {"Recpra 9999-12-31 23-59-58.Dat", "films 1"},
+                                      {"Recpra 9999-12-31 23-59-59.Dat", "films 0"}}));
+}
+
 TEST(KeepCopy, RemovesWhatIsSuperseded) {
   Folder before{{"notes.txt", "mine"}};
   for (int count = 0; count < 12; ++count) before[NameOfCopy(Now - days(500) - seconds(count))] = "old";

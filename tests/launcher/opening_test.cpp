@@ -448,6 +448,19 @@ TEST_F(StartCopies, SyncTheFolderInWhichTheirsIsNew) {
   EXPECT_EQ(std::ranges::count(synced, disk), 1);
 }
 
+// Films behind a link are no copy: where it leads to the films themselves, a damage to them would reach it.
+TEST_F(StartCopies, FollowNoLinkOnTheirDisk) {
+  NameSecondFolder((Home / "disk").string());
+  const fs::path second = Home / "disk" / SecondCopiesName(Films.string());
+  for (const fs::path& folder : {Films / "backups", second}) {
+    fs::create_directories(folder);
+    fs::create_symlink(Films / "Recpra.Dat", folder / "Recpra 2026-11-21 12-00-00.Dat");
+  }
+  const std::string notice = Open()->Notice;
+  for (const fs::path& folder : {Films / "backups", second})
+    EXPECT_NE(notice.find("No copy of the films was made in " + folder.string()), std::string::npos) << notice;
+}
+
 TEST_F(StartCopies, OfTwoCollectionsOfOneNameAreApart) {
   EXPECT_NE(SecondCopiesName("/a/films"), SecondCopiesName("/b/films"));
   EXPECT_TRUE(SecondCopiesName("/a/films").starts_with("films "));
