@@ -52,6 +52,7 @@ TEST(Superseded, TheLastTenStayHoweverOldTheyAre) {
 
 TEST(Superseded, OneADayStaysForAMonthAndOneAMonthForAYear) {
   std::vector<std::string> names;
+  names.reserve(24 * 800);
   for (int hour = 0; hour < 24 * 800; ++hour) names.push_back(NameOfCopy(Now - hours(hour)));
   std::vector<std::string> gone = Superseded(names, Now);
   std::ranges::sort(gone);
