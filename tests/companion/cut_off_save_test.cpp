@@ -95,6 +95,18 @@ TEST_F(CutOffSave, OfANewFilmIsNotRead) {
   ExpectReadAsWhole();
 }
 
+// The file lacks the last byte of its last film, and the write has not come so far.
+TEST_F(CutOffSave, OverAFilmThatEndsEarlyIsReadAsTheOldFilm) {
+  constexpr std::size_t Border = 4608 - 7 * 649;
+  const std::string before = kit::Films(1, 8).substr(0, 8 * 649 - 1), saved = kit::FilmBytes(8, 1);
+  std::string torn = before;
+  torn.replace(7 * 649, Border, saved, 0, Border);
+  Put(torn, before);
+  NoteSave({"Recpra.Dat", 8, 8 * 649 - 1, before.substr(7 * 649) + '\0', saved});
+  ExpectReadAsWhole();
+  EXPECT_EQ(FilmsHere("restore-backup"), before);
+}
+
 TEST_F(CutOffSave, IsMergedAndPutBackAsTheNewFilm) {
   EXPECT_EQ(FilmsHere("merge"), With(kit::FilmBytes(Slot, 1)));
   EXPECT_EQ(FilmsHere("restore-backup"), With(kit::FilmBytes(Slot, 1)));
