@@ -28,9 +28,9 @@ std::vector<std::string> Superseded(const std::vector<std::string>& names, std::
 bool HasFilms(runtime::Disk& collection);
 
 // Copies the master file if it differs from the newest copy that is not from more than a day ahead, and removes what is
-// superseded. No file is replaced. The folder must be locked:
-// a save that a stop has cut off is finished first. Returns the new copy's name, "" if none was needed or there are no
-// films yet. Throws the Failure of a copy that could not be made; a superseded copy that cannot be removed stays.
+// superseded. No file is replaced. The folder must be locked: a save that a stop has cut off is finished first. Returns
+// the new copy's name, "" if none was needed or there are no films yet. Throws the Failure of a copy that could not be
+// made; a superseded copy that cannot be removed stays.
 std::string KeepCopy(runtime::Disk& collection, runtime::Disk& copies, std::chrono::local_seconds now);
 
 }  // namespace launcher

@@ -62,7 +62,7 @@ class OpenFile {
   int handle_;
 };
 
-// Whether List tells what is in the folder; true if it is missing. A folder that nobody may read is listed as empty.
+// False if the user may not list the folder, or it is none: List calls it empty. True if it is missing.
 bool CanBeListed(Disk& disk, const std::string& folder);
 
 // Whether the file's name still leads to it, and not to another one or to none.
